@@ -1,0 +1,47 @@
+# ombrin_add_test(NAME SOURCES file... [LIBRARIES target...] [WINDOW_SYSTEM] [SCALE_FACTORS factor...])
+#
+# Adds a Qt Test program. It runs on Qt's offscreen platform; with WINDOW_SYSTEM it runs under an X
+# server and a window manager of its own instead. When cross compiling for Windows every test runs
+# on the real platform plug-in through the emulator, and WINDOW_SYSTEM tests, which drive X11 from
+# outside, are left out. For every factor in SCALE_FACTORS the program runs once more at that
+# display scale.
+function(ombrin_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW_SYSTEM" "" "SOURCES;LIBRARIES;SCALE_FACTORS")
+  if(arg_WINDOW_SYSTEM AND WIN32)
+    return()
+  endif()
+
+  add_executable(${name} ${arg_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ombrin_test_support ${arg_LIBRARIES})
+  add_dependencies(${name} ombrin_skin)
+
+  if(WIN32)
+    set(environment "")
+    set(launcher "")
+  elseif(arg_WINDOW_SYSTEM)
+    set(environment "QT_QPA_PLATFORM=xcb")
+    set(launcher "${PROJECT_SOURCE_DIR}/tests/support/with-x11")
+  else()
+    set(environment "QT_QPA_PLATFORM=offscreen")
+    set(launcher "")
+  endif()
+  list(APPEND environment
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+
+  foreach(factor IN ITEMS 1 LISTS arg_SCALE_FACTORS)
+    set(test_name ${name})
+    set(test_environment ${environment})
+    if(NOT factor EQUAL 1)
+      string(APPEND test_name "@${factor}")
+      list(APPEND test_environment "QT_SCALE_FACTOR=${factor}")
+    endif()
+    if(launcher)
+      add_test(NAME ${test_name} COMMAND ${launcher} $<TARGET_FILE:${name}>)
+    else()
+      add_test(NAME ${test_name} COMMAND ${name})
+    endif()
+    set_tests_properties(${test_name} PROPERTIES
+      ENVIRONMENT "${test_environment}" TIMEOUT 300)
+  endforeach()
+endfunction()

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+/// \file
+/// Export macros of the two libraries.
+///
+/// \c OMBRIN_AUTOTEST_EXPORT marks classes that are not part of the interface and that only the
+/// library's own tests link to: they are exported in builds with tests and hidden in all others.
+
+#ifdef OMBRIN_BUILD_CORE
+#define OMBRIN_CORE_EXPORT Q_DECL_EXPORT
+#else
+#define OMBRIN_CORE_EXPORT Q_DECL_IMPORT
+#endif
+
+#ifdef OMBRIN_BUILD_GUI
+#define OMBRIN_GUI_EXPORT Q_DECL_EXPORT
+#else
+#define OMBRIN_GUI_EXPORT Q_DECL_IMPORT
+#endif
+
+#ifdef OMBRIN_AUTOTEST
+#define OMBRIN_AUTOTEST_EXPORT OMBRIN_GUI_EXPORT
+#else
+#define OMBRIN_AUTOTEST_EXPORT
+#endif
+
+/// The library's namespace.
+namespace ombrin {}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <ombrin/OmGlobal.h>
+
+#include <cstdint>
+
+/// The one door to the window system: what frames and helpers need of a native window beyond what
+/// Qt offers. Written in plain types, so that each platform's source stands alone.
+///
+/// A handle of 0, or of a window that no longer exists, makes every function do nothing.
+namespace ombrin::NativeWindow {
+
+/// A native window as QWidget::winId() names it.
+using Handle = std::uintptr_t;
+
+/// Gives a frameless window the system menu and the minimise and maximise boxes, so that the task
+/// bar offers them.
+OMBRIN_AUTOTEST_EXPORT void addSystemBoxes(Handle window);
+
+/// Adds the maximise box or takes it away.
+OMBRIN_AUTOTEST_EXPORT void setMaximizeBox(Handle window, bool on);
+
+/// Keeps the window above all others, or lets it go.
+OMBRIN_AUTOTEST_EXPORT void setStayOnTop(Handle window, bool on);
+
+/// Raises the window above all windows that are not kept on top, without leaving it there.
+OMBRIN_AUTOTEST_EXPORT void bringToFront(Handle window);
+
+/// Flashes the window's caption and task-bar button three times, or marks the window as demanding
+/// attention where the window system has no flashing.
+OMBRIN_AUTOTEST_EXPORT void flash(Handle window);
+
+/// When \a message, a native message as QWidget::nativeEvent() passes it, asks for the limits of
+/// the window's size: answers \a width and \a height (native pixels) as its size when maximised and
+/// returns true. Does nothing for any other message.
+OMBRIN_AUTOTEST_EXPORT bool answerMaximumSize(void *message, int width, int height);
+
+} // namespace ombrin::NativeWindow

@@ -7,7 +7,8 @@
 /// The one door to the window system: what frames and helpers need of a native window beyond what
 /// Qt offers. Written in plain types, so that each platform's source stands alone.
 ///
-/// A handle of 0, or of a window that no longer exists, makes every function do nothing.
+/// A handle of 0, or of a window that no longer exists, makes every function do nothing. No
+/// function creates a native window, replaces it with another or runs the event loop.
 namespace ombrin::NativeWindow {
 
 /// A native window as QWidget::winId() names it.
@@ -23,7 +24,9 @@ OMBRIN_AUTOTEST_EXPORT void setMaximizeBox(Handle window, bool on);
 /// Keeps the window above all others, or lets it go.
 OMBRIN_AUTOTEST_EXPORT void setStayOnTop(Handle window, bool on);
 
-/// Raises the window above all windows that are not kept on top, without leaving it there.
+/// Raises the window above all windows that are not kept on top, without leaving it there: a window
+/// that was kept on top no longer is. While the application is the active one, the window becomes
+/// the active window. Wayland lets no window raise itself.
 OMBRIN_AUTOTEST_EXPORT void bringToFront(Handle window);
 
 /// Flashes the window's caption and task-bar button three times, or marks the window as demanding

@@ -133,8 +133,8 @@ function(ombrin_add_skin_resource)
   file(GENERATE OUTPUT "${listing}" CONTENT
     "<!DOCTYPE RCC><RCC version=\"1.0\">\n  <qresource prefix=\"/\">\n${entries}  </qresource>\n</RCC>\n")
 
-  # PNG is compressed already, and Qt need not unpack the file to map it. The first format version
-  # holds no file dates: the same drawings give the same bytes on every machine.
+  # PNG is compressed already, and an uncompressed file is mapped, not unpacked. The first format
+  # version holds no file dates, so that building twice gives the same bytes.
   get_filename_component(output_folder "${arg_OUTPUT}" DIRECTORY)
   add_custom_command(OUTPUT "${arg_OUTPUT}"
     COMMAND "${CMAKE_COMMAND}" -E make_directory "${output_folder}"

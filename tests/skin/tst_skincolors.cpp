@@ -1,0 +1,142 @@
+#include "support/TestCase.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QResource>
+#include <QtCore/QSettings>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtWidgets/QLabel>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString skinFolder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/skins");
+}
+
+double luminance(QRgb rgb)
+{
+    const auto linear = [](int channel) {
+        const double value = channel / 255.0;
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(rgb)) + 0.7152 * linear(qGreen(rgb)) + 0.0722 * linear(qBlue(rgb));
+}
+
+double contrast(QRgb a, QRgb b)
+{
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QRgb paletteColor(const QSettings &palette, const QString &group, const QString &role)
+{
+    return QColor(palette.value(group + QLatin1Char('/') + role).toString()).rgb();
+}
+
+} // namespace
+
+class tst_SkinColors : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void titleTextIsReadable_data();
+    void titleTextIsReadable();
+    void paletteIsComplete();
+    void paletteTextIsReadable_data();
+    void paletteTextIsReadable();
+    void styleSheetIsValid();
+};
+
+void tst_SkinColors::initTestCase()
+{
+    QVERIFY(QResource::registerResource(skinFolder() + QStringLiteral("/default/default.res")));
+}
+
+void tst_SkinColors::titleTextIsReadable_data()
+{
+    QTest::addColumn<QString>("band");
+    QTest::addColumn<QColor>("text");
+    QTest::newRow("active") << QStringLiteral("top_center_active") << QColor(Qt::black);
+    QTest::newRow("inactive") << QStringLiteral("top_center_inactive") << QColor(Qt::white);
+}
+
+void tst_SkinColors::titleTextIsReadable()
+{
+    QFETCH(QString, band);
+    QFETCH(QColor, text);
+    const QImage image(QStringLiteral(":/") + band);
+    QCOMPARE(image.height(), 30);
+    for (int y = 2; y < 29; ++y) {
+        const double ratio = contrast(image.pixel(0, y), text.rgb());
+        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("row %1: %2").arg(y).arg(ratio)));
+    }
+}
+
+void tst_SkinColors::paletteIsComplete()
+{
+    const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
+                            QSettings::IniFormat);
+    const QStringList keys = palette.allKeys();
+    QCOMPARE(keys.size(), 3 * 17);
+    for (const QString &key : keys)
+        QVERIFY2(QColor(palette.value(key).toString()).isValid(), qPrintable(key));
+}
+
+void tst_SkinColors::paletteTextIsReadable_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("ground");
+    const char *pairs[][2] = {{"WindowText", "Window"},
+                              {"Text", "Base"},
+                              {"Text", "AlternateBase"},
+                              {"Text", "Window"},
+                              {"ButtonText", "Button"},
+                              {"HighlightedText", "Highlight"},
+                              {"BrightText", "Shadow"},
+                              {"Link", "Window"},
+                              {"Link", "Base"},
+                              {"Link", "AlternateBase"},
+                              {"LinkVisited", "Window"},
+                              {"LinkVisited", "Base"},
+                              {"LinkVisited", "AlternateBase"}};
+    for (const auto &[text, ground] : pairs) {
+        QTest::addRow("%s on %s", text, ground)
+                << QString::fromLatin1(text) << QString::fromLatin1(ground);
+    }
+}
+
+void tst_SkinColors::paletteTextIsReadable()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, ground);
+    const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
+                            QSettings::IniFormat);
+    for (const char *name : {"Active", "Disabled", "Inactive"}) {
+        const QString group = QString::fromLatin1(name);
+        const double ratio =
+                contrast(paletteColor(palette, group, text), paletteColor(palette, group, ground));
+        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1: %2").arg(group).arg(ratio)));
+    }
+}
+
+void tst_SkinColors::styleSheetIsValid()
+{
+    QFile file(skinFolder() + QStringLiteral("/default/default.css"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString styleSheet = QString::fromUtf8(file.readAll());
+    QVERIFY(styleSheet.contains(QLatin1String("QToolTip")));
+
+    // Qt warns about a sheet that it cannot parse when the first widget is polished with it.
+    qApp->setStyleSheet(styleSheet);
+    QLabel().ensurePolished();
+    qApp->setStyleSheet(QString());
+}
+
+OMBRIN_TEST_MAIN(tst_SkinColors)
+#include "tst_skincolors.moc"

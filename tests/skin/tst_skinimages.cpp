@@ -1,0 +1,468 @@
+#include "support/TestCase.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QResource>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+
+#include <cstdlib>
+#include <functional>
+
+namespace {
+
+enum class Alpha {
+    Opaque, // covers its whole rectangle
+    Cut,    // hard edges: a pixel is there or it is not
+    Free,   // any shape
+};
+
+/// Pictures of one size: \a pattern with every word of \a words in the place of %1.
+struct Group
+{
+    const char *pattern;
+    const char *words;
+    int width;
+    int height;
+    Alpha alpha;
+};
+
+constexpr int densities[] = {1, 2, 3};
+constexpr char activations[] = "active inactive";
+constexpr char hoverStates[] = "normal hover";
+constexpr char comboStates[] = "normal hover disabled clicked";
+constexpr char foldStates[] = "open closed";
+constexpr char buttonStates[] = "up_active down_active hover_active disabled_active "
+                                "up_inactive down_inactive hover_inactive disabled_inactive";
+constexpr char stars[] = "empty half full empty_hover half_hover full_hover";
+constexpr char captureStates[] = " -hover -pressed";
+constexpr char seconds[] = "1 2 3 4 5 6 7 8 9 10";
+
+constexpr Group styleGroups[] = {
+        {"top_left_%1", activations, 86, 30, Alpha::Cut},
+        {"top_center_%1", activations, 8, 30, Alpha::Opaque},
+        {"top_right_%1", activations, 88, 30, Alpha::Cut},
+        {"left_%1", activations, 5, 8, Alpha::Opaque},
+        {"right_%1", activations, 5, 8, Alpha::Opaque},
+        {"bottom_left_%1", activations, 5, 5, Alpha::Cut},
+        {"bottom_right_%1", activations, 5, 5, Alpha::Cut},
+        {"bottom_center_%1", activations, 8, 5, Alpha::Opaque},
+        {"minimize_%1", buttonStates, 24, 20, Alpha::Cut},
+        {"maximize_%1", buttonStates, 24, 20, Alpha::Cut},
+        {"restore_%1", buttonStates, 24, 20, Alpha::Cut},
+        {"close_%1", buttonStates, 24, 20, Alpha::Cut},
+        {"scrollbar_vertical_right_%1", hoverStates, 16, 16, Alpha::Free},
+        {"scrollbar_vertical_left_%1", hoverStates, 16, 16, Alpha::Free},
+        {"scrollbar_horizontal_down_%1", hoverStates, 16, 16, Alpha::Free},
+        {"scrollbar_horizontal_up_%1", hoverStates, 16, 16, Alpha::Free},
+        {"scrollbar_horizontal_trackbar_%1", hoverStates, 48, 16, Alpha::Cut},
+        {"scrollbar_vertical_trackbar_%1", hoverStates, 16, 48, Alpha::Cut},
+        {"combobox_arrow_%1", comboStates, 15, 7, Alpha::Free},
+};
+
+constexpr Group widgetGroups[] = {
+        {"header_%1", foldStates, 24, 24, Alpha::Free},
+        {"treeview_%1", foldStates, 24, 24, Alpha::Free},
+        {"%1-16",
+         "chat exit phone filetransfer webfolder profile block authorization save addsmiley close "
+         "delete is_typing is_talking",
+         16, 16, Alpha::Free},
+        {"%1-14", "search erase-left", 14, 14, Alpha::Free},
+        {"%1-24", "zoom+", 24, 24, Alpha::Free},
+        {"%1-32", "chat unblock addmulti", 32, 32, Alpha::Free},
+        {"%1-78", "no_userpic", 78, 78, Alpha::Opaque},
+        {"star_%1-32", stars, 32, 32, Alpha::Free},
+        {"snapshot-snap%1-32.png", captureStates, 32, 32, Alpha::Free},
+        {"snapshot-close%1-32.png", captureStates, 32, 32, Alpha::Free},
+        {"countdown-%1-128.png", seconds, 128, 128, Alpha::Free},
+        {"countdown-snap%1-64.png", captureStates, 64, 64, Alpha::Free},
+};
+
+QStringList namesOf(const Group &group)
+{
+    QStringList names;
+    const QStringList words = QString::fromLatin1(group.words).split(QLatin1Char(' '));
+    for (const QString &word : words)
+        names.append(QString::fromLatin1(group.pattern).arg(word));
+    return names;
+}
+
+/// Calls \a visit with every group of pictures.
+void forEachGroup(const std::function<void(const Group &)> &visit)
+{
+    for (const Group &group : styleGroups)
+        visit(group);
+    for (const Group &group : widgetGroups)
+        visit(group);
+}
+
+QString densityName(const QString &name, int density)
+{
+    if (density == 1)
+        return name;
+    const QString mark = QStringLiteral("@%1x").arg(density);
+    if (!name.endsWith(QLatin1String(".png")))
+        return name + mark;
+    return name.chopped(4) + mark + QStringLiteral(".png");
+}
+
+QString skinFile(const char *name)
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/skins/")
+           + QString::fromLatin1(name);
+}
+
+QImage load(const QString &name, int density = 1)
+{
+    return QImage(QStringLiteral(":/") + densityName(name, density))
+            .convertToFormat(QImage::Format_ARGB32);
+}
+
+bool allPixels(const QImage &image, const std::function<bool(int x, int y)> &holds)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (!holds(x, y))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool allAlphas(const QImage &image, const std::function<bool(int alpha)> &holds)
+{
+    return allPixels(image, [&](int x, int y) { return holds(qAlpha(image.pixel(x, y))); });
+}
+
+/// Whether two colours are the same but for the last bit, as blending rounds it.
+bool isAlike(QRgb a, QRgb b)
+{
+    const QRgb left = qPremultiply(a);
+    const QRgb right = qPremultiply(b);
+    return std::abs(qRed(left) - qRed(right)) <= 1 && std::abs(qGreen(left) - qGreen(right)) <= 1
+           && std::abs(qBlue(left) - qBlue(right)) <= 1 && qAlpha(left) == qAlpha(right);
+}
+
+QImage over(const QImage &top, QImage ground)
+{
+    QPainter(&ground).drawImage(0, 0, top);
+    return ground;
+}
+
+/// How many pixels of \a a and \a b differ for an eye that sees no colours.
+int differingPixels(const QImage &a, const QImage &b, const QColor &ground)
+{
+    QImage canvas(a.size(), QImage::Format_ARGB32);
+    canvas.fill(ground);
+    const QImage left = over(a, canvas);
+    const QImage right = over(b, canvas);
+    int count = 0;
+    allPixels(left, [&](int x, int y) {
+        const int distance = qGray(left.pixel(x, y)) - qGray(right.pixel(x, y));
+        count += std::abs(distance) >= 10 ? 1 : 0;
+        return true;
+    });
+    return count;
+}
+
+} // namespace
+
+class tst_SkinImages : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyPictureIsThereInEveryDensity_data();
+    void everyPictureIsThereInEveryDensity();
+    void filesHoldTheListedPicturesOnly();
+    void framePiecesMeetWithoutSeam_data();
+    void framePiecesMeetWithoutSeam();
+    void frameBorderFollowsTheCutCorners_data() { framePiecesMeetWithoutSeam_data(); }
+    void frameBorderFollowsTheCutCorners();
+    void titleButtonsKeepTheirShape();
+    void statesDiffer_data();
+    void statesDiffer();
+    void sliderIsPlainAlongTheBar();
+    void halfStarRegistersWithEmptyAndFullStar();
+    void countdownHasADarkAndALightEdge();
+    void placeholderIsAMarginAtEveryScale();
+};
+
+void tst_SkinImages::initTestCase()
+{
+    QVERIFY(QResource::registerResource(skinFile("default/default.res")));
+    QVERIFY(QResource::registerResource(skinFile("ombrin.res")));
+}
+
+void tst_SkinImages::everyPictureIsThereInEveryDensity_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("alpha");
+    forEachGroup([](const Group &group) {
+        const QStringList names = namesOf(group);
+        for (const QString &name : names) {
+            QTest::newRow(qPrintable(name))
+                    << name << QSize(group.width, group.height) << int(group.alpha);
+        }
+    });
+}
+
+void tst_SkinImages::everyPictureIsThereInEveryDensity()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    QFETCH(int, alpha);
+    for (const int density : densities) {
+        const QImage image = load(name, density);
+        QCOMPARE(image.size(), size * density);
+        QVERIFY(!allAlphas(image, [](int value) { return value == 0; }));
+        QCOMPARE(allAlphas(image, [](int value) { return value == 255; }),
+                 Alpha(alpha) == Alpha::Opaque);
+        const int strength = qAlpha(image.pixel(image.rect().center()));
+        const bool isCut = allAlphas(image, [&](int a) { return a == 0 || a == strength; });
+        QVERIFY(isCut || Alpha(alpha) == Alpha::Free);
+    }
+}
+
+void tst_SkinImages::filesHoldTheListedPicturesOnly()
+{
+    const auto compare = [](const char *file, const auto &groups) {
+        QStringList expected;
+        for (const Group &group : groups) {
+            const QStringList names = namesOf(group);
+            for (const QString &name : names) {
+                for (const int density : densities)
+                    expected.append(densityName(name, density));
+            }
+        }
+        expected.sort();
+        const QString root = QStringLiteral("/alone");
+        QVERIFY(QResource::registerResource(skinFile(file), root));
+        QStringList found = QDir(QLatin1Char(':') + root).entryList();
+        QVERIFY(QResource::unregisterResource(skinFile(file), root));
+        found.sort();
+        QCOMPARE(found, expected);
+    };
+    compare("default/default.res", styleGroups);
+    compare("ombrin.res", widgetGroups);
+}
+
+void tst_SkinImages::framePiecesMeetWithoutSeam_data()
+{
+    QTest::addColumn<QString>("activation");
+    QTest::addColumn<int>("density");
+    for (const char *activation : {"active", "inactive"}) {
+        for (const int density : densities) {
+            QTest::addRow("%s@%d", activation, density)
+                    << QString::fromLatin1(activation) << density;
+        }
+    }
+}
+
+void tst_SkinImages::framePiecesMeetWithoutSeam()
+{
+    QFETCH(QString, activation);
+    QFETCH(int, density);
+    const auto piece = [&](const char *name) {
+        return load(QLatin1String(name) + QLatin1Char('_') + activation, density);
+    };
+    const auto column = [](const QImage &image, int x) {
+        return image.copy(x, 0, 1, image.height());
+    };
+    const int side = 5 * density;
+    const auto row = [side](const QImage &image, int y, int x = 0) {
+        return image.copy(x, y, side, 1);
+    };
+
+    // What is stretched looks the same all along.
+    const QImage top = piece("top_center");
+    const QImage bottom = piece("bottom_center");
+    for (int x = 1; x < top.width(); ++x) {
+        QCOMPARE(column(top, x), column(top, 0));
+        QCOMPARE(column(bottom, x), column(bottom, 0));
+    }
+    const QImage left = piece("left");
+    const QImage right = piece("right");
+    for (int y = 1; y < left.height(); ++y) {
+        QCOMPARE(row(left, y), row(left, 0));
+        QCOMPARE(row(right, y), row(right, 0));
+    }
+
+    // Its neighbours end as it begins.
+    const QImage topLeft = piece("top_left");
+    const QImage topRight = piece("top_right");
+    const QImage bottomLeft = piece("bottom_left");
+    const QImage bottomRight = piece("bottom_right");
+    QCOMPARE(column(topLeft, topLeft.width() - 1), column(top, 0));
+    QCOMPARE(column(topRight, 0), column(top, 0));
+    QCOMPARE(column(bottomLeft, side - 1), column(bottom, 0));
+    QCOMPARE(column(bottomRight, 0), column(bottom, 0));
+    QCOMPARE(row(topLeft, topLeft.height() - 1), row(left, 0));
+    QCOMPARE(row(topRight, topRight.height() - 1, topRight.width() - side), row(right, 0));
+    QCOMPARE(row(bottomLeft, 0), row(left, 0));
+    QCOMPARE(row(bottomRight, 0), row(right, 0));
+}
+
+void tst_SkinImages::frameBorderFollowsTheCutCorners()
+{
+    QFETCH(QString, activation);
+    QFETCH(int, density);
+    const struct
+    {
+        const char *piece;
+        bool right;
+        bool bottom;
+    } corners[] = {{"top_left_", false, false},
+                   {"top_right_", true, false},
+                   {"bottom_left_", false, true},
+                   {"bottom_right_", true, true}};
+    const QRgb border = load(QStringLiteral("top_center_") + activation).pixel(0, 0);
+    for (const auto &corner : corners) {
+        const QImage image = load(QLatin1String(corner.piece) + activation, density)
+                                     .mirrored(corner.right, corner.bottom);
+        // The window's mask takes these away; without a mask they must not show either.
+        for (const QPoint &cut : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1)})
+            QCOMPARE(qAlpha(image.pixel(cut * density)), 0);
+        for (const QPoint &edge : {QPoint(2, 0), QPoint(1, 1), QPoint(0, 2), QPoint(0, 3)})
+            QCOMPARE(image.pixel(edge * density), border);
+        QVERIFY(image.pixel(QPoint(2, 2) * density) != border);
+    }
+}
+
+void tst_SkinImages::titleButtonsKeepTheirShape()
+{
+    for (const char *pattern : {"minimize_%1", "maximize_%1", "restore_%1", "close_%1"}) {
+        const QStringList names = namesOf({pattern, buttonStates, 24, 20, Alpha::Cut});
+        for (const int density : densities) {
+            const QImage mask = load(names.first(), density);
+            QVERIFY(allAlphas(mask, [](int alpha) { return alpha == 0 || alpha == 255; }));
+            for (const QString &name : names) {
+                const QImage state = load(name, density);
+                const auto isSame = [&](int x, int y) {
+                    return (qAlpha(state.pixel(x, y)) > 0) == (qAlpha(mask.pixel(x, y)) > 0);
+                };
+                QVERIFY2(allPixels(state, isSame), qPrintable(name));
+            }
+        }
+    }
+}
+
+void tst_SkinImages::statesDiffer_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QColor>("ground");
+    forEachGroup([](const Group &group) {
+        const QStringList names = namesOf(group);
+        const QColor window(0xefeff0);
+        if (group.words == buttonStates) {
+            QTest::newRow(qPrintable(names.first()))
+                    << QStringList(names.mid(0, 4)) << QColor(0xeceef1);
+            QTest::newRow(qPrintable(names.last()))
+                    << QStringList(names.mid(4)) << QColor(0x6b727b);
+        } else if (names.size() > 1) {
+            QTest::newRow(qPrintable(names.first())) << names << window;
+        }
+    });
+}
+
+void tst_SkinImages::statesDiffer()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QColor, ground);
+    for (int i = 0; i < names.size(); ++i) {
+        const QImage image = load(names.at(i));
+        // A sixteenth of the picture, or the strokes of a small sign.
+        const int least = qBound(8, image.width() * image.height() / 16, 300);
+        for (int j = 0; j < i; ++j) {
+            const int count = differingPixels(image, load(names.at(j)), ground);
+            QVERIFY2(count >= least,
+                     qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
+                                        .arg(names.at(i), names.at(j), QString::number(count))));
+        }
+    }
+}
+
+void tst_SkinImages::sliderIsPlainAlongTheBar()
+{
+    for (const char *state : {"normal", "hover"}) {
+        const QString name = QStringLiteral("scrollbar_%1_trackbar_%2");
+        const QImage lying = load(name.arg(QStringLiteral("horizontal"), QLatin1String(state)));
+        const QImage standing = load(name.arg(QStringLiteral("vertical"), QLatin1String(state)));
+        QVERIFY(allPixels(lying, [&](int x, int y) {
+            return lying.pixel(x, y) == lying.pixel(0, y)
+                   && standing.pixel(y, x) == lying.pixel(x, y);
+        }));
+    }
+}
+
+void tst_SkinImages::halfStarRegistersWithEmptyAndFullStar()
+{
+    for (const int density : densities) {
+        const auto star = [density](const char *kind) {
+            return load(QStringLiteral("star_%1-32").arg(QLatin1String(kind)), density);
+        };
+        // Laid over the empty star at rest, standing by itself under the mouse.
+        const struct
+        {
+            QImage half;
+            QImage empty;
+            QImage full;
+        } sets[] = {{over(star("half"), star("empty")), star("empty"), star("full")},
+                    {star("half_hover"), star("empty_hover"), star("full_hover")}};
+        for (const auto &set : sets) {
+            QVERIFY(allPixels(set.half, [&](int x, int y) {
+                const QRgb half = set.half.pixel(x, y);
+                const QRgb full = set.full.pixel(x, y);
+                if (qAlpha(full) != qAlpha(set.empty.pixel(x, y)))
+                    return false;
+                if (x >= set.half.width() / 2)
+                    return isAlike(half, set.empty.pixel(x, y));
+                return qAlpha(full) < 255 || isAlike(half, full);
+            }));
+        }
+    }
+}
+
+void tst_SkinImages::countdownHasADarkAndALightEdge()
+{
+    // These stand alone on the desktop, cut out along their alpha and drawn without it: a soft or
+    // a light outermost edge would end in ragged steps.
+    const QStringList names = namesOf({"countdown-%1-128.png", seconds, 128, 128, Alpha::Free})
+                              + namesOf({"countdown-snap%1-64.png", "", 64, 64, Alpha::Free});
+    for (const QString &name : names) {
+        for (const int density : densities) {
+            const QImage image = load(name, density);
+            const int middle = image.height() / 2;
+            QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+            QCOMPARE(qAlpha(image.pixel(middle, middle)), 255);
+            QVERIFY(allPixels(image, [&](int x, int y) {
+                const QRgb pixel = image.pixel(x, y);
+                return qAlpha(pixel) == 0 || qAlpha(pixel) == 255 || qGray(pixel) < 64;
+            }));
+            const QRgb light = image.pixel(4 * density, middle);
+            QVERIFY(qGray(light) > 200 && qAlpha(light) == 255);
+        }
+    }
+}
+
+void tst_SkinImages::placeholderIsAMarginAtEveryScale()
+{
+    // A picture drawn over it leaves two pixels all round: an even, quiet grey line.
+    const QImage placeholder = load(QStringLiteral("no_userpic-78"));
+    for (const int side : {28, 46, 74, 78}) {
+        const QImage scaled =
+                placeholder.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        const QRgb line = scaled.pixel(side / 2, 0);
+        QVERIFY(qGray(line) >= 180 && qGray(line) <= 225);
+        for (int i = 2; i < side - 2; ++i) {
+            for (const QRgb pixel : {scaled.pixel(i, 0), scaled.pixel(i, side - 1),
+                                     scaled.pixel(0, i), scaled.pixel(side - 1, i)})
+                QVERIFY(std::abs(qGray(pixel) - qGray(line)) <= 4);
+        }
+    }
+}
+
+OMBRIN_TEST_MAIN(tst_SkinImages)
+#include "tst_skinimages.moc"

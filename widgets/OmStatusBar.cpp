@@ -1,0 +1,40 @@
+#include <ombrin/OmStatusBar.h>
+
+#include <QtGui/QLinearGradient>
+#include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
+
+namespace ombrin {
+
+namespace {
+
+// From the middle of the bottom row to the middle of the top row, so that these two rows have
+// exactly the colours of the outer stops.
+QLinearGradient backgroundFor(const QRect &rect)
+{
+    QLinearGradient gradient(rect.left(), rect.bottom() + 0.5, rect.left(), rect.top() + 0.5);
+    gradient.setColorAt(0.0, QColor(232, 232, 232));
+    gradient.setColorAt(0.5, QColor(228, 228, 228));
+    gradient.setColorAt(0.95, QColor(207, 207, 207));
+    gradient.setColorAt(1.0, QColor(183, 183, 182));
+    return gradient;
+}
+
+} // namespace
+
+OmStatusBar::OmStatusBar(QWidget *parent)
+    : QStatusBar(parent)
+{}
+
+OmStatusBar::~OmStatusBar() = default;
+
+void OmStatusBar::paintEvent(QPaintEvent *e)
+{
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), backgroundFor(rect()));
+    }
+    QStatusBar::paintEvent(e);
+}
+
+} // namespace ombrin

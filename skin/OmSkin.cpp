@@ -2,6 +2,8 @@
 
 #include <ombrin/OmStyle2.h>
 
+#include "skin/ResourceFile.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QResource>
 #include <QtCore/QSettings>
@@ -58,11 +60,19 @@ QString skinFile(const char *name)
             .arg(QCoreApplication::applicationDirPath(), QLatin1String(name));
 }
 
+void registerResource(const QString &path)
+{
+    if (isIntactResourceFile(path))
+        QResource::registerResource(path);
+}
+
 } // namespace
 
 void OmSkin::init(bool useSkin)
 {
     g_useSkin = useSkin;
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
+        return;
     if (!g_initialised) {
         loadGlobalPalette();
         loadResources();
@@ -102,8 +112,8 @@ void OmSkin::loadPaletteEntry(QPalette::ColorGroup group, const QString &groupNa
 
 void OmSkin::loadResources()
 {
-    QResource::registerResource(skinFile("default/default.res"));
-    QResource::registerResource(skinFile("ombrin.res"));
+    registerResource(skinFile("default/default.res"));
+    registerResource(skinFile("ombrin.res"));
 }
 
 void OmSkin::loadProxyStyle()

@@ -1,6 +1,5 @@
 #include "skin/SkinPixmap.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QHash>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImageReader>
@@ -17,7 +16,8 @@ constexpr int kMaxDensity = 3;
 
 int densityFor(qreal devicePixelRatio)
 {
-    if (devicePixelRatio <= 0)
+    // Also when it is not a number.
+    if (!(devicePixelRatio > 0))
         devicePixelRatio = qApp ? qApp->devicePixelRatio() : 1.0;
     return std::clamp(static_cast<int>(std::ceil(std::min(devicePixelRatio, 16.0))), 1,
                       kMaxDensity);
@@ -48,13 +48,11 @@ QImage readLimited(const QString &path)
 QImage loadAtDensity(const QString &path, int density)
 {
     for (int candidate = density; candidate >= 1; --candidate) {
-        const QString variant = variantPath(path, candidate);
-        if (!QFile::exists(variant))
-            continue;
-        QImage image = readLimited(variant);
+        QImage image = readLimited(variantPath(path, candidate));
         if (image.isNull())
             continue;
-        image.setDevicePixelRatio(candidate);
+        if (candidate > 1)
+            image.setDevicePixelRatio(candidate);
         return image;
     }
     return QImage();

@@ -35,10 +35,12 @@ namespace ombrin {
 /// reads it.
 ///
 /// Nothing here reports an error. A missing or unreadable file leaves out what it would have given:
-/// without images widgets show none, without a style sheet none is set, and a palette entry that is
-/// missing or makes no sense becomes an invalid colour, which paints black.
+/// without images widgets show none, without a style sheet an empty one is set, and a palette entry
+/// that is missing or makes no sense becomes an invalid colour, which paints black. A truncated or
+/// damaged resource file is left out as a whole.
 ///
-/// To be used from the GUI thread, while the QApplication exists.
+/// To be used from the GUI thread, while the QApplication exists; without one init() installs
+/// nothing, and the next call counts as the first.
 class OMBRIN_GUI_EXPORT OmSkin
 {
 public:

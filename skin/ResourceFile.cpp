@@ -1,0 +1,114 @@
+#include "skin/ResourceFile.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QtEndian>
+
+#include <limits>
+#include <vector>
+
+namespace ombrin {
+
+namespace {
+
+constexpr quint32 kNewestFormat = 3;
+constexpr qint64 kHeaderSize = 20;
+// Format 1. From format 2 on a node ends with a date of 8 bytes.
+constexpr qint64 kNodeSize = 14;
+constexpr qint64 kDateSize = 8;
+constexpr quint16 kDirectoryFlag = 2;
+
+class ResourceFile
+{
+public:
+    ResourceFile(const uchar *bytes, qint64 size)
+        : m_bytes(bytes)
+        , m_size(size)
+    {}
+
+    bool isIntact()
+    {
+        if (!holds(0, kHeaderSize) || qstrncmp(reinterpret_cast<const char *>(m_bytes), "qres", 4))
+            return false;
+        const quint32 format = read32(4);
+        if (format > kNewestFormat)
+            return true;
+        m_nodeSize = kNodeSize + (format >= 2 ? kDateSize : 0);
+        m_tree = read32(8);
+        m_data = read32(12);
+        m_names = read32(16);
+        return isTreeIntact();
+    }
+
+private:
+    bool holds(qint64 offset, qint64 length) const { return offset + length <= m_size; }
+    quint16 read16(qint64 offset) const { return qFromBigEndian<quint16>(m_bytes + offset); }
+    quint32 read32(qint64 offset) const { return qFromBigEndian<quint32>(m_bytes + offset); }
+
+    // A node is a name, flags, and either the number of children and the first of them, or language
+    // and territory and the place of the file's contents. Children come after their parent and
+    // belong to one parent only, else looking through the tree would never end.
+    bool isTreeIntact() const
+    {
+        std::vector<qint64> pending{0};
+        qint64 firstFree = 1;
+        while (!pending.empty()) {
+            const qint64 node = pending.back();
+            pending.pop_back();
+            const qint64 offset = m_tree + node * m_nodeSize;
+            if (!holds(offset, m_nodeSize) || (node > 0 && !isNameIntact(read32(offset))))
+                return false;
+            if (!(read16(offset + 4) & kDirectoryFlag)) {
+                if (!isContentIntact(read32(offset + 10)))
+                    return false;
+                continue;
+            }
+            const qint64 count = read32(offset + 6);
+            const qint64 first = read32(offset + 10);
+            if (count > 0 && (first <= node || !holds(m_tree, (first + count) * m_nodeSize)))
+                return false;
+            firstFree += count;
+            if (!holds(m_tree, firstFree * m_nodeSize))
+                return false;
+            for (qint64 child = first; child < first + count; ++child)
+                pending.push_back(child);
+        }
+        return true;
+    }
+
+    // Length in characters, hash, characters.
+    bool isNameIntact(qint64 name) const
+    {
+        const qint64 offset = m_names + name;
+        return holds(offset, 6) && holds(offset + 6, 2 * qint64(read16(offset)));
+    }
+
+    // Length in bytes, bytes.
+    bool isContentIntact(qint64 content) const
+    {
+        const qint64 offset = m_data + content;
+        return holds(offset, 4) && holds(offset + 4, read32(offset));
+    }
+
+    const uchar *m_bytes;
+    qint64 m_size;
+    qint64 m_nodeSize = kNodeSize;
+    qint64 m_tree = 0;
+    qint64 m_data = 0;
+    qint64 m_names = 0;
+};
+
+} // namespace
+
+bool isIntactResourceFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    // Qt's own offsets are signed 32-bit numbers.
+    if (file.size() > std::numeric_limits<qint32>::max())
+        return false;
+    const uchar *const bytes = file.map(0, file.size());
+    return bytes && ResourceFile(bytes, file.size()).isIntact();
+}
+
+} // namespace ombrin

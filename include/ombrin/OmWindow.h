@@ -3,6 +3,7 @@
 #include <ombrin/OmGlobal.h>
 #include <ombrin/OmQtCompat.h>
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 #include <memory>
@@ -123,6 +124,7 @@ private:
     void setButtons();
 
     std::unique_ptr<SkinFrame> m_frame;
+    QPointer<QAction> m_alwaysOnTopAction;
 };
 
 } // namespace ombrin

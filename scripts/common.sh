@@ -1,0 +1,47 @@
+# What ./run and ./test share. Sourced by them; not run by itself.
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+say() { printf '\n== %s\n' "$*"; }
+die() { printf '%s\n' "$*" >&2; exit 1; }
+
+# What building and running needs.
+packages_build=(
+  g++ cmake ninja-build pkg-config librsvg2-bin
+  qtbase5-dev qtbase5-dev-tools qt5-style-plugins
+  fonts-dejavu-core
+)
+# What the tests need beyond that.
+packages_test=(
+  xvfb openbox xdotool wmctrl x11-utils
+)
+packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev)
+packages_clang=(clang)
+packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xz-utils)
+packages_benchmark=(libbenchmark-dev)
+
+# install_packages PACKAGE...: installs what is missing, with apt-get.
+install_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$' \
+      || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  command -v apt-get >/dev/null || die "Please install: ${missing[*]}"
+
+  local as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  say "Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >/dev/null
+}
+
+# build_preset PRESET: configures and builds one of the presets.
+build_preset() {
+  say "Building ($1)"
+  cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1"
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtCore/QEventLoop>
+#include <QtCore/QPoint>
+#include <QtCore/QProcess>
+#include <QtCore/QStringList>
+#include <QtTest/QtTest>
+
+/// A user at mouse and keyboard, and an onlooker who sees what other X clients see. Needs an X
+/// server with a window manager, xdotool, xprop and xwininfo.
+namespace ombrin::test {
+
+/// Runs \a program while the event loop goes on, and returns what it printed.
+inline QString runBeside(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    QEventLoop loop;
+    QObject::connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &loop,
+                     &QEventLoop::quit);
+    process.start(program, arguments);
+    if (!process.waitForStarted())
+        return QString();
+    loop.exec();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+/// Runs the commands of xdotool in \a script, which are separated by spaces.
+inline void xdo(const QString &script)
+{
+    runBeside(QStringLiteral("xdotool"), script.split(QLatin1Char(' ')));
+    QTest::qWait(50);
+}
+
+inline void clickAt(const QPoint &position, int button = 1, int count = 1)
+{
+    xdo(QStringLiteral("mousemove %1 %2 sleep 0.05 click --repeat %3 --delay 40 %4")
+                .arg(position.x())
+                .arg(position.y())
+                .arg(count)
+                .arg(button));
+}
+
+/// Drags with the left button in steps, as a hand does.
+inline void dragBy(const QPoint &from, const QPoint &delta)
+{
+    QString script = QStringLiteral("mousemove %1 %2 sleep 0.1 mousedown 1 sleep 0.05")
+                             .arg(from.x())
+                             .arg(from.y());
+    constexpr int kSteps = 5;
+    for (int step = 1; step <= kSteps; ++step) {
+        const QPoint to = from + delta * step / kSteps;
+        script += QStringLiteral(" mousemove %1 %2 sleep 0.06").arg(to.x()).arg(to.y());
+    }
+    xdo(script + QStringLiteral(" sleep 0.1 mouseup 1 sleep 0.1"));
+}
+
+} // namespace ombrin::test

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QRect>
+#include <QtGui/QColor>
+#include <QtGui/QPainter>
+
+namespace ombrin {
+
+/// Fills the outermost \a thickness pixels of \a rect.
+///
+/// On a screen of density 1 it gives the pixels that a pen of that thickness draws, on any other
+/// screen it stays inside the rectangle on all four sides, where a pen would not. The painter's pen
+/// and brush are not touched. Corners are painted once, so translucent colours come out even.
+inline void fillFrame(QPainter *painter, const QRect &rect, int thickness, const QColor &color)
+{
+    const int t = thickness;
+    if (rect.width() <= 2 * t || rect.height() <= 2 * t) {
+        painter->fillRect(rect, color);
+        return;
+    }
+    const int innerHeight = rect.height() - 2 * t;
+    painter->fillRect(rect.left(), rect.top(), rect.width(), t, color);
+    painter->fillRect(rect.left(), rect.bottom() + 1 - t, rect.width(), t, color);
+    painter->fillRect(rect.left(), rect.top() + t, t, innerHeight, color);
+    painter->fillRect(rect.right() + 1 - t, rect.top() + t, t, innerHeight, color);
+}
+
+} // namespace ombrin

@@ -1,0 +1,373 @@
+#include "skin/tst_omstyle2_support.h"
+#include "support/TestCase.h"
+
+#include <ombrin/OmStyle2.h>
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDockWidget>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMainWindow>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSpinBox>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QToolBox>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QVBoxLayout>
+
+Q_DECLARE_METATYPE(QStyle::PixelMetric)
+
+using namespace ombrin::test;
+using ombrin::OmStyle2;
+
+// The style knows these classes by their names only.
+class RelativeScrollBar : public QScrollBar
+{
+    Q_OBJECT
+};
+
+namespace {
+
+// Made in main(), before the application.
+QStyle *g_earlyStyle = nullptr;
+
+QStyle *makePlainStyle()
+{
+    QStyle *style = QStyleFactory::create(QStringLiteral("plastique"));
+    return style ? style : QStyleFactory::create(QStringLiteral("fusion"));
+}
+
+template <typename Enum>
+QVector<Enum> upTo(Enum last)
+{
+    QVector<Enum> all;
+    for (int value = 0; value <= int(last); ++value)
+        all.append(Enum(value));
+    return all;
+}
+
+void setStyleOfTree(QWidget *widget, QStyle *style)
+{
+    widget->setStyle(style);
+    const QList<QWidget *> children = widget->findChildren<QWidget *>();
+    for (QWidget *child : children)
+        child->setStyle(style);
+}
+
+void fillWithControls(QWidget *window)
+{
+    auto *layout = new QVBoxLayout(window);
+    auto *menuBar = new QMenuBar;
+    menuBar->addAction(QStringLiteral("File"));
+    layout->setMenuBar(menuBar);
+    auto *tree = new QTreeWidget;
+    tree->addTopLevelItem(new QTreeWidgetItem({QStringLiteral("parent")}));
+    tree->topLevelItem(0)->addChild(new QTreeWidgetItem({QStringLiteral("child")}));
+    auto *box = new QCheckBox(QStringLiteral("box"));
+    box->setTristate(true);
+    box->setCheckState(Qt::PartiallyChecked);
+    auto *combo = new QComboBox;
+    combo->addItem(QStringLiteral("item"));
+    auto *progress = new QProgressBar;
+    progress->setRange(0, 0);
+    auto *tabs = new QTabBar;
+    tabs->addTab(QStringLiteral("one"));
+    tabs->addTab(QStringLiteral("two"));
+    auto *toolBox = new QToolBox;
+    toolBox->addItem(new QWidget, QStringLiteral("page"));
+    auto *toolBar = new QToolBar;
+    toolBar->addAction(QStringLiteral("tool"));
+    auto *dock = new QDockWidget(QStringLiteral("dock"));
+    QWidget *const controls[] = {new QLineEdit,
+                                 box,
+                                 tree,
+                                 combo,
+                                 progress,
+                                 tabs,
+                                 toolBox,
+                                 dock,
+                                 toolBar,
+                                 new QSpinBox,
+                                 new QScrollBar(Qt::Horizontal),
+                                 new QToolButton};
+    for (QWidget *control : controls)
+        layout->addWidget(control);
+}
+
+} // namespace
+
+class tst_OmStyle2 : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override
+    {
+        // What Qt's offscreen platform says to every window with a minimum size.
+        expectWarning(QStringLiteral("does not support propagateSizeHints"));
+        m_style = std::make_unique<OmStyle2>();
+    }
+    void tearDown() override
+    {
+        qApp->setStyleSheet(QString());
+        m_style.reset();
+    }
+
+private:
+    std::unique_ptr<OmStyle2> m_style;
+
+private Q_SLOTS:
+    void styleMadeBeforeTheApplicationWorks()
+    {
+        QVERIFY(g_earlyStyle);
+        QCOMPARE(g_earlyStyle->pixelMetric(QStyle::PM_ScrollBarExtent), 16);
+        QCheckBox box(QStringLiteral("box"));
+        box.setStyle(g_earlyStyle);
+        box.setChecked(true);
+        const QImage early = box.grab().toImage();
+        box.setStyle(m_style.get());
+        QCOMPARE(box.grab().toImage(), early);
+        box.setStyle(nullptr);
+        delete g_earlyStyle;
+        g_earlyStyle = nullptr;
+    }
+
+    void metricsOfFlatBarsAndFrames_data()
+    {
+        QTest::addColumn<QStyle::PixelMetric>("metric");
+        QTest::addColumn<int>("value");
+        QTest::newRow("frame") << QStyle::PM_DefaultFrameWidth << 1;
+        QTest::newRow("scroll bar") << QStyle::PM_ScrollBarExtent << 16;
+        QTest::newRow("slider") << QStyle::PM_ScrollBarSliderMin << 16;
+        QTest::newRow("menu-bar panel") << QStyle::PM_MenuBarPanelWidth << 2;
+        QTest::newRow("menu-bar spacing") << QStyle::PM_MenuBarItemSpacing << 0;
+        QTest::newRow("menu-bar vertical margin") << QStyle::PM_MenuBarVMargin << 0;
+        QTest::newRow("menu-bar horizontal margin") << QStyle::PM_MenuBarHMargin << 0;
+        QTest::newRow("tool-bar spacing") << QStyle::PM_ToolBarItemSpacing << 0;
+        QTest::newRow("tool-bar margin") << QStyle::PM_ToolBarItemMargin << 0;
+    }
+    void metricsOfFlatBarsAndFrames()
+    {
+        QFETCH(const QStyle::PixelMetric, metric);
+        QFETCH(const int, value);
+        QCOMPARE(m_style->pixelMetric(metric), value);
+        const QScrollBar scrollBar;
+        QCOMPARE(m_style->pixelMetric(metric, nullptr, &scrollBar), value);
+    }
+
+    void everythingElseIsMeasuredByTheStyleBelow()
+    {
+        const QStyle *below = m_style->baseStyle();
+        for (const QStyle::PixelMetric metric :
+             {QStyle::PM_ButtonMargin, QStyle::PM_IndicatorWidth, QStyle::PM_SmallIconSize,
+              QStyle::PM_TabBarBaseOverlap, QStyle::PM_MenuPanelWidth})
+            QCOMPARE(m_style->pixelMetric(metric), below->pixelMetric(metric));
+        QCOMPARE(m_style->styleHint(QStyle::SH_EtchDisabledText),
+                 below->styleHint(QStyle::SH_EtchDisabledText));
+        const auto option = makeOption<QStyleOptionButton>(QRect(0, 0, 90, 30));
+        QCOMPARE(m_style->sizeFromContents(QStyle::CT_PushButton, &option, QSize(50, 14), nullptr),
+                 below->sizeFromContents(QStyle::CT_PushButton, &option, QSize(50, 14), nullptr));
+        QCOMPARE(m_style->subElementRect(QStyle::SE_PushButtonContents, &option, nullptr),
+                 below->subElementRect(QStyle::SE_PushButtonContents, &option, nullptr));
+    }
+
+    void relativeScrollBarHasALongSlider()
+    {
+        const RelativeScrollBar relative;
+        QCOMPARE(m_style->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, &relative), 50);
+        const QWidget other;
+        QCOMPARE(m_style->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, &other), 16);
+    }
+
+    void oneClickActivatesAnItem()
+    {
+        QTreeWidget tree;
+        tree.setStyle(m_style.get());
+        tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("item")}));
+        tree.show();
+        QSignalSpy activated(&tree, &QTreeWidget::activated);
+        const QRect place = tree.visualItemRect(tree.topLevelItem(0));
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+        QCOMPARE(activated.size(), 1);
+    }
+
+    void toolButtonHasNoMargins()
+    {
+        auto option = makeOption<QStyleOptionToolButton>(QRect());
+        option.features = QStyleOptionToolButton::MenuButtonPopup;
+        const QCommonStyle *common = m_style.get();
+        const QSize size(20, 18);
+        const QSize expected = common->QCommonStyle::sizeFromContents(QStyle::CT_ToolButton,
+                                                                      &option, size, nullptr);
+        QCOMPARE(m_style->sizeFromContents(QStyle::CT_ToolButton, &option, size, nullptr),
+                 expected);
+        option.features = QStyleOptionToolButton::None;
+        QToolButton button;
+        QCOMPARE(m_style->sizeFromContents(QStyle::CT_ToolButton, &option, size, &button),
+                 size + QSize(6, 5)); // what every style adds
+    }
+
+    void menuBarAndToolBarHaveNoSpacing()
+    {
+        QMenuBar menuBar;
+        setStyleOfTree(&menuBar, m_style.get());
+        QAction *first = menuBar.addAction(QStringLiteral("File"));
+        QAction *second = menuBar.addAction(QStringLiteral("Edit"));
+        menuBar.resize(200, menuBar.sizeHint().height());
+        menuBar.show();
+        QCOMPARE(menuBar.actionGeometry(first).topLeft(), QPoint(2, 2));
+        QCOMPARE(menuBar.actionGeometry(second).left(), menuBar.actionGeometry(first).right() + 1);
+
+        QToolBar toolBar;
+        toolBar.setStyle(m_style.get());
+        first = toolBar.addAction(QStringLiteral("a"));
+        second = toolBar.addAction(QStringLiteral("b"));
+        toolBar.show();
+        QCOMPARE(toolBar.widgetForAction(second)->x(),
+                 toolBar.widgetForAction(first)->geometry().right() + 1);
+    }
+
+    // Title bar, buttons and content lie where they lie under the plain style.
+    void dockLooksAsUnderThePlainStyle()
+    {
+        const auto geometries = [](QStyle *style) {
+            QMainWindow window;
+            auto *dock = new QDockWidget(QStringLiteral("Dock"), &window);
+            dock->setWidget(new QWidget);
+            window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+            setStyleOfTree(&window, style);
+            window.resize(300, 200);
+            window.grab();
+            QVector<QRect> all;
+            const QList<QWidget *> children = dock->findChildren<QWidget *>();
+            for (const QWidget *child : children)
+                all.append(child->geometry());
+            setStyleOfTree(&window, nullptr);
+            return all;
+        };
+        const std::unique_ptr<QStyle> plain(makePlainStyle());
+        const QVector<QRect> expected = geometries(plain.get());
+        QCOMPARE(expected.size(), 3);
+        QVERIFY(expected[0].intersected(expected[1]).isEmpty());
+        QCOMPARE(geometries(m_style.get()), expected);
+    }
+
+    void lineEditShowsItsFrame()
+    {
+        QLineEdit edit;
+        edit.setStyle(m_style.get());
+        edit.resize(100, 24);
+        const auto edges = [&] {
+            const QImage image = edit.grab().toImage();
+            return QVector<QColor>{image.pixelColor(50, 0), image.pixelColor(0, 12),
+                                   image.pixelColor(99, 12), image.pixelColor(50, 23)};
+        };
+        QCOMPARE(edges(), QVector<QColor>(4, QColor(189, 189, 189)));
+        edit.setAttribute(Qt::WA_UnderMouse);
+        QCOMPARE(edges(), QVector<QColor>(4, QColor(255, 193, 48)));
+        edit.setEnabled(false);
+        QCOMPARE(edges(), QVector<QColor>(4, QColor(203, 203, 203)));
+        edit.setFrame(false);
+        QVERIFY(!edges().contains(QColor(203, 203, 203)));
+
+        edit.setEnabled(true);
+        edit.setFrame(true);
+        edit.setAttribute(Qt::WA_UnderMouse, false);
+        edit.setStyle(nullptr);
+        QApplication::setStyle(new OmStyle2);
+        qApp->setStyleSheet(QStringLiteral("QToolTip { color: red }"));
+        QCOMPARE(edges(), QVector<QColor>(4, QColor(189, 189, 189)));
+        prepareApplication();
+    }
+
+    void allControlsPaintUnderIt_data()
+    {
+        QTest::addColumn<QString>("styleSheet");
+        QTest::addColumn<bool>("rightToLeft");
+        const QString sheet = QStringLiteral("* { color: #123456 } QCheckBox { spacing: 9px }"
+                                             "QTabBar::tab:selected { font-weight: bold }");
+        QTest::newRow("plain") << QString() << false;
+        QTest::newRow("right to left") << QString() << true;
+        QTest::newRow("style sheet") << sheet << false;
+        QTest::newRow("style sheet, right to left") << sheet << true;
+    }
+    void allControlsPaintUnderIt()
+    {
+        QFETCH(const QString, styleSheet);
+        QFETCH(const bool, rightToLeft);
+        QApplication::setStyle(new OmStyle2);
+        qApp->setStyleSheet(styleSheet);
+        {
+            QWidget window;
+            window.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+            fillWithControls(&window);
+            window.show();
+            const QImage enabled = window.grab().toImage();
+            QCOMPARE(window.grab().toImage(), enabled);
+            window.setEnabled(false);
+            QVERIFY(window.grab().toImage() != enabled);
+        }
+        qApp->setStyleSheet(QString());
+        prepareApplication();
+    }
+
+    void searchFieldLeavesRoomForItsIcons();
+
+    // The hardest call a host can make: nothing but an element.
+    void callsWithoutOptionPainterOrWidgetAreHarmless()
+    {
+        const QImage image = painted([&](QPainter *painter) {
+            for (const auto element : upTo(QStyle::PE_PanelMenu)) {
+                m_style->drawPrimitive(element, nullptr, painter, nullptr);
+                m_style->drawPrimitive(element, nullptr, nullptr, nullptr);
+            }
+        });
+        QCOMPARE(image, blank());
+        const QSize size(17, 11);
+        for (const auto type : upTo(QStyle::CT_MdiControls))
+            QCOMPARE(m_style->sizeFromContents(type, nullptr, size, nullptr), size);
+        for (const auto element : upTo(QStyle::SE_ToolBarHandle))
+            QCOMPARE(m_style->subElementRect(element, nullptr, nullptr), QRect());
+        for (const auto metric : upTo(QStyle::PM_TitleBarButtonSize))
+            m_style->pixelMetric(metric);
+        for (const auto hint : upTo(QStyle::SH_SpinBox_ButtonsInsideFrame))
+            m_style->styleHint(hint);
+    }
+};
+
+namespace ombrin {
+
+class OmSearchField : public QLineEdit
+{
+    Q_OBJECT
+};
+
+} // namespace ombrin
+
+void tst_OmStyle2::searchFieldLeavesRoomForItsIcons()
+{
+    const ombrin::OmSearchField search;
+    const QLineEdit plain;
+    auto option = makeOption<QStyleOptionFrame>(QRect(0, 0, 120, 22));
+    option.lineWidth = 1;
+    const auto contents = [&](const QWidget *widget) {
+        return m_style->subElementRect(QStyle::SE_LineEditContents, &option, widget);
+    };
+    QCOMPARE(contents(&plain), contents(nullptr));
+    QCOMPARE(contents(&search), contents(&plain).adjusted(18, 0, -18, 0));
+    QCOMPARE(m_style->subElementRect(QStyle::SE_FrameContents, &option, &search),
+             m_style->subElementRect(QStyle::SE_FrameContents, &option, &plain));
+}
+
+int main(int argc, char *argv[])
+{
+    g_earlyStyle = new OmStyle2;
+    return ombrin::test::run<tst_OmStyle2>(argc, argv);
+}
+
+#include "tst_omstyle2.moc"

@@ -1,0 +1,339 @@
+#include "skin/tst_omstyle2_support.h"
+#include "support/TestCase.h"
+
+#include <ombrin/OmStyle2.h>
+
+Q_DECLARE_METATYPE(QStyle::PrimitiveElement)
+Q_DECLARE_METATYPE(QStyle::State)
+
+using namespace ombrin::test;
+using ombrin::OmStyle2;
+
+namespace {
+
+constexpr QStyle::State kEnabled = QStyle::State_Enabled;
+constexpr QStyle::State kHover = QStyle::State_MouseOver;
+
+const QColor kGrey(189, 189, 189);
+const QColor kDisabledGrey(203, 203, 203);
+const QColor kOrange(255, 193, 48);
+
+void drawOutline(QPainter *painter, const QRect &rect, const QPen &pen)
+{
+    painter->setPen(pen);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect);
+}
+
+QImage checkMark(const QColor &color)
+{
+    static const char *const rows[] = {
+            "         .", "        ..", "   .   ...", "   .. ...", "   .....", "    ...", "     .",
+    };
+    QImage image(13, 13, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int y = 0; y < 7; ++y) {
+        for (int x = 0; rows[y][x] != '\0'; ++x) {
+            if (rows[y][x] == '.')
+                image.setPixelColor(x, y + 3, color);
+        }
+    }
+    return image;
+}
+
+void drawExpectedCheckBox(QPainter *painter, const QStyleOptionButton &option)
+{
+    const QRect r = option.rect;
+    const bool enabled = option.state & kEnabled;
+    const bool sunken = option.state & QStyle::State_Sunken;
+    if (enabled && (option.state & kHover) && !sunken)
+        drawOutline(painter, r, kOrange);
+
+    QLinearGradient gradient(r.topLeft(), r.bottomRight());
+    gradient.setColorAt(0, option.palette.color(QPalette::Window));
+    gradient.setColorAt(1, option.palette.color(QPalette::Light));
+    const QColor button = option.palette.color(QPalette::Button);
+    QPen pen(button.darker(enabled ? 160 : 130));
+    if (sunken)
+        pen = QPen(button.darker(200), 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    painter->setPen(pen);
+    painter->setBrush(gradient);
+    painter->drawRect(
+            QRect(QPoint(r.left() + 1, r.top() + 1), QPoint(r.right() - 1, r.bottom() - 1)));
+    if (option.state & (QStyle::State_On | QStyle::State_NoChange | QStyle::State_Sunken))
+        painter->drawImage(
+                r, checkMark(enabled ? QColor(0x21, 0xa1, 0x21) : QColor(0x90, 0xd0, 0x90)));
+}
+
+} // namespace
+
+class tst_OmStyle2Primitives : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private:
+    QImage drawn(QStyle::PrimitiveElement element, const QStyleOption &option)
+    {
+        return painted([&](QPainter *painter) {
+            m_style.drawPrimitive(element, &option, painter, nullptr);
+        });
+    }
+
+    OmStyle2 m_style;
+
+private Q_SLOTS:
+    void frameIsOnePixelOfItsColour_data()
+    {
+        QTest::addColumn<QStyle::PrimitiveElement>("element");
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<QRect>("rect");
+        QTest::addColumn<QColor>("color");
+
+        const QRect rect(5, 7, 40, 21);
+        QTest::newRow("frame") << QStyle::PE_Frame << kEnabled << rect << kGrey;
+        QTest::newRow("frame, disabled under the mouse")
+                << QStyle::PE_Frame << kHover << rect << kGrey;
+        QTest::newRow("frame, tiny") << QStyle::PE_Frame << kEnabled << QRect(3, 3, 2, 2) << kGrey;
+        QTest::newRow("frame, three high")
+                << QStyle::PE_Frame << kEnabled << QRect(3, 3, 9, 3) << kGrey;
+        QTest::newRow("line edit") << QStyle::PE_FrameLineEdit << kEnabled << rect << kGrey;
+        QTest::newRow("line edit, focused")
+                << QStyle::PE_FrameLineEdit << (kEnabled | QStyle::State_HasFocus) << rect << kGrey;
+        QTest::newRow("line edit under the mouse")
+                << QStyle::PE_FrameLineEdit << (kEnabled | kHover) << rect << kOrange;
+        QTest::newRow("line edit, disabled")
+                << QStyle::PE_FrameLineEdit << QStyle::State(QStyle::State_None) << rect
+                << kDisabledGrey;
+        QTest::newRow("line edit, disabled under the mouse")
+                << QStyle::PE_FrameLineEdit << kHover << rect << kDisabledGrey;
+    }
+    void frameIsOnePixelOfItsColour()
+    {
+        QFETCH(const QStyle::PrimitiveElement, element);
+        QFETCH(const QStyle::State, state);
+        QFETCH(const QRect, rect);
+        QFETCH(const QColor, color);
+        const auto option = makeOption<QStyleOptionFrame>(rect, state);
+        const QImage expected = painted([&](QPainter *painter) {
+            drawOutline(painter, rect.adjusted(0, 0, -1, -1), color);
+        });
+        QCOMPARE(drawn(element, option), expected);
+    }
+
+    // A pen of width 1 would leave a gap at the right and the bottom.
+    void frameReachesEverySideOfADenseScreen_data()
+    {
+        QTest::addColumn<qreal>("density");
+        for (const qreal density : {1.25, 1.5, 2.0, 3.0})
+            QTest::addRow("%g", density) << density;
+    }
+    void frameReachesEverySideOfADenseScreen()
+    {
+        QFETCH(const qreal, density);
+        const auto option = makeOption<QStyleOptionFrame>(QRect(0, 0, 20, 12));
+        const auto draw = [&](QPainter *painter) {
+            m_style.drawPrimitive(QStyle::PE_Frame, &option, painter, nullptr);
+        };
+        const QImage image = painted(draw, QSize(20, 12), density);
+        const int right = image.width() - 1;
+        const int bottom = image.height() - 1;
+        for (int x = 0; x <= right; ++x) {
+            QCOMPARE(image.pixelColor(x, 0), kGrey);
+            QCOMPARE(image.pixelColor(x, bottom), kGrey);
+        }
+        for (int y = 0; y <= bottom; ++y) {
+            QCOMPARE(image.pixelColor(0, y), kGrey);
+            QCOMPARE(image.pixelColor(right, y), kGrey);
+        }
+        const int thickest = qCeil(density);
+        QCOMPARE(image.pixelColor(thickest, thickest), QColor(250, 235, 215));
+        QCOMPARE(image.pixelColor(right - thickest, bottom - thickest), QColor(250, 235, 215));
+    }
+
+    void menuBarHasTwoDarkLinesAboveAndBelow()
+    {
+        const QRect r(4, 3, 30, 20);
+        const auto option = makeOption<QStyleOptionFrame>(r);
+        const QColor window = option.palette.color(QPalette::Inactive, QPalette::Window);
+        QImage expected = blank();
+        const auto fill = [&](const QRect &area, const QColor &color) {
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x)
+                    expected.setPixelColor(x, y, color);
+            }
+        };
+        fill(QRect(4, 3, 30, 1), window.darker(200));
+        fill(QRect(4, 4, 30, 1), window.darker(150));
+        fill(QRect(4, 21, 30, 2), window.darker(150));
+        fill(QRect(4, 3, 1, 20), window.darker(150));
+        QCOMPARE(drawn(QStyle::PE_PanelMenuBar, option), expected);
+    }
+
+    void checkBoxInEveryState_data()
+    {
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<QRect>("rect");
+        const QRect rect(6, 5, 13, 13);
+        const QStyle::State checks[] = {QStyle::State_Off, QStyle::State_On,
+                                        QStyle::State_NoChange};
+        for (const QStyle::State check : checks) {
+            for (int bits = 0; bits < 8; ++bits) {
+                QStyle::State state = check;
+                state.setFlag(QStyle::State_Enabled, bits & 1);
+                state.setFlag(QStyle::State_MouseOver, bits & 2);
+                state.setFlag(QStyle::State_Sunken, bits & 4);
+                QTest::addRow("state %x", unsigned(state)) << state << rect;
+            }
+        }
+        const QStyle::State checked = kEnabled | QStyle::State_On;
+        QTest::newRow("scaled up") << checked << QRect(6, 5, 26, 26);
+        QTest::newRow("scaled unevenly") << (checked | kHover) << QRect(6, 5, 17, 20);
+        QTest::newRow("scaled down") << (checked | QStyle::State_Sunken) << QRect(6, 5, 8, 8);
+    }
+    void checkBoxInEveryState()
+    {
+        QFETCH(const QStyle::State, state);
+        QFETCH(const QRect, rect);
+        const auto option = makeOption<QStyleOptionButton>(rect, state);
+        const QImage expected =
+                painted([&](QPainter *painter) { drawExpectedCheckBox(painter, option); });
+        QCOMPARE(drawn(QStyle::PE_IndicatorCheckBox, option), expected);
+    }
+
+    void checkBoxWithAnotherKindOfOptionDrawsNothing()
+    {
+        const auto option =
+                makeOption<QStyleOptionViewItem>(QRect(6, 5, 13, 13), kEnabled | QStyle::State_On);
+        QCOMPARE(drawn(QStyle::PE_IndicatorCheckBox, option), blank());
+    }
+
+    void branchShowsAnArrowInTheMiddle_data()
+    {
+        QTest::addColumn<QRect>("cell");
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<int>("arrow");
+        QTest::addColumn<QRect>("place");
+        const QStyle::State closed = kEnabled | QStyle::State_Children;
+        const QStyle::State open = closed | QStyle::State_Open;
+        const int right = QStyle::PE_IndicatorArrowRight;
+        const int down = QStyle::PE_IndicatorArrowDown;
+        QTest::newRow("closed") << QRect(2, 3, 20, 20) << closed << right << QRect(7, 8, 10, 10);
+        QTest::newRow("open") << QRect(2, 3, 20, 20) << open << down << QRect(7, 8, 10, 10);
+        QTest::newRow("odd cell") << QRect(0, 0, 21, 17) << open << down << QRect(6, 4, 10, 10);
+        QTest::newRow("narrow") << QRect(2, 3, 8, 20) << closed << right << QRect(2, 3, 8, 20);
+        QTest::newRow("low") << QRect(2, 3, 20, 10) << open << down << QRect(2, 3, 20, 10);
+        QTest::newRow("no children")
+                << QRect(2, 3, 20, 20) << (kEnabled | QStyle::State_Open | QStyle::State_Item) << -1
+                << QRect();
+    }
+    void branchShowsAnArrowInTheMiddle()
+    {
+        QFETCH(const QRect, cell);
+        QFETCH(const QStyle::State, state);
+        QFETCH(const int, arrow);
+        QFETCH(const QRect, place);
+        auto *style = new OmStyle2;
+        const RecordingStyle above(style);
+        auto option = makeOption<QStyleOptionViewItem>(cell, state);
+        const QImage image = painted([&](QPainter *painter) {
+            style->drawPrimitive(QStyle::PE_IndicatorBranch, &option, painter, nullptr);
+        });
+        if (arrow < 0) {
+            QVERIFY(above.primitives().isEmpty());
+            QCOMPARE(image, blank());
+            return;
+        }
+        QCOMPARE(above.primitives().size(), 1);
+        QCOMPARE(int(above.primitives().first().element), arrow);
+        QCOMPARE(above.primitives().first().rect, place);
+
+        option.rect = place;
+        const QImage expected = painted([&](QPainter *painter) {
+            style->baseStyle()->drawPrimitive(QStyle::PrimitiveElement(arrow), &option, painter,
+                                              nullptr);
+        });
+        QCOMPARE(image, expected);
+        QVERIFY(image != blank());
+    }
+
+    void toolButtonPanelIsCrispOnAnAntialiasingPainter()
+    {
+        const auto option = makeOption<QStyleOptionToolButton>(
+                QRect(4, 4, 24, 24), kEnabled | kHover | QStyle::State_Raised);
+        const QImage expected = painted([&](QPainter *painter) {
+            m_style.baseStyle()->drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter,
+                                               nullptr);
+        });
+        QVERIFY(expected != blank());
+        bool stillAntialiasing = false;
+        const QImage image = painted([&](QPainter *painter) {
+            painter->setRenderHint(QPainter::Antialiasing);
+            m_style.drawPrimitive(QStyle::PE_PanelButtonTool, &option, painter, nullptr);
+            stillAntialiasing = painter->testRenderHint(QPainter::Antialiasing);
+        });
+        QCOMPARE(image, expected);
+        QVERIFY(stillAntialiasing);
+        QCOMPARE(drawn(QStyle::PE_PanelButtonTool, option), expected);
+    }
+
+    void lineEditPanelIsFilledInsideAFrameOfOurs()
+    {
+        auto option = makeOption<QStyleOptionFrame>(QRect(5, 7, 40, 21), kEnabled | kHover);
+        option.lineWidth = 1;
+        const QImage image = drawn(QStyle::PE_PanelLineEdit, option);
+        QCOMPARE(image.pixelColor(option.rect.center()), option.palette.color(QPalette::Base));
+
+        option.lineWidth = 0;
+        const QImage ground = drawn(QStyle::PE_PanelLineEdit, option);
+        const QImage expected = painted([&](QPainter *painter) {
+            m_style.baseStyle()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, painter, nullptr);
+        });
+        QCOMPARE(ground, expected); // a line edit without a frame
+        const QImage framed = painted([&](QPainter *painter) {
+            painter->drawImage(0, 0, expected);
+            drawOutline(painter, option.rect.adjusted(0, 0, -1, -1), kOrange);
+        });
+        QCOMPARE(image, framed);
+    }
+
+    void painterIsLeftAsItWas_data()
+    {
+        QTest::addColumn<QStyle::PrimitiveElement>("element");
+        QTest::newRow("frame") << QStyle::PE_Frame;
+        QTest::newRow("line-edit frame") << QStyle::PE_FrameLineEdit;
+        QTest::newRow("line-edit panel") << QStyle::PE_PanelLineEdit;
+        QTest::newRow("tool button") << QStyle::PE_PanelButtonTool;
+        QTest::newRow("menu bar") << QStyle::PE_PanelMenuBar;
+        QTest::newRow("branch") << QStyle::PE_IndicatorBranch;
+        QTest::newRow("check box") << QStyle::PE_IndicatorCheckBox;
+    }
+    void painterIsLeftAsItWas()
+    {
+        QFETCH(const QStyle::PrimitiveElement, element);
+        QStyleOptionButton button = makeOption<QStyleOptionButton>(
+                QRect(3, 3, 20, 20), kEnabled | kHover | QStyle::State_On | QStyle::State_Children);
+        QStyleOptionFrame frame = makeOption<QStyleOptionFrame>(button.rect, button.state);
+        frame.lineWidth = 1;
+        const QStyleOption *option = &frame;
+        if (element == QStyle::PE_IndicatorCheckBox)
+            option = &button;
+        painted([&](QPainter *painter) {
+            const QPen pen(Qt::red, 3);
+            const QBrush brush(Qt::green);
+            const QTransform transform = QTransform::fromTranslate(2, 3);
+            painter->setPen(pen);
+            painter->setBrush(brush);
+            painter->setTransform(transform);
+            painter->setRenderHint(QPainter::Antialiasing);
+            const QPainter::RenderHints hints = painter->renderHints();
+            m_style.drawPrimitive(element, option, painter, nullptr);
+            QCOMPARE(painter->pen(), pen);
+            QCOMPARE(painter->brush(), brush);
+            QCOMPARE(painter->transform(), transform);
+            QCOMPARE(painter->renderHints(), hints);
+        });
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmStyle2Primitives)
+#include "tst_omstyle2_primitives.moc"

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleOption>
+
+#include <memory>
+
+namespace ombrin::test {
+
+/// A palette in which no two roles and no two groups share a colour.
+inline QPalette distinctPalette()
+{
+    QPalette palette;
+    for (int group = 0; group < QPalette::NColorGroups; ++group) {
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            const QColor color =
+                    QColor::fromHsv((role * 37) % 360, 60 + role * 5, 150 + group * 30);
+            palette.setColor(QPalette::ColorGroup(group), QPalette::ColorRole(role),
+                             QColor(color.rgb()));
+        }
+    }
+    palette.setCurrentColorGroup(QPalette::Inactive);
+    return palette;
+}
+
+/// What \a draw paints on a ground that it is not likely to paint itself.
+template <typename Draw>
+QImage painted(const Draw &draw, QSize size = QSize(64, 48), qreal density = 1)
+{
+    QImage image(size * density, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(density);
+    image.fill(qRgb(250, 235, 215));
+    QPainter painter(&image);
+    draw(&painter);
+    painter.end();
+    return image;
+}
+
+inline QImage blank(QSize size = QSize(64, 48))
+{
+    return painted([](QPainter *) {}, size);
+}
+
+/// An option of type \a Option as a widget would fill it in.
+template <typename Option>
+Option makeOption(const QRect &rect, QStyle::State state = QStyle::State_Enabled)
+{
+    Option option;
+    option.rect = rect;
+    option.state = state;
+    option.palette = distinctPalette();
+    return option;
+}
+
+/// Stands above a style, as a style sheet does, and notes which primitives are drawn through it.
+class RecordingStyle : public QProxyStyle
+{
+public:
+    struct Primitive
+    {
+        PrimitiveElement element;
+        QRect rect;
+        State state;
+    };
+
+    explicit RecordingStyle(QStyle *below)
+        : QProxyStyle(below)
+    {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override
+    {
+        m_primitives.append({element, option->rect, option->state});
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    const QVector<Primitive> &primitives() const { return m_primitives; }
+
+private:
+    mutable QVector<Primitive> m_primitives;
+};
+
+} // namespace ombrin::test

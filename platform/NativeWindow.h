@@ -11,7 +11,7 @@
 /// function creates a native window, replaces it with another or runs the event loop.
 namespace ombrin::NativeWindow {
 
-/// A native window as QWidget::winId() names it.
+/// A native window as QWindow::winId() names it; see handleOf() for a widget's.
 using Handle = std::uintptr_t;
 
 /// Gives a frameless window the system menu and the minimise and maximise boxes, so that the task
@@ -26,7 +26,8 @@ OMBRIN_AUTOTEST_EXPORT void setStayOnTop(Handle window, bool on);
 
 /// Raises the window above all windows that are not kept on top, without leaving it there: a window
 /// that was kept on top no longer is. While the application is the active one, the window becomes
-/// the active window. Wayland lets no window raise itself.
+/// the active window. Wayland lets no window raise itself, and an X11 window manager may rather
+/// mark the window as demanding attention.
 OMBRIN_AUTOTEST_EXPORT void bringToFront(Handle window);
 
 /// Flashes the window's caption and task-bar button three times, or marks the window as demanding

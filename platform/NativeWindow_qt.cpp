@@ -71,10 +71,6 @@ void bringToFront(Handle handle)
     QWindow *window = findWindow(handle);
     if (!window)
         return;
-    // Window managers differ: some refuse to raise a window of an application that is not active
-    // but raise one that comes back from above all others, some put that one below the active
-    // window but do raise it.
-    window->setFlag(Qt::WindowStaysOnTopHint, true);
     window->setFlag(Qt::WindowStaysOnTopHint, false);
     if (!canRaiseWindows() || !window->isVisible())
         return;

@@ -1,6 +1,6 @@
 #include <ombrin/OmDesktop.h>
 
-#include "platform/NativeWindow.h"
+#include "platform/NativeHandle.h"
 
 #include <QtGui/QBrush>
 #include <QtGui/QGuiApplication>
@@ -12,10 +12,10 @@ namespace ombrin {
 
 namespace {
 
-// 0 while there is no native window; asking a child for its own would make it one.
+// The window the user sees the widget in: asking a child for its own would make it a native window.
 NativeWindow::Handle nativeWindow(const QWidget *widget)
 {
-    return widget ? NativeWindow::Handle(widget->window()->effectiveWinId()) : 0;
+    return widget ? NativeWindow::handleOf(widget->window()) : 0;
 }
 
 } // namespace

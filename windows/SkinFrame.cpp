@@ -1,6 +1,6 @@
 #include "windows/SkinFrame.h"
 
-#include "platform/NativeWindow.h"
+#include "platform/NativeHandle.h"
 #include "skin/SkinPixmap.h"
 #include "windows/MoveResizeHandler.h"
 
@@ -74,11 +74,6 @@ QString buttonPicture(const char *name, const char *state, bool active)
     return QStringLiteral(":/%1_%2_%3")
             .arg(QLatin1String(name), QLatin1String(state),
                  active ? QLatin1String("active") : QLatin1String("inactive"));
-}
-
-NativeWindow::Handle handleOf(const QWidget *window)
-{
-    return static_cast<NativeWindow::Handle>(window->internalWinId());
 }
 
 } // namespace
@@ -161,7 +156,7 @@ void SkinFrame::setButtonTexts()
 
 void SkinFrame::restoreNativeStyle()
 {
-    const NativeWindow::Handle handle = handleOf(m_window);
+    const NativeWindow::Handle handle = NativeWindow::handleOf(m_window);
     if (handle == 0 || !m_window->isWindow())
         return;
     NativeWindow::addSystemBoxes(handle);
@@ -199,7 +194,7 @@ void SkinFrame::handleNativeEvent(const QByteArray &eventType, void *message) co
 void SkinFrame::toggleAlwaysOnTop()
 {
     m_alwaysOnTop = !m_alwaysOnTop;
-    NativeWindow::setStayOnTop(handleOf(m_window), m_alwaysOnTop);
+    NativeWindow::setStayOnTop(NativeWindow::handleOf(m_window), m_alwaysOnTop);
 }
 
 void SkinFrame::setFixed(bool fixed)
@@ -207,7 +202,7 @@ void SkinFrame::setFixed(bool fixed)
     if (fixed == m_fixed)
         return;
     m_fixed = fixed;
-    NativeWindow::setMaximizeBox(handleOf(m_window), !fixed);
+    NativeWindow::setMaximizeBox(NativeWindow::handleOf(m_window), !fixed);
     if (m_handler)
         m_handler->setActive(MoveResizeHandler::Action::Resize, !fixed);
     for (const ButtonIndex index : {Maximize, Restore}) {

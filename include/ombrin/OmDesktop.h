@@ -35,7 +35,8 @@ public:
     /// Raises the window of \a widget above all windows that are not kept on top. A window that was
     /// kept on top no longer is. While the application is the active one, the window may become the
     /// active window. A minimised window stays minimised. On Wayland nothing happens: there no
-    /// window can raise itself.
+    /// window can raise itself. An X11 window manager may rather mark the window as demanding
+    /// attention.
     static void setForeground(QWidget *widget);
 
     /// Centres \a widget, in its present size, in the work area of the primary screen.

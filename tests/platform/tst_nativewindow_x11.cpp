@@ -1,0 +1,332 @@
+#include "platform/NativeHandle.h"
+#include "support/TestCase.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QTimer>
+#include <QtGui/QWindow>
+#include <QtWidgets/QWidget>
+
+namespace NativeWindow = ombrin::NativeWindow;
+using NativeWindow::Handle;
+
+namespace {
+
+// Runs a program in the event loop, as other clients run beside the host.
+QString outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    QEventLoop loop;
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
+                     &QEventLoop::quit);
+    process.start(program, arguments);
+    if (!process.waitForStarted())
+        return program + QStringLiteral(" is not installed");
+    loop.exec();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+QString xProperty(Handle window, const char *name)
+{
+    return outputOf(QStringLiteral("xprop"), {QStringLiteral("-id"), QString::number(window),
+                                              QStringLiteral("-notype"), QLatin1String(name)});
+}
+
+bool isKeptAbove(Handle window)
+{
+    return xProperty(window, "_NET_WM_STATE").contains(QLatin1String("_STATE_ABOVE"));
+}
+
+bool demandsAttention(Handle window)
+{
+    return xProperty(window, "_NET_WM_STATE").contains(QLatin1String("DEMANDS_ATTENTION"));
+}
+
+bool isMapped(Handle window)
+{
+    return outputOf(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::number(window)})
+            .contains(QLatin1String("IsViewable"));
+}
+
+QVector<Handle> rootWindows(const char *name)
+{
+    const QString list =
+            outputOf(QStringLiteral("xprop"),
+                     {QStringLiteral("-root"), QStringLiteral("-notype"), QLatin1String(name)});
+    QVector<Handle> windows;
+    QRegularExpressionMatchIterator match =
+            QRegularExpression(QStringLiteral("0x([0-9a-f]+)")).globalMatch(list);
+    while (match.hasNext())
+        windows.append(Handle(match.next().captured(1).toULongLong(nullptr, 16)));
+    return windows;
+}
+
+Handle topmost()
+{
+    return rootWindows("_NET_CLIENT_LIST_STACKING")
+            .value(rootWindows("_NET_CLIENT_LIST").size() - 1);
+}
+
+Handle active()
+{
+    return rootWindows("_NET_ACTIVE_WINDOW").value(0);
+}
+
+// A frameless window as the library's frames are.
+class Window : public QWidget
+{
+public:
+    Window()
+    {
+        setWindowFlags(Qt::FramelessWindowHint);
+        setGeometry(100, 100, 300, 200);
+    }
+    Handle handle()
+    {
+        winId(); // creates it
+        return NativeWindow::handleOf(this);
+    }
+    void showAndWait()
+    {
+        show();
+        QVERIFY(QTest::qWaitForWindowActive(this));
+        QVERIFY(ombrin::test::TestCase::waitFor([this] { return active() == handle(); }));
+    }
+};
+
+// A window of another program; starting it makes it the active one.
+class OtherClient
+{
+public:
+    OtherClient()
+    {
+        const QVector<Handle> before = rootWindows("_NET_CLIENT_LIST");
+        m_process.setStandardOutputFile(QProcess::nullDevice());
+        m_process.start(QStringLiteral("xev"),
+                        {QStringLiteral("-geometry"), QStringLiteral("400x300+50+50")});
+        const bool isThere = ombrin::test::TestCase::waitFor([this, &before] {
+            const QVector<Handle> now = rootWindows("_NET_CLIENT_LIST");
+            m_window = now.size() > before.size() ? now.last() : 0;
+            return m_window != 0 && active() == m_window && !QGuiApplication::focusWindow();
+        });
+        if (!isThere)
+            m_window = 0;
+    }
+    ~OtherClient()
+    {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+    Handle window() const { return m_window; }
+
+private:
+    QProcess m_process;
+    Handle m_window = 0;
+};
+
+} // namespace
+
+class tst_NativeWindow_x11 : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stayOnTopReachesTheWindowManager_data()
+    {
+        QTest::addColumn<bool>("beforeShow");
+        QTest::newRow("on a window not shown yet") << true;
+        QTest::newRow("on a visible window") << false;
+    }
+    void stayOnTopReachesTheWindowManager()
+    {
+        QFETCH(bool, beforeShow);
+        Window window;
+        if (beforeShow)
+            NativeWindow::setStayOnTop(window.handle(), true);
+        window.showAndWait();
+        if (!beforeShow) {
+            QVERIFY(!isKeptAbove(window.handle()));
+            NativeWindow::setStayOnTop(window.handle(), true);
+        }
+        QVERIFY(waitFor([&window] { return isKeptAbove(window.handle()); }));
+
+        OtherClient other;
+        QVERIFY(other.window());
+        QCOMPARE(topmost(), window.handle());
+
+        NativeWindow::setStayOnTop(window.handle(), false);
+        QVERIFY(waitFor([&window] { return !isKeptAbove(window.handle()); }));
+    }
+
+    void hiddenAndShownAgainTheWindowIsStillReached()
+    {
+        Window window;
+        window.showAndWait();
+        NativeWindow::setStayOnTop(window.handle(), true);
+        QVERIFY(waitFor([&window] { return isKeptAbove(window.handle()); }));
+        window.hide();
+        window.showAndWait();
+        QVERIFY(waitFor([&window] { return isKeptAbove(window.handle()); }));
+        NativeWindow::setStayOnTop(window.handle(), false);
+        QVERIFY(waitFor([&window] { return !isKeptAbove(window.handle()); }));
+    }
+
+    void maximizeBoxReachesTheWindowManager()
+    {
+        constexpr auto functionsWith = "0x3, 0x3e";
+        constexpr auto functionsWithout = "0x3, 0x2e";
+        Window window;
+        window.setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+                              | Qt::WindowCloseButtonHint);
+        NativeWindow::addSystemBoxes(window.handle());
+        window.show();
+        const auto functions = [&window] { return xProperty(window.handle(), "_MOTIF_WM_HINTS"); };
+        QVERIFY(waitFor([&] { return functions().contains(QLatin1String(functionsWith)); }));
+        NativeWindow::setMaximizeBox(window.handle(), false);
+        QVERIFY(waitFor([&] { return functions().contains(QLatin1String(functionsWithout)); }));
+        NativeWindow::setMaximizeBox(window.handle(), true);
+        QVERIFY(waitFor([&] { return functions().contains(QLatin1String(functionsWith)); }));
+    }
+
+    void framelessWindowStaysTheSameWindowThroughout()
+    {
+        Window window;
+        const Handle handle = window.handle();
+        const QWindow *native = window.windowHandle();
+        NativeWindow::addSystemBoxes(handle);
+        window.showAndWait();
+        const QString frameless = xProperty(handle, "_MOTIF_WM_HINTS");
+        QVERIFY2(frameless.contains(QLatin1String("0x2, 0x1, 0x0")), qPrintable(frameless));
+
+        NativeWindow::setMaximizeBox(handle, false);
+        QVERIFY(!native->flags().testFlag(Qt::WindowMaximizeButtonHint));
+        NativeWindow::setMaximizeBox(handle, true);
+        QVERIFY(native->flags().testFlag(Qt::WindowMaximizeButtonHint));
+        NativeWindow::setStayOnTop(handle, true);
+        NativeWindow::bringToFront(handle);
+        NativeWindow::flash(handle);
+
+        QVERIFY(isMapped(handle));
+        QVERIFY(window.isVisible());
+        QCOMPARE(window.handle(), handle);
+        QCOMPARE(window.geometry(), QRect(100, 100, 300, 200));
+        QCOMPARE(xProperty(handle, "_MOTIF_WM_HINTS"), frameless);
+        QVERIFY(!demandsAttention(handle)); // the user is looking at it
+    }
+
+    void flashFromATimerIsSeenAtOnce()
+    {
+        Window window;
+        window.showAndWait();
+        OtherClient other;
+        QVERIFY(other.window());
+        const Handle handle = window.handle();
+        QTest::qWait(300); // what showing left to be drawn
+
+        // No X event arrives while the observer sleeps.
+        QTimer::singleShot(300, &window, [handle] { NativeWindow::flash(handle); });
+        const QString state =
+                outputOf(QStringLiteral("sh"),
+                         {QStringLiteral("-c"),
+                          QStringLiteral("sleep 1.5; xprop -id %1 _NET_WM_STATE").arg(handle)});
+        QVERIFY2(state.contains(QLatin1String("DEMANDS_ATTENTION")), qPrintable(state));
+
+        window.activateWindow();
+        QVERIFY(waitFor([handle] { return active() == handle && !demandsAttention(handle); }));
+    }
+
+    void hiddenWindowCanFlashOnceItIsShown()
+    {
+        Window window;
+        NativeWindow::flash(window.handle());
+        window.setAttribute(Qt::WA_ShowWithoutActivating);
+        window.show();
+        OtherClient other;
+        QVERIFY(other.window());
+        QVERIFY(!demandsAttention(window.handle()));
+        NativeWindow::flash(window.handle());
+        QVERIFY(waitFor([&window] { return demandsAttention(window.handle()); }));
+    }
+
+    void broughtToFrontAboveTheActiveWindowOfAnotherClient_data()
+    {
+        QTest::addColumn<bool>("wasOnTop");
+        QTest::newRow("plain") << false;
+        QTest::newRow("kept on top before") << true;
+    }
+    void broughtToFrontAboveTheActiveWindowOfAnotherClient()
+    {
+        QFETCH(bool, wasOnTop);
+        Window window;
+        window.showAndWait();
+        NativeWindow::setStayOnTop(window.handle(), wasOnTop);
+        OtherClient other;
+        QVERIFY(other.window());
+        QVERIFY(waitFor(
+                [&] { return topmost() == (wasOnTop ? window.handle() : other.window()); }));
+
+        NativeWindow::bringToFront(window.handle());
+        QVERIFY(waitFor([&window] {
+            return topmost() == window.handle() && !isKeptAbove(window.handle());
+        }));
+        QCOMPARE(active(), other.window()); // the user goes on typing there
+    }
+
+    void broughtToFrontBelowWindowsKeptOnTop()
+    {
+        Window clock;
+        NativeWindow::setStayOnTop(clock.handle(), true);
+        clock.showAndWait();
+        Window chat;
+        chat.showAndWait();
+        Window settings;
+        settings.showAndWait();
+
+        NativeWindow::bringToFront(chat.handle());
+        const QVector<Handle> expected = {settings.handle(), chat.handle(), clock.handle()};
+        QVERIFY(waitFor([&] { return rootWindows("_NET_CLIENT_LIST_STACKING") == expected; }));
+        // The application is the active one, so the user moves to the window.
+        QVERIFY(waitFor([&chat] { return active() == chat.handle(); }));
+    }
+
+    void bringingAHiddenWindowToFrontDoesNotShowIt()
+    {
+        Window window;
+        NativeWindow::bringToFront(window.handle());
+        QVERIFY(!window.isVisible());
+        QVERIFY(!isMapped(window.handle()));
+    }
+
+    void strangeHandlesAreHarmless_data()
+    {
+        QTest::addColumn<Handle>("handle");
+        Handle stale = 0;
+        {
+            Window window;
+            stale = window.handle();
+        }
+        QTest::newRow("none") << Handle(0);
+        QTest::newRow("window that is gone") << stale;
+        QTest::newRow("never a window") << Handle(-1);
+    }
+    void strangeHandlesAreHarmless()
+    {
+        QFETCH(Handle, handle);
+        Window notCreated;
+        const int windows = QGuiApplication::allWindows().size();
+        NativeWindow::addSystemBoxes(handle);
+        NativeWindow::setMaximizeBox(handle, true);
+        NativeWindow::setStayOnTop(handle, true);
+        NativeWindow::bringToFront(handle);
+        NativeWindow::flash(handle);
+        QCOMPARE(QGuiApplication::allWindows().size(), windows);
+        QVERIFY(!notCreated.testAttribute(Qt::WA_WState_Created));
+    }
+
+    void noMessageAsksForTheMaximumSize()
+    {
+        QVERIFY(!NativeWindow::answerMaximumSize(nullptr, 800, 600));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_NativeWindow_x11)
+#include "tst_nativewindow_x11.moc"

@@ -1,0 +1,126 @@
+#include "support/TestCase.h"
+
+#include <ombrin/OmDesktop.h>
+
+#include <QtGui/QScreen>
+#include <QtWidgets/QWidget>
+
+using ombrin::OmDesktop;
+
+class tst_OmDesktop : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void centresInTheWorkAreaCountedFromTheOrigin_data()
+    {
+        QTest::addColumn<QSize>("leftOver"); // of the work area around the widget
+        QTest::addColumn<QPoint>("position");
+        QTest::newRow("even") << QSize(500, 400) << QPoint(250, 200);
+        QTest::newRow("odd") << QSize(501, 401) << QPoint(250, 200);
+        QTest::newRow("larger than the work area") << QSize(-101, -51) << QPoint(-50, -25);
+    }
+    void centresInTheWorkAreaCountedFromTheOrigin()
+    {
+        QFETCH(QSize, leftOver);
+        QFETCH(QPoint, position);
+        const QSize area = QGuiApplication::primaryScreen()->availableGeometry().size();
+        QWidget widget;
+        const QSize size = area - leftOver;
+        widget.resize(size);
+        OmDesktop::setCentered(&widget);
+        QCOMPARE(widget.geometry(), QRect(position, size));
+    }
+
+    void backgroundIsFilledAtOnceInEveryState()
+    {
+        const QColor color(18, 52, 86);
+        QWidget window;
+        window.resize(40, 30);
+        QWidget child(&window);
+        child.setGeometry(10, 10, 20, 10);
+        child.setBackgroundRole(QPalette::Highlight);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        OmDesktop::setBackgroundColor(&child, color);
+        QVERIFY(child.autoFillBackground());
+        QCOMPARE(child.backgroundRole(), QPalette::Window);
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            QCOMPARE(child.palette().brush(group, QPalette::Window), QBrush(color));
+        for (const bool enabled : {true, false}) {
+            child.setEnabled(enabled);
+            const QImage picture = window.grab().toImage();
+            QCOMPARE(picture.pixelColor(10, 10), color);
+            QCOMPARE(picture.pixelColor(29, 19), color);
+            QVERIFY(picture.pixelColor(9, 10) != color);
+        }
+    }
+
+    void backgroundIsRepaintedBeforeTheCallReturns()
+    {
+        struct Painted : QWidget
+        {
+            void paintEvent(QPaintEvent *) override { ++paints; }
+            int paints = 0;
+        } widget;
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&widget));
+        QCoreApplication::processEvents();
+        const int before = widget.paints;
+        OmDesktop::setBackgroundColor(&widget, Qt::red);
+        QVERIFY(widget.paints > before);
+    }
+
+    void textColorReplacesTheStyleSheet()
+    {
+        QWidget widget;
+        widget.setStyleSheet(QStringLiteral("font: bold"));
+        OmDesktop::setTextColor(&widget, QColor(255, 0, 0));
+        QCOMPARE(widget.styleSheet(), QStringLiteral("color : #ff0000"));
+        OmDesktop::setTextColor(&widget, QColor(10, 171, 205, 30));
+        QCOMPARE(widget.styleSheet(), QStringLiteral("color : #0aabcd"));
+    }
+
+    void thereIsOneVirtualDesktop()
+    {
+        QWidget widget;
+        widget.setGeometry(10, 20, 30, 40);
+        OmDesktop::setDesktop(&widget, 2);
+        QCOMPARE(OmDesktop::currentDesktop(&widget), 0);
+        QCOMPARE(OmDesktop::currentActiveDesktop(), 0);
+        QCOMPARE(widget.geometry(), QRect(10, 20, 30, 40));
+        QVERIFY(!widget.isVisible());
+    }
+
+    void nothingBecomesANativeWindow()
+    {
+        QWidget hidden;
+        QWidget window;
+        window.resize(100, 100);
+        QWidget child(&window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        for (QWidget *widget : {&hidden, &window, &child}) {
+            OmDesktop::flashWindow(widget, true);
+            OmDesktop::setForeground(widget);
+        }
+        QVERIFY(!hidden.testAttribute(Qt::WA_WState_Created));
+        QVERIFY(!child.testAttribute(Qt::WA_NativeWindow));
+        QVERIFY(window.isVisible());
+    }
+
+    void nullWidgetIsHarmless()
+    {
+        OmDesktop::flashWindow(nullptr, true);
+        OmDesktop::setForeground(nullptr);
+        OmDesktop::setCentered(nullptr);
+        OmDesktop::setBackgroundColor(nullptr, Qt::red);
+        OmDesktop::setTextColor(nullptr, Qt::red);
+        OmDesktop::setDesktop(nullptr, 1);
+        QCOMPARE(OmDesktop::currentDesktop(nullptr), 0);
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmDesktop)
+#include "tst_omdesktop.moc"

@@ -101,8 +101,6 @@ void installImageButtonAccessibility()
 
 void announcePressedChange(OmImageButton *button)
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessible::State changed;
     changed.pressed = true;
     announce(button, changed);
@@ -110,8 +108,6 @@ void announcePressedChange(OmImageButton *button)
 
 void announceCheckedChange(OmImageButton *button)
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessible::State changed;
     changed.checked = true;
     announce(button, changed);

@@ -13,8 +13,8 @@ namespace ombrin {
 
 namespace {
 
-// A hand trembles by a pixel or two in a click or a double click.
-constexpr int kClickTolerance = 3;
+// A hand trembles in a click or a double click: a drag begins at so many pixels.
+constexpr int kDragDistance = 2;
 
 } // namespace
 
@@ -130,7 +130,7 @@ void MoveResizeHandler::drag(const QMouseEvent *event)
         return;
     }
     const QPoint delta = globalMousePosition(event) - m_pressPosition;
-    if (m_state == State::Pressed && delta.manhattanLength() >= kClickTolerance)
+    if (m_state == State::Pressed && delta.manhattanLength() >= kDragDistance)
         startDrag(delta);
     else if (m_state == State::Moving || m_state == State::Resizing)
         follow(delta);

@@ -2,7 +2,6 @@
 
 #include "windows/SkinFrame.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
 namespace ombrin {
@@ -80,11 +79,9 @@ QString OmDialog2::windowTitleOnly()
 
 bool OmDialog2::event(QEvent *event)
 {
-    // A status tip may end in a slot of the host that deletes the window.
-    const QPointer<QObject> self(this);
     if (m_frame)
         m_frame->handleEvent(event);
-    return self ? QDialog::event(event) : true;
+    return QDialog::event(event);
 }
 
 void OmDialog2::mouseDoubleClickEvent(QMouseEvent *event)

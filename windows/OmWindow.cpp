@@ -97,11 +97,9 @@ bool OmWindow::isAlwaysOnTop() const
 
 bool OmWindow::event(QEvent *event)
 {
-    // A status tip may end in a slot of the host that deletes the window.
-    const QPointer<QObject> self(this);
     if (m_frame)
         m_frame->handleEvent(event);
-    return self ? QWidget::event(event) : true;
+    return QWidget::event(event);
 }
 
 void OmWindow::mouseDoubleClickEvent(QMouseEvent *event)

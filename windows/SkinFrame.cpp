@@ -9,6 +9,7 @@
 #include <ombrin/OmStatusBar.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
 #include <QtGui/QBitmap>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPaintEvent>
@@ -299,7 +300,14 @@ void SkinFrame::handleEvent(QEvent *event)
                                      kStatusTipDuration);
         break;
     case QEvent::WinIdChange:
+    case QEvent::ParentChange:
+    case QEvent::Show:
+        // A native window made anew, or put under another parent, has lost what we gave it.
         restoreNativeStyle();
+        break;
+    case QEvent::WindowStateChange:
+        // The window system may tell of the state after the resize, or maximise without one.
+        QTimer::singleShot(kDeferral, this, &SkinFrame::checkState);
         break;
     case QEvent::LanguageChange:
         setButtonTexts();

@@ -16,7 +16,9 @@ QStringList g_warnings;
 
 void recordWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (type == QtWarningMsg || type == QtCriticalMsg) {
+    // The offscreen platform says so of every frameless window and every mask.
+    const bool isOfPlatform = message.startsWith(QLatin1String("This plugin does not support"));
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && !isOfPlatform) {
         const QMutexLocker locker(&g_warningsMutex);
         g_warnings.append(message);
     }

@@ -40,17 +40,23 @@ inline void clickAt(const QPoint &position, int button = 1, int count = 1)
                 .arg(button));
 }
 
-/// Drags with the left button in steps, as a hand does.
+/// Drags with the left button as a hand does, beginning slowly.
 inline void dragBy(const QPoint &from, const QPoint &delta)
 {
     QString script = QStringLiteral("mousemove %1 %2 sleep 0.1 mousedown 1 sleep 0.05")
                              .arg(from.x())
                              .arg(from.y());
-    constexpr int kSteps = 5;
-    for (int step = 1; step <= kSteps; ++step) {
-        const QPoint to = from + delta * step / kSteps;
-        script += QStringLiteral(" mousemove %1 %2 sleep 0.06").arg(to.x()).arg(to.y());
-    }
+    const auto moveTo = [&script](const QPoint &to) {
+        script += QStringLiteral(" mousemove %1 %2 sleep 0.05").arg(to.x()).arg(to.y());
+    };
+    const bool isFlat = std::abs(delta.x()) >= std::abs(delta.y());
+    const QPoint pixel =
+            isFlat ? QPoint(delta.x() < 0 ? -1 : 1, 0) : QPoint(0, delta.y() < 0 ? -1 : 1);
+    moveTo(from + pixel);
+    moveTo(from + 2 * pixel);
+    constexpr int kSteps = 4;
+    for (int step = 1; step <= kSteps; ++step)
+        moveTo(from + delta * step / kSteps);
     xdo(script + QStringLiteral(" sleep 0.1 mouseup 1 sleep 0.1"));
 }
 

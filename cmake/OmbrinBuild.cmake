@@ -44,7 +44,7 @@ if(OMBRIN_SANITIZE)
     -fsanitize=${OMBRIN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(ombrin_build_options INTERFACE -fsanitize=${OMBRIN_SANITIZE})
 endif()
-if(OMBRIN_BUILD_TESTS)
+if(OMBRIN_BUILD_TESTS OR OMBRIN_BUILD_BENCHMARKS)
   target_compile_definitions(ombrin_build_options INTERFACE OMBRIN_AUTOTEST)
 endif()
 

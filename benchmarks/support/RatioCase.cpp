@@ -42,11 +42,15 @@ std::vector<Mean> &means()
 }
 
 // Keeps the shortest time of each side: what disturbs a measurement only ever makes it longer.
-class RatioReporter : public benchmark::ConsoleReporter
+class RatioReporter : public benchmark::BenchmarkReporter
 {
 public:
+    bool ReportContext(const Context &) override { return true; }
+
     void ReportRuns(const std::vector<Run> &runs) override
     {
+        if (!runs.empty())
+            std::fprintf(stderr, "measured %s\n", runs.front().run_name.function_name.c_str());
         for (const Run &run : runs) {
             if (run.run_type != Run::RT_Iteration || run.error_occurred)
                 continue;
@@ -57,7 +61,6 @@ public:
             else
                 found->second = std::min(found->second, time);
         }
-        ConsoleReporter::ReportRuns(runs);
     }
 
     // Negative when the case was not measured.

@@ -1,3 +1,34 @@
+# Programs for Windows that are built elsewhere run under Wine, unless the cross tool chain brings
+# an emulator of its own. Wine must be told where the libraries of Qt and of the compiler lie.
+function(_ombrin_run_tests_under_wine)
+  get_target_property(qt_core Qt${OMBRIN_QT}::Core LOCATION)
+  get_filename_component(qt_libraries "${qt_core}" DIRECTORY)
+  set(arguments --dlls "${qt_libraries}")
+  foreach(library IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${library}
+      OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(IS_ABSOLUTE "${file}")
+      get_filename_component(folder "${file}" DIRECTORY)
+      list(APPEND arguments --dlls "${folder}")
+    endif()
+  endforeach()
+
+  if(TARGET Qt${OMBRIN_QT}::QWindowsIntegrationPlugin)
+    get_target_property(plugin Qt${OMBRIN_QT}::QWindowsIntegrationPlugin LOCATION)
+    get_filename_component(plugins "${plugin}/../.." ABSOLUTE)
+  else()
+    get_target_property(qmake Qt${OMBRIN_QT}::qmake LOCATION)
+    execute_process(COMMAND "${qmake}" -query QT_INSTALL_PLUGINS
+      OUTPUT_VARIABLE plugins OUTPUT_STRIP_TRAILING_WHITESPACE)
+  endif()
+  set(CMAKE_CROSSCOMPILING_EMULATOR
+    "${PROJECT_SOURCE_DIR}/tests/support/with-wine" ${arguments} --plugins "${plugins}"
+    PARENT_SCOPE)
+endfunction()
+if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
+  _ombrin_run_tests_under_wine()
+endif()
+
 # ombrin_add_test(NAME SOURCES file... [LIBRARIES target...] [WINDOW_SYSTEM] [SCALE_FACTORS factor...])
 #
 # Adds a Qt Test program. It runs on Qt's offscreen platform; with WINDOW_SYSTEM it runs under an X
@@ -43,5 +74,9 @@ function(ombrin_add_test name)
     endif()
     set_tests_properties(${test_name} PROPERTIES
       ENVIRONMENT "${test_environment}" TIMEOUT 300)
+    if(WIN32)
+      # One window at a time is the active one of a Windows desktop.
+      set_tests_properties(${test_name} PROPERTIES RESOURCE_LOCK windows_desktop)
+    endif()
   endforeach()
 endfunction()

@@ -40,7 +40,8 @@ void setStayOnTop(Handle handle, bool on)
     if (!window)
         return;
     changeBits(window, GWL_EXSTYLE, WS_EX_TOPMOST, on);
-    // The style alone does not move the window to its place among the others.
+    // The system does not take this bit from SetWindowLongW: it goes with the window's place among
+    // the others.
     SetWindowPos(window, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  keepPlaceAndSize | SWP_NOACTIVATE);
 }

@@ -1,0 +1,213 @@
+#include "platform/NativeHandle.h"
+#include "platform/NativeWindow_win.h"
+#include "support/TestCase.h"
+
+#include <ombrin/OmQtCompat.h>
+
+#include <QtWidgets/QWidget>
+
+namespace NativeWindow = ombrin::NativeWindow;
+using NativeWindow::Handle;
+
+namespace {
+
+constexpr LONG systemBoxes = 0xB0000;
+constexpr LONG maximizeBox = 0x10000;
+
+// A frameless window as the library's frames are.
+class Window : public QWidget
+{
+public:
+    Window()
+    {
+        setWindowFlags(Qt::FramelessWindowHint);
+        setGeometry(100, 100, 300, 200);
+    }
+    Handle handle()
+    {
+        winId(); // creates it
+        return NativeWindow::handleOf(this);
+    }
+    HWND native() { return reinterpret_cast<HWND>(handle()); }
+    LONG style() { return GetWindowLongW(native(), GWL_STYLE); }
+    bool isTopmost() { return (GetWindowLongW(native(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
+    void showAndWait()
+    {
+        show();
+        QVERIFY(QTest::qWaitForWindowActive(this));
+    }
+
+    QSize maximumSize;      // the answer to the system's question, when valid
+    int captionChanges = 0; // how often the caption was drawn anew
+
+protected:
+    bool nativeEvent(const QByteArray &, void *message, ombrin::NativeEventResult *) override
+    {
+        captionChanges += static_cast<MSG *>(message)->message == WM_NCACTIVATE ? 1 : 0;
+        if (maximumSize.isValid())
+            NativeWindow::answerMaximumSize(message, maximumSize.width(), maximumSize.height());
+        return false;
+    }
+};
+
+// The first of the windows that the system puts above the other.
+HWND upper(HWND one, HWND other)
+{
+    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
+        if (window == one || window == other)
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_NativeWindow_win : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void systemBoxesAreAddedAndNothingElse()
+    {
+        Window window;
+        const LONG before = window.style();
+        NativeWindow::addSystemBoxes(window.handle());
+        QCOMPARE(window.style(), before | systemBoxes);
+        window.showAndWait();
+        QCOMPARE(window.style() & systemBoxes, systemBoxes);
+        QCOMPARE(window.geometry(), QRect(100, 100, 300, 200));
+    }
+
+    void maximizeBoxComesAndGoes()
+    {
+        Window window;
+        NativeWindow::addSystemBoxes(window.handle());
+        window.showAndWait();
+        const LONG with = window.style();
+        NativeWindow::setMaximizeBox(window.handle(), false);
+        QCOMPARE(window.style(), with & ~maximizeBox);
+        NativeWindow::setMaximizeBox(window.handle(), false);
+        QCOMPARE(window.style(), with & ~maximizeBox);
+        NativeWindow::setMaximizeBox(window.handle(), true);
+        QCOMPARE(window.style(), with);
+    }
+
+    void staysAboveOthersUntilLetGo()
+    {
+        Window window;
+        Window other;
+        window.showAndWait();
+        QVERIFY(!window.isTopmost());
+        NativeWindow::setStayOnTop(window.handle(), true);
+        QVERIFY(window.isTopmost());
+        other.showAndWait();
+        QCOMPARE(upper(window.native(), other.native()), window.native());
+        QVERIFY(other.isActiveWindow());
+
+        NativeWindow::setStayOnTop(window.handle(), false);
+        QVERIFY(!window.isTopmost());
+        SetWindowPos(other.native(), HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+        QCOMPARE(upper(window.native(), other.native()), other.native());
+    }
+
+    void broughtToFrontWithoutStayingThere_data()
+    {
+        QTest::addColumn<bool>("wasOnTop");
+        QTest::newRow("plain") << false;
+        QTest::newRow("kept on top before") << true;
+    }
+    void broughtToFrontWithoutStayingThere()
+    {
+        QFETCH(bool, wasOnTop);
+        Window clock;
+        clock.showAndWait();
+        NativeWindow::setStayOnTop(clock.handle(), true);
+        Window window;
+        window.showAndWait();
+        NativeWindow::setStayOnTop(window.handle(), wasOnTop);
+        Window other;
+        other.showAndWait();
+
+        NativeWindow::bringToFront(window.handle());
+        QVERIFY(!window.isTopmost());
+        QCOMPARE(upper(window.native(), other.native()), window.native());
+        QCOMPARE(upper(window.native(), clock.native()), clock.native());
+        QCOMPARE(window.geometry(), QRect(100, 100, 300, 200));
+    }
+
+    void flashesCaptionAndTaskBarButtonThreeTimes()
+    {
+        Window window;
+        const FLASHWINFO request = NativeWindow::flashRequest(window.native());
+        QCOMPARE(request.cbSize, UINT(sizeof(FLASHWINFO)));
+        QCOMPARE(request.hwnd, window.native());
+        QCOMPARE(request.dwFlags, DWORD(3));
+        QCOMPARE(request.uCount, UINT(3));
+        QCOMPARE(request.dwTimeout, DWORD(0));
+
+        window.showAndWait();
+        Window other;
+        other.showAndWait();
+        const int before = window.captionChanges;
+        NativeWindow::flash(window.handle());
+        QVERIFY(window.captionChanges > before);
+    }
+
+    void maximumSizeIsAnswered()
+    {
+        MINMAXINFO limits = {};
+        limits.ptMaxPosition = {-4, -4};
+        MSG message = {};
+        message.message = WM_SIZE;
+        message.lParam = reinterpret_cast<LPARAM>(&limits);
+        QVERIFY(!NativeWindow::answerMaximumSize(&message, 800, 600));
+        QCOMPARE(limits.ptMaxSize.x, LONG(0));
+
+        message.message = WM_GETMINMAXINFO;
+        QVERIFY(NativeWindow::answerMaximumSize(&message, 800, 600));
+        QCOMPARE(limits.ptMaxSize.x, LONG(800));
+        QCOMPARE(limits.ptMaxSize.y, LONG(600));
+        QCOMPARE(limits.ptMaxPosition.x, LONG(-4));
+        QCOMPARE(limits.ptMaxPosition.y, LONG(-4));
+
+        message.lParam = 0;
+        QVERIFY(!NativeWindow::answerMaximumSize(&message, 800, 600));
+        QVERIFY(!NativeWindow::answerMaximumSize(nullptr, 800, 600));
+    }
+
+    void maximumSizeIsWhatTheSystemHears()
+    {
+        Window window;
+        window.maximumSize = QSize(777, 555);
+        MINMAXINFO limits = {};
+        SendMessageW(window.native(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+        QCOMPARE(limits.ptMaxSize.x, LONG(777));
+        QCOMPARE(limits.ptMaxSize.y, LONG(555));
+    }
+
+    void strangeHandlesAreHarmless_data()
+    {
+        QTest::addColumn<Handle>("handle");
+        Handle stale = 0;
+        {
+            Window window;
+            stale = window.handle();
+        }
+        QTest::newRow("none") << Handle(0);
+        QTest::newRow("window that is gone") << stale;
+        QTest::newRow("never a window") << Handle(-1);
+    }
+    void strangeHandlesAreHarmless()
+    {
+        QFETCH(Handle, handle);
+        NativeWindow::addSystemBoxes(handle);
+        NativeWindow::setMaximizeBox(handle, true);
+        NativeWindow::setStayOnTop(handle, true);
+        NativeWindow::bringToFront(handle);
+        NativeWindow::flash(handle);
+        QVERIFY(!IsWindow(reinterpret_cast<HWND>(handle)));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_NativeWindow_win)
+#include "tst_nativewindow_win.moc"

@@ -14,9 +14,13 @@ public:
     explicit EmbeddedFrame(QWidget *parent)
         : Frame(parent)
     {
+        // A dialog made itself a native window. Inside another one it would force its whole
+        // neighbourhood to become native, too.
+        this->setAttribute(Qt::WA_NativeWindow, false);
         this->setWindowFlags(Qt::Widget);
         this->setWindowModality(Qt::NonModal);
         this->setAttribute(Qt::WA_TransparentForMouseEvents);
+        this->setAutoFillBackground(true); // as Qt does for windows alone
     }
 
 protected:

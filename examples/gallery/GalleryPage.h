@@ -38,7 +38,7 @@ class QWidget;
 /// \endcode
 ///
 /// Title and summary are drawn above the page by the window; the page itself is built from the
-/// cards and captions of PageKit.h. It should fit 744 x 456 pixels (more scrolls), and look the
+/// cards and captions of PageKit.h. It should fit 766 x 512 pixels (more scrolls), and look the
 /// same each time it is photographed: widgets in a state that only a mouse or a keyboard brings
 /// about are pinned with the functions of PageKit.h.
 ///

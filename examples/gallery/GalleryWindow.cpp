@@ -11,7 +11,6 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QtCore/QPointer>
-#include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QFileDialog>
@@ -33,7 +32,7 @@ QAction *addEntry(QMenu *menu, const QString &icon, const QString &text, const Q
 {
     QAction *action = menu->addAction(text);
     if (!icon.isEmpty())
-        action->setIcon(QIcon(QStringLiteral(":/") + icon));
+        action->setIcon(skinIcon(icon));
     action->setStatusTip(statusTip);
     return action;
 }
@@ -55,7 +54,8 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     : OmWindow(parent)
 {
     setWindowTitle(tr("Ombrin Gallery"));
-    setWindowIcon(QIcon(QStringLiteral(":/chat-32")));
+    setWindowTitleOnly(tr("Gallery")); // the frame bears the name already
+    setWindowIcon(skinIcon(QStringLiteral("chat-32")));
     setWidget(createContents());
     createMenus();
     createStatusBar();
@@ -202,7 +202,7 @@ void GalleryWindow::onPageChosen(const QString &name)
     m_pages->setCurrentWidget(builtPage(*page));
     m_title->setText(page->titleText());
     m_summary->setText(page->summaryText());
-    m_position->setText(tr("%1 - %2").arg(groupTitle(page->group), page->titleText()));
+    m_position->setText(tr("%1 \u203a %2").arg(groupTitle(page->group), page->titleText()));
     const QList<QAction *> actions = m_pageActions->actions();
     for (QAction *action : actions)
         action->setChecked(action->data().toString() == name);

@@ -1,6 +1,5 @@
 #include "PageKit.h"
 
-#include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QPushButton>
@@ -90,10 +89,15 @@ QPushButton *pushButton(const QString &text, const QString &statusTip)
     return button;
 }
 
+QIcon skinIcon(const QString &name)
+{
+    return QIcon(QStringLiteral(":/") + name);
+}
+
 QPixmap skinPicture(const QString &name)
 {
     // QIcon finds the variants for denser screens; its smallest size is the one for density 1.
-    const QIcon icon(QStringLiteral(":/") + name);
+    const QIcon icon = skinIcon(name);
     const QList<QSize> sizes = icon.availableSizes();
     if (sizes.isEmpty())
         return QPixmap();

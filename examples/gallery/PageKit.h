@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QIcon>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
@@ -17,6 +18,7 @@ namespace gallery {
 /// Distances of the gallery's layouts, in pixels.
 constexpr int kPageMargin = 16;
 constexpr int kCardGap = 12;
+constexpr int kSideColumnWidth = 190;
 
 /// A white box with a title and a column of contents.
 class Card : public QWidget
@@ -47,6 +49,8 @@ QLabel *note(const QString &text);
 /// A push button that shows \a statusTip in the window's status bar.
 QPushButton *pushButton(const QString &text, const QString &statusTip);
 
+/// The skin's picture \a name (without ":/") in all its densities.
+QIcon skinIcon(const QString &name);
 /// The skin's picture \a name (without ":/") at the density of the screen; null if there is none.
 QPixmap skinPicture(const QString &name);
 

@@ -40,33 +40,42 @@ private:
 DialogPage::DialogPage()
 {
     auto *row = cardStack(Qt::Horizontal);
-    row->addWidget(createOpenCard(), 0, Qt::AlignTop);
+    row->addWidget(createOpenCard());
     row->addWidget(createExhibitCard(), 1);
     cardColumn(this)->addLayout(row);
 }
 
 QWidget *DialogPage::createOpenCard()
 {
-    auto *modal = pushButton(tr("Window-modal dialog..."),
-                             tr("Blocks the gallery, but no other window of the application"));
+    const QString modalText = tr("Blocks the gallery, but no other window of the application");
+    auto *modal = pushButton(tr("Window-modal"), modalText);
     connect(modal, &QPushButton::clicked, this,
             [this] { open(window(), tr("New contact"), false, false); });
-    auto *fixed = pushButton(tr("Fixed dialog..."), tr("Moves but neither resizes nor maximises"));
+    const QString fixedText = tr("Moves, but neither resizes nor maximises");
+    auto *fixed = pushButton(tr("Fixed"), fixedText);
     connect(fixed, &QPushButton::clicked, this,
             [this] { open(window(), tr("New contact (fixed)"), true, false); });
-    auto *bars = pushButton(tr("With menu and status bar..."),
-                            tr("A dialog can have what a window has"));
+    const QString barsText = tr("Has a menu bar and a status bar, as a window can");
+    auto *bars = pushButton(tr("With bars"), barsText);
     connect(bars, &QPushButton::clicked, this,
             [this] { open(window(), tr("New contact (with bars)"), false, true); });
-    auto *orphan = pushButton(tr("Without a parent..."), tr("Blocks no window at all"));
+    const QString orphanText = tr("Blocks no window at all");
+    auto *orphan = pushButton(tr("Without a parent"), orphanText);
     connect(orphan, &QPushButton::clicked, this,
             [this] { open(nullptr, tr("New contact (no parent)"), false, false); });
-    m_answer = note(tr("No answer yet"));
+    m_answer = new QLabel(tr("No answer yet"));
 
-    auto *card = new Card(tr("Try it"));
-    for (QPushButton *button : {modal, fixed, bars, orphan})
+    auto *card = new Card(tr("Open a dialog"));
+    card->setFixedWidth(kSideColumnWidth);
+    const std::pair<QPushButton *, QString> buttons[] = {
+            {modal, modalText}, {fixed, fixedText}, {bars, barsText}, {orphan, orphanText}};
+    for (const auto &[button, text] : buttons) {
         card->body()->addWidget(button);
-    card->body()->addSpacing(4);
+        card->body()->addWidget(note(text));
+        card->body()->addSpacing(8);
+    }
+    card->body()->addStretch();
+    card->body()->addWidget(caption(tr("Last answer")));
     card->body()->addWidget(m_answer);
     return card;
 }
@@ -81,7 +90,7 @@ QWidget *DialogPage::createExhibitCard()
     const auto widgets = frame->findChildren<QWidget *>();
     for (QWidget *widget : widgets)
         widget->setFocusPolicy(Qt::NoFocus);
-    frame->setGeometry(0, 0, 400, 250);
+    frame->setGeometry(0, 0, 460, 290);
     stage->setFixedSize(frame->size());
 
     auto *card = new Card(tr("A form in a dialog"));

@@ -9,48 +9,96 @@ namespace gallery {
 
 namespace {
 
-/// The eight pictures of a frame, pulled apart.
+struct Piece
+{
+    const char *name;
+    QRect place; // in the figure
+    QRect label;
+    Qt::Alignment labelAlignment;
+};
+
+constexpr QSize kFigureSize(316, 226);
+constexpr int kTitleHeight = 30;
+constexpr int kBorder = 5;
+constexpr int kGap = 12;
+constexpr int kLabelHeight = 30;
+constexpr int kSideTop = kTitleHeight + kGap + kLabelHeight;
+constexpr int kBottomTop = kFigureSize.height() - kBorder;
+constexpr int kSideHeight = kBottomTop - kGap - kSideTop;
+constexpr int kRight = kFigureSize.width() - kBorder;
+constexpr int kTopRight = kFigureSize.width() - 88;
+constexpr int kCentreWidth = kTopRight - 86 - 2 * kGap;
+
+constexpr Piece kPieces[] = {
+        {"top_left", {0, 0, 86, kTitleHeight}, {0, 32, 86, kLabelHeight}, Qt::AlignHCenter},
+        {"top_center",
+         {86 + kGap, 0, kCentreWidth, kTitleHeight},
+         {86 + kGap, 32, kCentreWidth, kLabelHeight},
+         Qt::AlignHCenter},
+        {"top_right",
+         {kTopRight, 0, 88, kTitleHeight},
+         {kTopRight, 32, 88, kLabelHeight},
+         Qt::AlignHCenter},
+        {"left",
+         {0, kSideTop, kBorder, kSideHeight},
+         {kGap, kSideTop, 60, kSideHeight - 38},
+         Qt::AlignLeft},
+        {"right",
+         {kRight, kSideTop, kBorder, kSideHeight},
+         {kRight - 67, kSideTop, 60, kSideHeight - 38},
+         Qt::AlignRight},
+        {"bottom_left",
+         {0, kBottomTop, kBorder, kBorder},
+         {kGap, kBottomTop - 42, 80, kLabelHeight},
+         Qt::AlignLeft},
+        {"bottom_center",
+         {kBorder + kGap, kBottomTop, kRight - kBorder - 2 * kGap, kBorder},
+         {100, kBottomTop - 42, kFigureSize.width() - 200, kLabelHeight},
+         Qt::AlignHCenter},
+        {"bottom_right",
+         {kRight, kBottomTop, kBorder, kBorder},
+         {kRight - 87, kBottomTop - 42, 80, kLabelHeight},
+         Qt::AlignRight},
+};
+
+/// The eight pictures of a frame, pulled apart, with their names and sizes.
 class ExplodedFrame : public QWidget
 {
+    Q_DECLARE_TR_FUNCTIONS(ExplodedFrame)
+
 public:
     explicit ExplodedFrame(const QString &activation)
         : m_activation(activation)
     {
-        setFixedSize(kSize);
+        setFixedSize(kFigureSize);
     }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        const int right = width() - kRightWidth;
-        const int bottom = height() - kBorder;
-        const int side = bottom - kGap - (kTitleHeight + kGap);
-        const int centre = kLeftWidth + kGap;
         QPainter painter(this);
-        draw(&painter, "top_left", QRect(0, 0, kLeftWidth, kTitleHeight));
-        draw(&painter, "top_center", QRect(centre, 0, right - kGap - centre, kTitleHeight));
-        draw(&painter, "top_right", QRect(right, 0, kRightWidth, kTitleHeight));
-        draw(&painter, "left", QRect(0, kTitleHeight + kGap, kBorder, side));
-        draw(&painter, "right", QRect(width() - kBorder, kTitleHeight + kGap, kBorder, side));
-        draw(&painter, "bottom_left", QRect(0, bottom, kBorder, kBorder));
-        draw(&painter, "bottom_center",
-             QRect(kBorder + kGap, bottom, width() - 2 * (kBorder + kGap), kBorder));
-        draw(&painter, "bottom_right", QRect(width() - kBorder, bottom, kBorder, kBorder));
+        QFont small = font();
+        if (small.pixelSize() > 0)
+            small.setPixelSize(small.pixelSize() - 1);
+        else
+            small.setPointSizeF(small.pointSizeF() - 1);
+        painter.setFont(small);
+        painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+        for (const Piece &piece : kPieces)
+            draw(&painter, piece);
     }
 
 private:
-    static constexpr QSize kSize{310, 176};
-    static constexpr int kLeftWidth = 86;
-    static constexpr int kRightWidth = 88;
-    static constexpr int kTitleHeight = 30;
-    static constexpr int kBorder = 5;
-    static constexpr int kGap = 12;
-
-    void draw(QPainter *painter, const char *piece, const QRect &place) const
+    void draw(QPainter *painter, const Piece &piece) const
     {
-        const QPixmap picture = skinPicture(QLatin1String(piece) + QLatin1Char('_') + m_activation);
-        if (!picture.isNull())
-            painter->drawPixmap(place, picture);
+        const QString name = QString::fromLatin1(piece.name);
+        const QPixmap picture = skinPicture(name + QLatin1Char('_') + m_activation);
+        if (picture.isNull())
+            return;
+        painter->drawPixmap(piece.place, picture);
+        const QSize size = picture.size() / qRound(picture.devicePixelRatioF());
+        painter->drawText(piece.label, static_cast<int>(piece.labelAlignment) | Qt::AlignVCenter,
+                          tr("%1\n%2 \u00d7 %3").arg(name).arg(size.width()).arg(size.height()));
     }
 
     QString m_activation;
@@ -105,8 +153,7 @@ FramePiecesPage::FramePiecesPage()
     frames->addWidget(createFrameCard(tr("Inactive frame"), QStringLiteral("inactive")), 1);
     QVBoxLayout *column = cardColumn(this);
     column->addLayout(frames);
-    column->addWidget(createButtonCard());
-    column->addStretch();
+    column->addWidget(createButtonCard(), 1);
 }
 
 QWidget *FramePiecesPage::createFrameCard(const QString &title, const QString &activation)
@@ -124,7 +171,7 @@ QWidget *FramePiecesPage::createButtonCard()
                                                        {tr("Disabled"), "disabled"}};
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(kPageMargin);
-    grid->setVerticalSpacing(8);
+    grid->setVerticalSpacing(12);
     grid->addWidget(caption(tr("Active")), 1, 0);
     grid->addWidget(caption(tr("Inactive")), 2, 0);
     int column = 1;
@@ -141,7 +188,9 @@ QWidget *FramePiecesPage::createButtonCard()
         ++column;
     }
     auto *card = new Card(tr("Title-bar buttons"));
+    card->body()->addStretch();
     card->body()->addLayout(grid);
+    card->body()->addStretch();
     return card;
 }
 

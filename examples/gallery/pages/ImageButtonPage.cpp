@@ -54,6 +54,11 @@ OmImageButton *titleButton(const QString &name)
     return button;
 }
 
+QPixmap greyPicture(const QString &name)
+{
+    return skinIcon(name).pixmap(32, 32, QIcon::Disabled);
+}
+
 /// A star that is full while it is checked.
 OmImageButton *starButton()
 {
@@ -61,8 +66,10 @@ OmImageButton *starButton()
     const QPixmap full = skinPicture(QStringLiteral("star_full-32"));
     OmImageButton *button = buttonOfSize(empty);
     button->setCheckable(true);
-    button->setAllPixmaps(empty, false, true, true, false, true);
-    button->setAllPixmaps(full, true, false, true, false, true);
+    button->setAllPixmaps(empty, false, true, true, false, false);
+    button->setAllPixmaps(full, true, false, true, false, false);
+    button->setPixmapDisabled(greyPicture(QStringLiteral("star_empty-32")));
+    button->setPixmapDisabledSelected(greyPicture(QStringLiteral("star_full-32")));
     button->setPixmapHovered(skinPicture(QStringLiteral("star_empty_hover-32")));
     button->setPixmapHoveredSelected(skinPicture(QStringLiteral("star_full_hover-32")));
     return button;
@@ -103,8 +110,6 @@ public:
     ImageButtonPage();
 
 private:
-    using Maker = OmImageButton *(*)();
-
     struct Row
     {
         QString text;
@@ -131,9 +136,8 @@ ImageButtonPage::ImageButtonPage()
     lower->addWidget(createOffsetCard(), 1);
     lower->addWidget(createLiveCard(), 1);
     QVBoxLayout *column = cardColumn(this);
-    column->addLayout(upper);
-    column->addLayout(lower);
-    column->addStretch();
+    column->addLayout(upper, 2);
+    column->addLayout(lower, 1);
 }
 
 QString ImageButtonPage::stateText(State state)
@@ -169,7 +173,7 @@ QGridLayout *ImageButtonPage::stateGrid(const QVector<Row> &rows)
             pin(button, kStates[column]);
             grid->addWidget(button, line, column + 1, Qt::AlignCenter);
         }
-        grid->setRowMinimumHeight(line, 34);
+        grid->setRowMinimumHeight(line, 42);
         ++line;
     }
     return grid;
@@ -181,6 +185,7 @@ QWidget *ImageButtonPage::createPictureCard()
     auto *card = new Card(tr("One picture for each state"));
     card->body()->addLayout(stateGrid({
             {tr("Minimise"), titleButton, QStringLiteral("minimize"), false},
+            {tr("Maximise"), titleButton, QStringLiteral("maximize"), false},
             {tr("Close"), titleButton, QStringLiteral("close"), false},
             {tr("Unchecked"), star, QString(), false},
             {tr("Checked"), star, QString(), true},
@@ -196,6 +201,7 @@ QWidget *ImageButtonPage::createDerivedCard()
             {tr("Chat"), derivedButton, QStringLiteral("chat-32"), false},
             {tr("Add several"), derivedButton, QStringLiteral("addmulti-32"), false},
             {tr("Unblock"), derivedButton, QStringLiteral("unblock-32"), false},
+            {tr("Call"), derivedButton, QStringLiteral("phone-16"), false},
             {tr("Save"), derivedButton, QStringLiteral("save-16"), false},
     }));
     card->body()->addStretch();
@@ -216,6 +222,7 @@ QWidget *ImageButtonPage::createOffsetCard()
         row->addLayout(column);
     }
     auto *card = new Card(tr("The offset shifts the picture of a pressed button"));
+    card->body()->addStretch();
     card->body()->addLayout(row);
     card->body()->addStretch();
     return card;
@@ -248,7 +255,9 @@ QWidget *ImageButtonPage::createLiveCard()
         row->addLayout(column);
     }
     auto *card = new Card(tr("Try it"));
+    card->body()->addStretch();
     card->body()->addLayout(row);
+    card->body()->addStretch();
     card->body()->addWidget(log);
     return card;
 }

@@ -115,11 +115,11 @@ QWidget *PalettePage::createTable()
 
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(8);
     grid->addWidget(caption(tr("Contrast with")), 0, 1);
     for (int index = 0; index < 3; ++index) {
         const int column = 2 + index * columnsOfGroup;
-        grid->addWidget(caption(groups[index].text), 0, column, 1, columnsOfGroup);
+        grid->addWidget(new QLabel(groups[index].text), 0, column, 1, columnsOfGroup);
         grid->setColumnStretch(column + 2, 1);
     }
     int row = 1;

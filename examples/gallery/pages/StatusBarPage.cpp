@@ -9,6 +9,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolButton>
 
 namespace gallery {
 
@@ -17,7 +18,7 @@ namespace {
 using ombrin::OmStatusBar;
 
 constexpr int kMessageMs = 2000;
-constexpr int kBarHeight = 22;
+constexpr int kBarHeight = 24;
 
 OmStatusBar *statusBar()
 {
@@ -27,25 +28,64 @@ OmStatusBar *statusBar()
     return bar;
 }
 
-/// A status bar under the magnifying glass: each row of its pixels eight pixels high.
-class MagnifiedBar : public QWidget
+QLabel *text(const QString &words)
+{
+    auto *label = new QLabel(words);
+    label->setContentsMargins(4, 0, 4, 0);
+    return label;
+}
+
+struct GradientStop
+{
+    double place; // from the bottom
+    QColor color;
+};
+
+constexpr GradientStop kGradientStops[] = {{1.0, {183, 183, 182}},
+                                           {0.95, {207, 207, 207}},
+                                           {0.5, {228, 228, 228}},
+                                           {0.0, {232, 232, 232}}};
+
+/// A status bar drawn ten times as high, with the colours of its gradient.
+class GradientFigure : public QWidget
 {
 public:
-    MagnifiedBar() { setFixedHeight(kBarHeight * kScale); }
+    GradientFigure() { setMinimumHeight(150); }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        OmStatusBar bar;
-        bar.setSizeGripEnabled(false);
-        bar.resize(8, kBarHeight);
-        QImage picture(bar.size(), QImage::Format_RGB32);
-        bar.render(&picture);
-        QPainter(this).drawImage(rect(), picture);
+        constexpr int labelWidth = 76;
+        constexpr int lineHeight = 20;
+        const int barWidth = width() - labelWidth;
+        QPainter painter(this);
+        painter.drawImage(QRect(0, 0, barWidth, height()), barPicture(height()));
+
+        const QColor quiet = palette().color(QPalette::Disabled, QPalette::WindowText);
+        int lowestText = lineHeight / 2;
+        for (const GradientStop &stop : kGradientStops) {
+            const int y = qRound((1.0 - stop.place) * (height() - 1));
+            const int textY = qBound(lowestText, y, height() - lineHeight / 2);
+            painter.setPen(palette().color(QPalette::Dark));
+            painter.drawLine(barWidth, y, barWidth + 6, y);
+            painter.drawLine(barWidth + 6, y, barWidth + 14, textY);
+            painter.setPen(quiet);
+            painter.drawText(barWidth + 20, textY - lineHeight / 2, labelWidth - 20, lineHeight,
+                             Qt::AlignLeft | Qt::AlignVCenter, stop.color.name());
+            lowestText = textY + lineHeight;
+        }
     }
 
 private:
-    static constexpr int kScale = 6;
+    static QImage barPicture(int height)
+    {
+        OmStatusBar bar;
+        bar.setSizeGripEnabled(false);
+        bar.resize(8, height);
+        QImage picture(bar.size(), QImage::Format_RGB32);
+        bar.render(&picture);
+        return picture;
+    }
 };
 
 class StatusBarPage : public QWidget
@@ -68,8 +108,7 @@ StatusBarPage::StatusBarPage()
     lower->addWidget(createLiveCard(), 1);
     QVBoxLayout *column = cardColumn(this);
     column->addWidget(createContentsCard());
-    column->addLayout(lower);
-    column->addStretch();
+    column->addLayout(lower, 1);
 }
 
 QWidget *StatusBarPage::createContentsCard()
@@ -78,34 +117,38 @@ QWidget *StatusBarPage::createContentsCard()
     message->showMessage(tr("Ada has signed in"));
 
     OmStatusBar *widgets = statusBar();
-    auto *presence = new QLabel(tr("Online"));
-    presence->setContentsMargins(4, 0, 4, 0);
-    widgets->addWidget(presence);
-    widgets->addWidget(new QLabel(tr("3 conversations")));
-    widgets->addPermanentWidget(new QLabel(tr("12 of 40 contacts online ")));
+    widgets->addWidget(text(tr("Online")));
+    widgets->addWidget(text(tr("3 conversations")));
+    widgets->addPermanentWidget(text(tr("12 of 40 contacts online")));
 
     OmStatusBar *progress = statusBar();
-    progress->addWidget(new QLabel(tr(" Sending holiday.jpg")));
+    progress->addWidget(text(tr("Sending holiday.jpg")));
     auto *transfer = new QProgressBar;
     transfer->setFixedSize(160, 14);
     transfer->setValue(65);
     progress->addPermanentWidget(transfer);
 
-    OmStatusBar *grip = statusBar();
-    grip->addWidget(new QLabel(tr(" A size grip at the end")));
-    grip->setSizeGripEnabled(true);
+    OmStatusBar *buttons = statusBar();
+    buttons->addWidget(text(tr("Conversation with Ada")));
+    for (const char *icon : {"phone-16", "filetransfer-16", "profile-16"}) {
+        auto *button = new QToolButton;
+        button->setIcon(skinIcon(QLatin1String(icon)));
+        button->setIconSize(QSize(16, 16));
+        button->setAutoRaise(true);
+        buttons->addPermanentWidget(button);
+    }
 
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(kPageMargin);
-    grid->setVerticalSpacing(10);
+    grid->setVerticalSpacing(18);
     grid->setColumnStretch(1, 1);
     const std::pair<QString, OmStatusBar *> rows[] = {{tr("Message"), message},
                                                       {tr("Widgets"), widgets},
                                                       {tr("Progress"), progress},
-                                                      {tr("Size grip"), grip}};
+                                                      {tr("Buttons"), buttons}};
     int row = 0;
-    for (const auto &[text, bar] : rows) {
-        grid->addWidget(new QLabel(text), row, 0);
+    for (const auto &[name, bar] : rows) {
+        grid->addWidget(new QLabel(name), row, 0);
         grid->addWidget(bar, row, 1);
         ++row;
     }
@@ -116,24 +159,8 @@ QWidget *StatusBarPage::createContentsCard()
 
 QWidget *StatusBarPage::createGradientCard()
 {
-    const QColor stops[] = {{183, 183, 182}, {207, 207, 207}, {228, 228, 228}, {232, 232, 232}};
-    const QString places[] = {tr("top row"), tr("5 % below"), tr("middle"), tr("bottom row")};
-
-    auto *row = new QHBoxLayout;
-    row->setSpacing(kPageMargin);
-    row->addWidget(new MagnifiedBar, 1);
-    auto *legend = new QVBoxLayout;
-    for (int index = 0; index < 4; ++index) {
-        const QString name = stops[index].name();
-        legend->addWidget(caption(tr("%1  %2").arg(name, places[index])));
-        if (index < 3)
-            legend->addStretch(index == 0 ? 1 : 4);
-    }
-    row->addLayout(legend);
-
     auto *card = new Card(tr("The gradient, enlarged"));
-    card->body()->addLayout(row);
-    card->body()->addStretch();
+    card->body()->addWidget(new GradientFigure, 1);
     return card;
 }
 
@@ -146,19 +173,23 @@ QWidget *StatusBarPage::createLiveCard()
     const auto showMessage = [bar, edit] { bar->showMessage(edit->text(), kMessageMs); };
     connect(show, &QPushButton::clicked, bar, showMessage);
     connect(edit, &QLineEdit::returnPressed, bar, showMessage);
-    auto *idle = new QLabel(tr("Idle"));
-    idle->setContentsMargins(4, 0, 0, 0);
-    bar->addWidget(idle);
+    bar->addWidget(text(tr("Idle")));
 
     auto *input = new QHBoxLayout;
     input->addWidget(edit, 1);
     input->addWidget(show);
+    auto *tips = new QHBoxLayout;
+    tips->addWidget(pushButton(tr("Call"), tr("Call Ada")));
+    tips->addWidget(pushButton(tr("Send a file"), tr("Choose a file and offer it to Ada")));
+    tips->addWidget(pushButton(tr("Block"), tr("Take no more messages from Ada")));
+
     auto *card = new Card(tr("Try it"));
     card->body()->addLayout(input);
     card->body()->addWidget(bar);
     card->body()->addWidget(note(tr("A message covers the widgets on the left and goes after its "
                                     "time; status tips work the same way: point at a button.")));
     card->body()->addStretch();
+    card->body()->addLayout(tips);
     return card;
 }
 

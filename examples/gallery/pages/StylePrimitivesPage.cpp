@@ -1,7 +1,6 @@
 #include "GalleryPage.h"
 #include "PageKit.h"
 
-#include <QtGui/QIcon>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGridLayout>
@@ -44,10 +43,9 @@ StylePrimitivesPage::StylePrimitivesPage()
     last->addWidget(createMenuBarCard(), 1);
     last->addWidget(createToolButtonCard(), 1);
     QVBoxLayout *column = cardColumn(this);
-    column->addLayout(upper);
-    column->addLayout(lower);
+    column->addLayout(upper, 1);
+    column->addLayout(lower, 1);
     column->addLayout(last);
-    column->addStretch();
 }
 
 QWidget *StylePrimitivesPage::createLineEditCard()
@@ -62,6 +60,7 @@ QWidget *StylePrimitivesPage::createLineEditCard()
 
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(kPageMargin);
+    grid->setVerticalSpacing(12);
     grid->setColumnStretch(1, 1);
     const std::pair<QString, QLineEdit *> rows[] = {{tr("Normal"), normal},
                                                     {tr("Hovered"), hovered},
@@ -101,7 +100,7 @@ QWidget *StylePrimitivesPage::createCheckBoxCard()
                                                        {tr("Partial"), Qt::PartiallyChecked}};
 
     auto *grid = new QGridLayout;
-    grid->setVerticalSpacing(8);
+    grid->setVerticalSpacing(16);
     for (int column = 0; column < 4; ++column) {
         grid->addWidget(caption(columns[column].text, Qt::AlignCenter), 0, column + 1);
         grid->setColumnStretch(column + 1, 1);
@@ -129,18 +128,18 @@ QWidget *StylePrimitivesPage::createBranchCard()
 {
     auto *tree = new QTreeWidget;
     tree->header()->hide();
-    tree->setFixedHeight(132);
     tree->setFocusPolicy(Qt::NoFocus);
     auto *friends = new QTreeWidgetItem(tree, {tr("Friends")});
     for (const QString &name : {tr("Ada"), tr("Grace"), tr("Max")})
         new QTreeWidgetItem(friends, {name});
-    new QTreeWidgetItem(new QTreeWidgetItem(tree, {tr("Family")}), {tr("Emmy")});
+    auto *family = new QTreeWidgetItem(tree, {tr("Family")});
+    new QTreeWidgetItem(family, {tr("Emmy")});
     new QTreeWidgetItem(new QTreeWidgetItem(tree, {tr("Colleagues")}), {tr("Alan")});
     friends->setExpanded(true);
+    family->setExpanded(true);
 
     auto *card = new Card(tr("Tree branches"));
     card->body()->addWidget(tree);
-    card->body()->addStretch();
     return card;
 }
 
@@ -161,7 +160,8 @@ QWidget *StylePrimitivesPage::createFrameCard()
         auto *frame = new QLabel(text);
         frame->setFrameStyle(style);
         frame->setAlignment(Qt::AlignCenter);
-        frame->setMinimumHeight(36);
+        frame->setMinimumHeight(38);
+        frame->setAutoFillBackground(true);
         grid->addWidget(frame, index / 2, index % 2);
         ++index;
     }
@@ -175,6 +175,7 @@ QWidget *StylePrimitivesPage::createMenuBarCard()
 {
     auto *bar = new QMenuBar;
     bar->setNativeMenuBar(false);
+    bar->setAutoFillBackground(true); // the style draws the edges alone
     for (const QString &title : {tr("&Chat"), tr("C&ontacts"), tr("Vie&w"), tr("&Help")}) {
         QMenu *menu = bar->addMenu(title);
         menu->addAction(tr("An entry"));
@@ -215,7 +216,7 @@ QWidget *StylePrimitivesPage::createToolButtonCard()
     auto *row = new QHBoxLayout;
     for (const Sample &sample : samples) {
         auto *button = new QToolButton;
-        button->setIcon(QIcon(QStringLiteral(":/") + QLatin1String(sample.icon)));
+        button->setIcon(skinIcon(QLatin1String(sample.icon)));
         button->setIconSize(QSize(16, 16));
         button->setFixedSize(28, 26);
         button->setToolTip(sample.toolTip);

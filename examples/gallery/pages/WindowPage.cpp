@@ -3,6 +3,7 @@
 #include "PageKit.h"
 
 #include <ombrin/OmDesktop.h>
+#include <ombrin/OmDialog2.h>
 #include <ombrin/OmStatusBar.h>
 #include <ombrin/OmWindow.h>
 
@@ -12,7 +13,9 @@
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
@@ -22,11 +25,12 @@ namespace gallery {
 
 namespace {
 
+using ombrin::OmDialog2;
 using ombrin::OmWindow;
 
 // Time to bring another window to the front before this one asks for attention.
 constexpr int kAttentionDelayMs = 2000;
-constexpr QSize kExhibitSize(420, 230);
+constexpr QSize kExhibitSize(480, 262);
 constexpr int kBadgeDiameter = 18;
 
 /// A numbered dot.
@@ -76,9 +80,11 @@ private:
     QWidget *createExhibit();
     QWidget *createLegend();
     void openWindow(const QString &title, bool fixed);
+    void openDialog(QWidget *parent);
     void followStayOnTopAction();
 
     QPushButton *m_stayOnTop = nullptr;
+    QLineEdit *m_title = nullptr;
     QPointer<QAction> m_stayOnTopAction;
 };
 
@@ -86,8 +92,7 @@ WindowPage::WindowPage()
 {
     QBoxLayout *left = cardStack(Qt::Vertical);
     left->addWidget(createOpenCard());
-    left->addWidget(createThisWindowCard());
-    left->addStretch();
+    left->addWidget(createThisWindowCard(), 1);
 
     auto *row = cardStack(Qt::Horizontal);
     row->addLayout(left);
@@ -105,9 +110,17 @@ QWidget *WindowPage::createOpenCard()
                              tr("Open a window that moves but neither resizes nor maximises"));
     connect(fixed, &QPushButton::clicked, this, [this] { openWindow(tr("A fixed window"), true); });
 
+    auto *modal = pushButton(tr("Open a modal dialog"),
+                             tr("Open a dialog that blocks this window until it is closed"));
+    connect(modal, &QPushButton::clicked, this, [this] { openDialog(window()); });
+    auto *free = pushButton(tr("Open a free dialog"),
+                            tr("Open a dialog without a parent, which blocks no window"));
+    connect(free, &QPushButton::clicked, this, [this] { openDialog(nullptr); });
+
     auto *card = new Card(tr("More windows"));
-    card->body()->addWidget(second);
-    card->body()->addWidget(fixed);
+    card->setFixedWidth(kSideColumnWidth);
+    for (QPushButton *button : {second, fixed, modal, free})
+        card->body()->addWidget(button);
     return card;
 }
 
@@ -132,15 +145,30 @@ QWidget *WindowPage::createThisWindowCard()
                            [this] { ombrin::OmDesktop::flashWindow(window(), true); });
     });
 
+    m_title = new QLineEdit;
+    m_title->setStatusTip(tr("The title on the frame; the one in the task bar stays"));
+    connect(m_title, &QLineEdit::textEdited, this, [this](const QString &title) {
+        if (auto *host = qobject_cast<OmWindow *>(window()))
+            host->setWindowTitleOnly(title);
+    });
+
     auto *card = new Card(tr("This window"));
+    card->setFixedWidth(kSideColumnWidth);
     for (QPushButton *button : {m_stayOnTop, centre, front, flash})
         card->body()->addWidget(button);
+    card->body()->addSpacing(4);
+    card->body()->addWidget(caption(tr("Drawn title")));
+    card->body()->addWidget(m_title);
+    card->body()->addStretch();
+    card->body()->addWidget(note(tr("Its header menu, a right click on the title, makes the "
+                                    "window translucent.")));
     return card;
 }
 
 QWidget *WindowPage::createAnatomyCard()
 {
     auto *card = new Card(tr("Anatomy"));
+    card->body()->addStretch();
     card->body()->addWidget(createExhibit(), 0, Qt::AlignHCenter);
     card->body()->addStretch();
     card->body()->addWidget(createLegend());
@@ -167,14 +195,14 @@ QWidget *WindowPage::createExhibit()
     frame->statusBar()->addWidget(state);
     frame->setGeometry(QRect(QPoint(half, half), kExhibitSize));
 
-    const QPoint places[] = {
-            {230, half + 15 - half},           {kExhibitSize.width() - 79 - half, half + 15 - half},
-            {280, half + 41 - half},           {0, half + 130},
-            {280, kExhibitSize.height() - 24},
+    // Centres of the parts, from the corner of the frame.
+    const QPoint parts[] = {
+            {290, 15}, {kExhibitSize.width() - 92, 15},   {290, 41},
+            {2, 140},  {290, kExhibitSize.height() - 15},
     };
     int number = 0;
-    for (const QPoint &place : places)
-        (new Badge(++number, stage))->move(place);
+    for (const QPoint &part : parts)
+        (new Badge(++number, stage))->move(part);
     return stage;
 }
 
@@ -236,9 +264,29 @@ void WindowPage::openWindow(const QString &title, bool fixed)
     opened->show();
 }
 
+void WindowPage::openDialog(QWidget *parent)
+{
+    auto *dialog = new OmDialog2(parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(parent ? tr("A modal dialog") : tr("A free dialog"));
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    auto *column = new QVBoxLayout(dialog); // stays inside the frame
+    column->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    column->addWidget(note(parent ? tr("The gallery waits until this dialog is closed. A second "
+                                       "window does not.")
+                                  : tr("No window waits for this dialog.")));
+    column->addStretch();
+    column->addWidget(buttons);
+    dialog->resize(360, 160);
+    dialog->show();
+}
+
 void WindowPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    if (auto *host = qobject_cast<OmWindow *>(window()))
+        m_title->setText(host->windowTitleOnly());
     if (!m_stayOnTopAction)
         followStayOnTopAction();
 }

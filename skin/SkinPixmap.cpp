@@ -47,6 +47,8 @@ QImage readLimited(const QString &path)
 
 QImage loadAtDensity(const QString &path, int density)
 {
+    if (path.isEmpty())
+        return QImage();
     for (int candidate = density; candidate >= 1; --candidate) {
         QImage image = readLimited(variantPath(path, candidate));
         if (image.isNull())

@@ -2,8 +2,8 @@
 
 #include "windows/SkinFrame.h"
 
+#include <QAction>
 #include <QtCore/QTimer>
-#include <QtWidgets/QAction>
 
 namespace ombrin {
 

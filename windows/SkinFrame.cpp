@@ -262,7 +262,7 @@ void SkinFrame::insertMenuBar()
     while (QLayoutItem *item = layout->takeAt(0))
         items.append(item);
     layout->addWidget(m_menuBar);
-    for (QLayoutItem *item : qAsConst(items))
+    for (QLayoutItem *item : std::as_const(items))
         layout->addItem(item);
 }
 

@@ -103,7 +103,7 @@ private:
     QString m_title;
     FramePainter m_painter;
     QPointer<MoveResizeHandler> m_handler;
-    std::array<QPointer<OmImageButton>, ButtonCount> m_buttons;
+    QPointer<OmImageButton> m_buttons[ButtonCount];
     QPointer<QMenuBar> m_menuBar;
     QPointer<OmStatusBar> m_statusBar;
     QPointer<QWidget> m_content;

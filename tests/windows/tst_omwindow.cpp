@@ -9,13 +9,13 @@
 #include <ombrin/OmStatusBar.h>
 #include <ombrin/OmWindow.h>
 
+#include <QAction>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QTranslator>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QStatusTipEvent>
 #include <QtGui/QWindow>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
@@ -50,14 +50,14 @@ void settle()
     QTest::qWait(80);
 }
 
-void click(QWidget &window, const QPoint &from, const QPoint &to, Qt::MouseButton button)
+// With the left button.
+void dragInside(QWidget &window, const QPoint &from, const QPoint &to)
 {
-    QTest::mousePress(&window, button, Qt::NoModifier, from);
-    QTest::mouseMove(&window, to);
-    const QPoint global = window.mapToGlobal(to);
-    QMouseEvent move(QEvent::MouseMove, to, global, Qt::NoButton, button, Qt::NoModifier);
+    QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, from);
+    QMouseEvent move(QEvent::MouseMove, to, window.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
     QApplication::sendEvent(&window, &move);
-    QTest::mouseRelease(&window, button, Qt::NoModifier, to);
+    QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, to);
 }
 
 QMenu *openMenu(QWidget &window, int y)
@@ -419,16 +419,16 @@ void tst_OmWindow::fixedWindowNeitherResizesNorMaximisesOf()
     QVERIFY(!titleButton(window, Maximize)->isEnabled());
     QVERIFY(!titleButton(window, Restore)->isEnabled());
     const QRect before = window.geometry();
-    click(window, QPoint(399, 150), QPoint(450, 150), Qt::LeftButton);
+    dragInside(window, QPoint(399, 150), QPoint(450, 150));
     QCOMPARE(window.size(), before.size());
     window.move(before.topLeft());
-    click(window, QPoint(200, 10), QPoint(230, 20), Qt::LeftButton);
+    dragInside(window, QPoint(200, 10), QPoint(230, 20));
     QCOMPARE(window.pos(), before.topLeft() + QPoint(30, 10));
 
     window.setFixed(false);
     QVERIFY(titleButton(window, Maximize)->isEnabled());
     QVERIFY(titleButton(window, Restore)->isEnabled());
-    click(window, QPoint(399, 150), QPoint(450, 150), Qt::LeftButton);
+    dragInside(window, QPoint(399, 150), QPoint(450, 150));
     QCOMPARE(window.width(), before.width() + 51);
 }
 
@@ -454,7 +454,7 @@ void tst_OmWindow::titleButtonsDoWhatTheySayOf()
     show(window);
     const QPoint before = window.pos();
     OmImageButton *close = titleButton(window, Close);
-    click(*close, QPoint(5, 5), QPoint(-200, 90), Qt::LeftButton);
+    dragInside(*close, QPoint(5, 5), QPoint(-200, 90));
     QCOMPARE(window.pos(), before);
     QVERIFY(window.isVisible());
 }
@@ -517,7 +517,7 @@ void tst_OmWindow::draggingMovesAndResizesOf()
     const QRect start(100, 80, 400, 300);
     const auto drag = [&](const QPoint &from, const QPoint &delta) {
         window.setGeometry(start);
-        click(window, from, from + delta, Qt::LeftButton);
+        dragInside(window, from, from + delta);
         return window.geometry();
     };
     QCOMPARE(drag({200, 10}, {30, -12}), start.translated(30, -12));
@@ -559,7 +559,7 @@ void tst_OmWindow::draggingMovesAndResizesOf()
     window.showMaximized();
     settle();
     const QRect maximized = window.geometry();
-    click(window, QPoint(200, 10), QPoint(260, 60), Qt::LeftButton);
+    dragInside(window, QPoint(200, 10), QPoint(260, 60));
     QCOMPARE(window.geometry(), maximized);
 }
 
@@ -730,7 +730,7 @@ void tst_OmWindow::windowInsideAnotherWidgetIsJustAChild()
     inner->setFixed(false);
     inner->setGeometry(20, 20, 300, 200);
     host.show();
-    click(*inner, QPoint(100, 10), QPoint(140, 30), Qt::LeftButton);
+    dragInside(*inner, QPoint(100, 10), QPoint(140, 30));
     QCOMPARE(inner->pos(), QPoint(60, 40));
 }
 

@@ -126,6 +126,7 @@ QWidget *StatusBarPage::createContentsCard()
     auto *transfer = new QProgressBar;
     transfer->setFixedSize(160, 14);
     transfer->setValue(65);
+    transfer->setTextVisible(false);
     progress->addPermanentWidget(transfer);
 
     OmStatusBar *buttons = statusBar();

@@ -1,0 +1,197 @@
+#include "support/TestCase.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+
+namespace {
+
+constexpr int kTimeoutMs = 120000;
+constexpr QSize kWindowSize(960, 640);
+
+struct Outcome
+{
+    int exitCode = -1;
+    QString output;
+    QString error;
+};
+
+/// What the real program answers; an exit code of -1 says that it did not end by itself.
+Outcome runGallery(const QStringList &arguments)
+{
+    QProcess gallery;
+    gallery.start(QCoreApplication::applicationDirPath() + QStringLiteral("/ombrin_gallery"),
+                  arguments);
+    Outcome outcome;
+    if (gallery.waitForFinished(kTimeoutMs) && gallery.exitStatus() == QProcess::NormalExit)
+        outcome.exitCode = gallery.exitCode();
+    outcome.output = QString::fromLocal8Bit(gallery.readAllStandardOutput());
+    outcome.error = QString::fromLocal8Bit(gallery.readAllStandardError());
+    return outcome;
+}
+
+QStringList pageNames()
+{
+    const QString output = runGallery({QStringLiteral("--list")}).output;
+    return output.split(QRegularExpression(QStringLiteral("[\r\n]+")), Qt::SkipEmptyParts);
+}
+
+/// The number of colours along a grid of lines across \a picture.
+int colorCount(const QImage &picture)
+{
+    QSet<QRgb> colors;
+    for (int y = 0; y < picture.height(); y += 7) {
+        for (int x = 0; x < picture.width(); ++x)
+            colors.insert(picture.pixel(x, y));
+    }
+    return static_cast<int>(colors.size());
+}
+
+/// The part of a picture below the title band and right of the list of pages, at \a density.
+QImage pageArea(const QImage &picture, int density)
+{
+    return picture.copy(190 * density, 55 * density, 760 * density, 555 * density);
+}
+
+} // namespace
+
+class tst_Gallery : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void listPrintsTheNameOfEveryPage()
+    {
+        const QStringList names = pageNames();
+        for (const char *name : {"window", "dialog", "image-button", "status-bar",
+                                 "style-primitives", "palette", "frame-pieces"})
+            QVERIFY2(names.contains(QLatin1String(name)), name);
+        QCOMPARE(QSet<QString>(names.begin(), names.end()).size(), names.size());
+    }
+
+    void screenshotsShowEveryPageActiveAndInactiveAtBothDensities()
+    {
+        const QTemporaryDir temporary;
+        // Neither the folder nor the one above it exists yet.
+        const QDir folder(temporary.filePath(QStringLiteral("made/on demand")));
+        const Outcome outcome = runGallery({QStringLiteral("--screenshots"), folder.path()});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
+
+        const QStringList names = pageNames();
+        QCOMPARE(folder.entryList(QDir::Files).size(), 4 * names.size());
+        QVector<QImage> pages;
+        for (const QString &name : names) {
+            for (const int density : {1, 2}) {
+                const QString suffix = density == 1 ? QString() : QStringLiteral("@2x");
+                const QImage active(folder.filePath(name + QStringLiteral("-active") + suffix
+                                                    + QStringLiteral(".png")));
+                const QImage inactive(folder.filePath(name + QStringLiteral("-inactive") + suffix
+                                                      + QStringLiteral(".png")));
+                QCOMPARE(active.size(), kWindowSize * density);
+                QCOMPARE(inactive.size(), kWindowSize * density);
+                QVERIFY2(colorCount(pageArea(active, density)) > 20, qPrintable(name));
+                QVERIFY2(active.copy(0, 0, active.width(), 30 * density)
+                                 != inactive.copy(0, 0, active.width(), 30 * density),
+                         qPrintable(name));
+                if (density == 1) {
+                    QVERIFY2(!pages.contains(pageArea(active, 1)), qPrintable(name));
+                    pages.append(pageArea(active, 1));
+                }
+            }
+        }
+    }
+
+    void densePicturesAreSharp()
+    {
+        const QTemporaryDir folder;
+        const Outcome outcome = runGallery({QStringLiteral("--page"), QStringLiteral("window"),
+                                            QStringLiteral("--screenshots"), folder.path()});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 4);
+
+        // A picture that was only blown up repeats each pixel of its rows.
+        const QImage dense(folder.filePath(QStringLiteral("window-active@2x.png")));
+        const QRect parts[] = {
+                {0, 0, 2 * 86, 2 * 30},                  // mark and border of the frame
+                {2 * 88, 2 * 2, 2 * 60, 2 * 25},         // title
+                {2 * (960 - 79), 2 * 5, 2 * 74, 2 * 20}, // title buttons
+        };
+        for (const QRect &part : parts) {
+            int unequalPairs = 0;
+            for (int y = part.top(); y <= part.bottom(); ++y) {
+                for (int x = part.left(); x < part.right(); x += 2)
+                    unequalPairs += dense.pixel(x, y) != dense.pixel(x + 1, y) ? 1 : 0;
+            }
+            QVERIFY(unequalPairs > 50);
+        }
+    }
+
+    void picturesAreTheSameEachTime()
+    {
+        const QTemporaryDir first;
+        const QTemporaryDir second;
+        const QString page = QStringLiteral("style-primitives");
+        for (const QTemporaryDir *folder : {&first, &second}) {
+            const Outcome outcome = runGallery({QStringLiteral("--page"), page,
+                                                QStringLiteral("--screenshots"), folder->path()});
+            QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
+        }
+        const QStringList files = QDir(first.path()).entryList(QDir::Files);
+        QCOMPARE(files.size(), 4);
+        for (const QString &file : files)
+            QCOMPARE(QImage(first.filePath(file)), QImage(second.filePath(file)));
+    }
+
+    void unwritableFolderIsReported()
+    {
+        const QTemporaryDir temporary;
+        const QString path = temporary.filePath(QStringLiteral("file"));
+        QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+        const Outcome outcome =
+                runGallery({QStringLiteral("--screenshots"), path + QStringLiteral("/folder")});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.error.contains(QStringLiteral("cannot be made")),
+                 qPrintable(outcome.error));
+    }
+
+    void wrongArgumentsAreRefusedWithAReason_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("reason");
+
+        QTest::newRow("unknown option")
+                << QStringList{QStringLiteral("--shoot")} << QStringLiteral("shoot");
+        QTest::newRow("unknown page")
+                << QStringList{QStringLiteral("--page"), QStringLiteral("nowhere")}
+                << QStringLiteral("nowhere");
+        QTest::newRow("page without a name")
+                << QStringList{QStringLiteral("--page")} << QStringLiteral("page");
+        QTest::newRow("empty folder")
+                << QStringList{QStringLiteral("--screenshots="), QStringLiteral("--list")}
+                << QStringLiteral("--screenshots");
+        QTest::newRow("stray word")
+                << QStringList{QStringLiteral("window")} << QStringLiteral("'window'");
+    }
+    void wrongArgumentsAreRefusedWithAReason()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, reason);
+        const Outcome outcome = runGallery(arguments);
+        QCOMPARE(outcome.exitCode, 2);
+        QVERIFY2(outcome.error.contains(reason), qPrintable(outcome.error));
+        QVERIFY(outcome.output.isEmpty());
+    }
+
+    void helpNamesEveryOption()
+    {
+        const Outcome outcome = runGallery({QStringLiteral("--help")});
+        QCOMPARE(outcome.exitCode, 0);
+        for (const char *option : {"--list", "--page", "--screenshots"})
+            QVERIFY2(outcome.output.contains(QLatin1String(option)), option);
+        QVERIFY(!outcome.output.contains(QStringLiteral("one-density")));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_Gallery)
+#include "tst_gallery.moc"

@@ -29,16 +29,18 @@ if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
   _ombrin_run_tests_under_wine()
 endif()
 
-# ombrin_add_test(NAME SOURCES file... [LIBRARIES target...] [WINDOW_SYSTEM] [SCALE_FACTORS factor...])
+# ombrin_add_test(NAME SOURCES file... [LIBRARIES target...] [WINDOW_SYSTEM | TWO_SCREENS]
+#                 [SCALE_FACTORS factor...])
 #
 # Adds a Qt Test program. It runs on Qt's offscreen platform; with WINDOW_SYSTEM it runs under an X
-# server and a window manager of its own instead. When cross compiling for Windows every test runs
-# on the real platform plug-in through the emulator, and WINDOW_SYSTEM tests, which drive X11 from
-# outside, are left out. For every factor in SCALE_FACTORS the program runs once more at that
+# server and a window manager of its own instead, and with TWO_SCREENS that server has two screens,
+# the second with twice the density of the first. When cross compiling for Windows every test runs
+# on the real platform plug-in through the emulator, and tests that drive X11 from outside are left
+# out. For every factor in SCALE_FACTORS the program runs once more at that
 # display scale.
 function(ombrin_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW_SYSTEM" "" "SOURCES;LIBRARIES;SCALE_FACTORS")
-  if(arg_WINDOW_SYSTEM AND WIN32)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW_SYSTEM;TWO_SCREENS" "" "SOURCES;LIBRARIES;SCALE_FACTORS")
+  if((arg_WINDOW_SYSTEM OR arg_TWO_SCREENS) AND WIN32)
     return()
   endif()
 
@@ -53,6 +55,9 @@ function(ombrin_add_test name)
   elseif(arg_WINDOW_SYSTEM)
     set(environment "QT_QPA_PLATFORM=xcb")
     set(launcher "${PROJECT_SOURCE_DIR}/tests/support/with-x11")
+  elseif(arg_TWO_SCREENS)
+    set(environment "QT_QPA_PLATFORM=xcb")
+    set(launcher "${PROJECT_SOURCE_DIR}/tests/support/with-x11" --two-screens)
   else()
     set(environment "QT_QPA_PLATFORM=offscreen")
     set(launcher "")

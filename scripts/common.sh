@@ -14,7 +14,8 @@ packages_build=(
 )
 # What the tests need beyond that.
 packages_test=(
-  xvfb openbox xdotool wmctrl x11-utils
+  xvfb openbox xdotool x11-utils x11-xserver-utils
+  xserver-xorg-core xserver-xorg-video-dummy
 )
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev)
 packages_clang=(clang)

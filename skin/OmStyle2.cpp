@@ -1,8 +1,8 @@
 #include <ombrin/OmStyle2.h>
 
-#include <QtWidgets/QApplication>
+#include "skin/OmStyle2_p.h"
+
 #include <QtWidgets/QStyleFactory>
-#include <QtWidgets/QWidget>
 
 #include <algorithm>
 
@@ -14,11 +14,6 @@ constexpr int kRelativeSliderMinimum = 50;
 constexpr int kSliderMinimum = 16;
 constexpr int kSearchFieldMargin = 18;
 constexpr int kDockIconSize = 10;
-
-bool isA(const QWidget *widget, const char *className)
-{
-    return widget && widget->inherits(className);
-}
 
 QStyle *createBaseStyle()
 {

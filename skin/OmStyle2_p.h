@@ -1,10 +1,22 @@
 #pragma once
 
+#include "skin/SkinPixmap.h"
+
 #include <QtCore/QRect>
 #include <QtGui/QColor>
 #include <QtGui/QPainter>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QWidget>
+
+class QStyleOption;
 
 namespace ombrin {
+
+/// Whether there is a \a widget and it is of the class \a className or of one derived from it.
+inline bool isA(const QWidget *widget, const char *className)
+{
+    return widget && widget->inherits(className);
+}
 
 /// Fills the outermost \a thickness pixels of \a rect.
 ///
@@ -24,5 +36,15 @@ inline void fillFrame(QPainter *painter, const QRect &rect, int thickness, const
     painter->fillRect(rect.left(), rect.top() + t, t, innerHeight, color);
     painter->fillRect(rect.right() + 1 - t, rect.top() + t, t, innerHeight, color);
 }
+
+/// The skin picture \a path for the density of what \a painter paints on.
+inline QPixmap skinPixmapFor(const QString &path, const QPainter *painter)
+{
+    const QPaintDevice *device = painter->device();
+    return skinPixmap(path, device ? device->devicePixelRatioF() : 1.0);
+}
+
+/// Draws one of the two line buttons of a scroll bar, unless it is disabled.
+void drawScrollBarLine(QPainter *painter, const QStyleOption *option, bool towardEnd);
 
 } // namespace ombrin

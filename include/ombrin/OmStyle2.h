@@ -41,8 +41,14 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
     QRect subElementRect(SubElement element, const QStyleOption *option,
                          const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                         SubControl subControl, const QWidget *widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contentsSize,
@@ -57,6 +63,18 @@ private:
     void drawToolButtonPanel(const QStyleOption *option, QPainter *painter,
                              const QWidget *widget) const;
     void drawBranch(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawTab(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawTabShape(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawMenuBarItem(const QStyleOption *option, QPainter *painter,
+                         const QWidget *widget) const;
+    void drawScrollBarPage(ControlElement element, const QStyleOption *option, QPainter *painter,
+                           const QWidget *widget) const;
+    void drawScrollBarSlider(const QStyleOption *option, QPainter *painter,
+                             const QWidget *widget) const;
+    void drawScrollBar(const QStyleOptionComplex *option, QPainter *painter,
+                       const QWidget *widget) const;
+    void drawComboBox(const QStyleOptionComplex *option, QPainter *painter,
+                      const QWidget *widget) const;
 };
 
 } // namespace ombrin

@@ -326,6 +326,14 @@ private Q_SLOTS:
                 m_style->drawPrimitive(element, nullptr, painter, nullptr);
                 m_style->drawPrimitive(element, nullptr, nullptr, nullptr);
             }
+            for (const auto element : upTo(QStyle::CE_ShapedFrame)) {
+                m_style->drawControl(element, nullptr, painter, nullptr);
+                m_style->drawControl(element, nullptr, nullptr, nullptr);
+            }
+            for (const auto control : upTo(QStyle::CC_MdiControls)) {
+                m_style->drawComplexControl(control, nullptr, painter, nullptr);
+                m_style->drawComplexControl(control, nullptr, nullptr, nullptr);
+            }
         });
         QCOMPARE(image, blank());
         const QSize size(17, 11);
@@ -333,6 +341,8 @@ private Q_SLOTS:
             QCOMPARE(m_style->sizeFromContents(type, nullptr, size, nullptr), size);
         for (const auto element : upTo(QStyle::SE_ToolBarHandle))
             QCOMPARE(m_style->subElementRect(element, nullptr, nullptr), QRect());
+        for (const auto control : upTo(QStyle::CC_MdiControls))
+            QCOMPARE(m_style->subControlRect(control, nullptr, QStyle::SC_All, nullptr), QRect());
         for (const auto metric : upTo(QStyle::PM_TitleBarButtonSize))
             m_style->pixelMetric(metric);
         for (const auto hint : upTo(QStyle::SH_SpinBox_ButtonsInsideFrame))

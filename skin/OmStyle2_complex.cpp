@@ -1,0 +1,67 @@
+#include <ombrin/OmStyle2.h>
+
+#include "skin/OmStyle2_p.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QStyleOption>
+
+namespace ombrin {
+
+namespace {
+
+constexpr int kIconComboBoxExtraWidth = 100;
+
+QString comboArrow(const QStyleOptionComplex &option)
+{
+    if (!(option.state & QStyle::State_Enabled))
+        return QStringLiteral(":/combobox_arrow_disabled");
+    if (option.state & (QStyle::State_On | QStyle::State_Sunken))
+        return QStringLiteral(":/combobox_arrow_clicked");
+    if (option.activeSubControls & QStyle::SC_ComboBoxArrow)
+        return QStringLiteral(":/combobox_arrow_hover");
+    return QStringLiteral(":/combobox_arrow_normal");
+}
+
+} // namespace
+
+QRect OmStyle2::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                               SubControl subControl, const QWidget *widget) const
+{
+    if (!option)
+        return QRect();
+    if (control == CC_ScrollBar)
+        return QCommonStyle::subControlRect(control, option, subControl, widget);
+    if (control == CC_ComboBox && subControl == SC_ComboBoxListBoxPopup
+        && isA(widget, "ombrin::OmIconComboBox"))
+        return option->rect.adjusted(0, 0, kIconComboBoxExtraWidth, 0);
+    return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+void OmStyle2::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                  QPainter *painter, const QWidget *widget) const
+{
+    if (!option || !painter)
+        return;
+    if (control == CC_ComboBox)
+        drawComboBox(option, painter, widget);
+    else if (control == CC_ScrollBar)
+        drawScrollBar(option, painter, widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void OmStyle2::drawComboBox(const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const
+{
+    painter->fillRect(option->rect, option->palette.brush(QPalette::Base));
+    proxy()->drawPrimitive(PE_FrameLineEdit, option, painter, widget);
+
+    const QRect arrow = proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
+    const QPixmap normal = skinPixmapFor(QStringLiteral(":/combobox_arrow_normal"), painter);
+    const int height = qRound(normal.height() / normal.devicePixelRatio());
+    painter->drawPixmap(arrow.left(), option->rect.top() + (arrow.height() - height) / 2,
+                        skinPixmapFor(comboArrow(*option), painter));
+}
+
+} // namespace ombrin

@@ -1,0 +1,460 @@
+#include "skin/tst_omstyle2_support.h"
+#include "support/TestCase.h"
+
+#include <ombrin/OmStyle2.h>
+
+#include <QtCore/QResource>
+#include <QtGui/QPixmapCache>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QScrollBar>
+
+Q_DECLARE_METATYPE(QStyle::ControlElement)
+Q_DECLARE_METATYPE(QStyle::State)
+Q_DECLARE_METATYPE(QStyle::SubControl)
+
+using namespace ombrin::test;
+using ombrin::OmStyle2;
+
+// The style knows these classes by their names only.
+class RelativeScrollBar : public QScrollBar
+{
+    Q_OBJECT
+};
+
+namespace ombrin {
+
+class OmIconComboBox : public QComboBox
+{
+    Q_OBJECT
+};
+
+} // namespace ombrin
+
+namespace {
+
+constexpr QSize kGround(220, 220);
+constexpr QStyle::State kEnabled = QStyle::State_Enabled;
+constexpr QStyle::State kHover = QStyle::State_MouseOver;
+constexpr QStyle::State kNoState = QStyle::State_None;
+const QString kPictureOf[] = {QStringLiteral(":/scrollbar_vertical_right_"),
+                              QStringLiteral(":/scrollbar_vertical_left_"),
+                              QStringLiteral(":/scrollbar_horizontal_down_"),
+                              QStringLiteral(":/scrollbar_horizontal_up_"),
+                              QStringLiteral(":/scrollbar_horizontal_trackbar_"),
+                              QStringLiteral(":/scrollbar_vertical_trackbar_")};
+
+QString skinFile()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/skins/default/default.res");
+}
+
+QStyleOptionSlider scrollBar(const QRect &rect, Qt::Orientation orientation,
+                             QStyle::State state = kEnabled)
+{
+    auto bar = makeOption<QStyleOptionSlider>(rect, state);
+    bar.orientation = orientation;
+    bar.state.setFlag(QStyle::State_Horizontal, orientation == Qt::Horizontal);
+    bar.subControls = QStyle::SC_All;
+    bar.maximum = 100;
+    bar.pageStep = 50;
+    bar.sliderPosition = 40;
+    bar.sliderValue = 40;
+    return bar;
+}
+
+void drawExpectedPage(QPainter *painter, const QStyleOptionSlider &bar, const QRect &r)
+{
+    const QColor window = bar.palette.color(QPalette::Window);
+    QLinearGradient gradient(r.topLeft(),
+                             bar.orientation == Qt::Horizontal ? r.bottomLeft() : r.topRight());
+    gradient.setStops(
+            {{0.0, window.lighter(105)}, {0.5, window.lighter(108)}, {1.0, window.lighter(110)}});
+    painter->fillRect(r, gradient);
+}
+
+} // namespace
+
+class tst_OmStyle2Complex : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private:
+    QImage drawn(QStyle::ControlElement element, const QStyleOption &option,
+                 const QWidget *widget = nullptr)
+    {
+        const auto draw = [&](QPainter *painter) {
+            m_style.drawControl(element, &option, painter, widget);
+        };
+        return painted(draw, kGround);
+    }
+    QImage drawn(QStyle::ComplexControl control, const QStyleOptionComplex &option,
+                 const QWidget *widget = nullptr)
+    {
+        const auto draw = [&](QPainter *painter) {
+            m_style.drawComplexControl(control, &option, painter, widget);
+        };
+        return painted(draw, kGround);
+    }
+    QRect part(const QStyleOptionSlider &bar, QStyle::SubControl control)
+    {
+        return m_style.subControlRect(QStyle::CC_ScrollBar, &bar, control, nullptr);
+    }
+
+    OmStyle2 m_style;
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(QResource::registerResource(skinFile())); }
+    void cleanupTestCase() { QVERIFY(QResource::unregisterResource(skinFile())); }
+
+    void scrollBarPartsAreTheSkinsPictures_data()
+    {
+        QTest::addColumn<QStyle::ControlElement>("element");
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<QString>("picture");
+        QTest::newRow("right") << QStyle::CE_ScrollBarAddLine << int(Qt::Horizontal)
+                               << kPictureOf[0];
+        QTest::newRow("left") << QStyle::CE_ScrollBarSubLine << int(Qt::Horizontal)
+                              << kPictureOf[1];
+        QTest::newRow("down") << QStyle::CE_ScrollBarAddLine << int(Qt::Vertical) << kPictureOf[2];
+        QTest::newRow("up") << QStyle::CE_ScrollBarSubLine << int(Qt::Vertical) << kPictureOf[3];
+        QTest::newRow("lying slider")
+                << QStyle::CE_ScrollBarSlider << int(Qt::Horizontal) << kPictureOf[4];
+        QTest::newRow("upright slider")
+                << QStyle::CE_ScrollBarSlider << int(Qt::Vertical) << kPictureOf[5];
+    }
+    void scrollBarPartsAreTheSkinsPictures()
+    {
+        QFETCH(const QStyle::ControlElement, element);
+        QFETCH(const int, orientation);
+        QFETCH(const QString, picture);
+        QVector<QImage> seen;
+        const QRect places[] = {{0, 0, 16, 16},  {7, 5, 16, 16},  {3, 2, 97, 16}, {3, 2, 16, 101},
+                                {9, 30, 11, 23}, {2, 2, 200, 17}, {5, 5, 0, 16}};
+        for (const QRect &place : places) {
+            for (const QStyle::State hover : {kNoState, kHover}) {
+                const QPixmap pixmap(
+                        picture + (hover ? QStringLiteral("hover") : QStringLiteral("normal")));
+                QVERIFY(!pixmap.isNull());
+                auto bar = scrollBar(place, Qt::Orientation(orientation), kEnabled | hover);
+                const QImage image = drawn(element, bar);
+                const QImage expected = painted(
+                        [&](QPainter *painter) { painter->drawPixmap(place, pixmap); }, kGround);
+                QCOMPARE(image, expected);
+                QVERIFY(!seen.contains(image) || place.isEmpty());
+                seen.append(image);
+                bar.state &= ~kEnabled;
+                QCOMPARE(drawn(element, bar), blank(kGround));
+            }
+        }
+    }
+
+    // However the painter is set up, the picture is what drawPixmap() gives.
+    void partsFollowThePainter()
+    {
+        const auto bar = scrollBar(QRect(5, 6, 16, 60), Qt::Vertical);
+        const QPixmap picture(kPictureOf[5] + QStringLiteral("normal"));
+        const auto prepare = [](QPainter *painter, int way) {
+            switch (way) {
+            case 0:
+                painter->translate(13, 7);
+                break;
+            case 1:
+                painter->translate(0.5, 0.25);
+                break;
+            case 2:
+                painter->scale(1.5, 1.25);
+                break;
+            case 3:
+                painter->rotate(30);
+                break;
+            case 4:
+                painter->setRenderHint(QPainter::SmoothPixmapTransform);
+                break;
+            case 5:
+                painter->setOpacity(0.5);
+                break;
+            default:
+                painter->translate(-9, -9);
+            }
+        };
+        for (int way = 0; way < 7; ++way) {
+            for (const auto element : {QStyle::CE_ScrollBarSlider, QStyle::CE_ScrollBarAddPage}) {
+                const auto draw = [&](QPainter *painter) {
+                    prepare(painter, way);
+                    m_style.drawControl(element, &bar, painter, nullptr);
+                };
+                const auto expected = [&](QPainter *painter) {
+                    prepare(painter, way);
+                    if (element == QStyle::CE_ScrollBarSlider)
+                        painter->drawPixmap(bar.rect, picture);
+                    else
+                        drawExpectedPage(painter, bar, bar.rect);
+                };
+                QVERIFY2(painted(draw, kGround) == painted(expected, kGround),
+                         qPrintable(QString::number(way)));
+            }
+        }
+    }
+
+    void densePicturesAreTakenForDenseScreens()
+    {
+        const auto bar = scrollBar(QRect(0, 0, 16, 16), Qt::Vertical);
+        QPixmap dense(kPictureOf[2] + QStringLiteral("normal@2x"));
+        QCOMPARE(dense.size(), QSize(32, 32));
+        dense.setDevicePixelRatio(2);
+        const auto draw = [&](QPainter *painter) {
+            m_style.drawControl(QStyle::CE_ScrollBarAddLine, &bar, painter, nullptr);
+        };
+        const auto expected = [&](QPainter *painter) { painter->drawPixmap(0, 0, dense); };
+        QCOMPARE(painted(draw, QSize(16, 16), 2), painted(expected, QSize(16, 16), 2));
+    }
+
+    void pagesShadeAcrossTheBar_data()
+    {
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<QRect>("page");
+        const int lying = Qt::Horizontal;
+        const int upright = Qt::Vertical;
+        QTest::newRow("lying") << lying << QRect(5, 6, 150, 16);
+        QTest::newRow("upright") << upright << QRect(6, 5, 16, 50);
+        QTest::newRow("upright at the edge") << upright << QRect(0, 0, 16, 128);
+        QTest::newRow("upright, far") << upright << QRect(203, 5, 17, 129);
+        QTest::newRow("upright, long") << upright << QRect(33, 0, 16, 220);
+        QTest::newRow("upright, wide") << upright << QRect(3, 0, 90, 20);
+        QTest::newRow("upright, partly outside") << upright << QRect(-5, -7, 16, 20);
+        QTest::newRow("one pixel") << upright << QRect(3, 4, 1, 1);
+        QTest::newRow("empty") << upright << QRect(3, 4, 16, 0);
+    }
+    void pagesShadeAcrossTheBar()
+    {
+        QFETCH(const int, orientation);
+        QFETCH(const QRect, page);
+        const auto bar = scrollBar(page, Qt::Orientation(orientation), kNoState);
+        const auto expected = [&](QPainter *painter) { drawExpectedPage(painter, bar, page); };
+        for (const auto element : {QStyle::CE_ScrollBarAddPage, QStyle::CE_ScrollBarSubPage}) {
+            QCOMPARE(drawn(element, bar), painted(expected, kGround));
+            QCOMPARE(drawn(element, bar), painted(expected, kGround)); // from memory
+        }
+    }
+
+    void relativeSliderHasAnArrowInEachHalf()
+    {
+        auto *style = new OmStyle2;
+        const RecordingStyle above(style);
+        const RelativeScrollBar relative;
+        auto bar = scrollBar(QRect(0, 20, 16, 60), Qt::Vertical, kNoState | kHover);
+        const auto draw = [&](QPainter *painter) {
+            style->drawControl(QStyle::CE_ScrollBarSlider, &bar, painter, &relative);
+        };
+        QVERIFY(painted(draw, kGround) != blank(kGround)); // disabled too
+        const QVector<RecordingStyle::Primitive> &arrows = above.primitives();
+        QCOMPARE(arrows.size(), 2);
+        QCOMPARE(arrows[0].element, QStyle::PE_IndicatorArrowUp);
+        QCOMPARE(arrows[0].rect, QRect(QPoint(4, 24), QPoint(11, 45)));
+        QCOMPARE(arrows[0].state, kNoState);
+        QCOMPARE(arrows[1].element, QStyle::PE_IndicatorArrowDown);
+        QCOMPARE(arrows[1].rect, QRect(QPoint(4, 53), QPoint(11, 74)));
+        QCOMPARE(arrows[1].state, kNoState);
+    }
+
+    void scrollBarIsLaidOutTheCommonWay_data()
+    {
+        QTest::addColumn<QStyle::SubControl>("control");
+        QTest::addColumn<QRect>("upright");
+        QTest::addColumn<QRect>("lying");
+        QTest::newRow("start") << QStyle::SC_ScrollBarSubLine << QRect(0, 0, 16, 16)
+                               << QRect(0, 0, 16, 16);
+        QTest::newRow("end") << QStyle::SC_ScrollBarAddLine << QRect(0, 184, 16, 16)
+                             << QRect(184, 0, 16, 16);
+        QTest::newRow("groove") << QStyle::SC_ScrollBarGroove << QRect(0, 16, 16, 168)
+                                << QRect(16, 0, 168, 16);
+        QTest::newRow("slider") << QStyle::SC_ScrollBarSlider << QRect(0, 61, 16, 56)
+                                << QRect(61, 0, 56, 16);
+    }
+    void scrollBarIsLaidOutTheCommonWay()
+    {
+        QFETCH(const QStyle::SubControl, control);
+        QFETCH(const QRect, upright);
+        QFETCH(const QRect, lying);
+        QCOMPARE(part(scrollBar(QRect(0, 0, 16, 200), Qt::Vertical), control), upright);
+        QCOMPARE(part(scrollBar(QRect(0, 0, 200, 16), Qt::Horizontal), control), lying);
+    }
+
+    void scrollBarIsComposedOfItsParts_data()
+    {
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<QStyle::SubControl>("active");
+        QTest::addColumn<int>("maximum");
+        QTest::addColumn<bool>("hasPictures");
+        const QStyle::State states[] = {kEnabled, kEnabled | kHover, kNoState | kHover,
+                                        kEnabled | QStyle::State_HasFocus};
+        for (const QStyle::State state : states) {
+            for (const auto active :
+                 {QStyle::SC_None, QStyle::SC_ScrollBarAddLine, QStyle::SC_ScrollBarSlider}) {
+                for (const int maximum : {100, 0}) {
+                    const bool hasPictures = (state & kEnabled) && maximum > 0;
+                    QTest::addRow("upright %x %x %d", unsigned(state), unsigned(active), maximum)
+                            << int(Qt::Vertical) << state << active << maximum << hasPictures;
+                    QTest::addRow("lying %x %x %d", unsigned(state), unsigned(active), maximum)
+                            << int(Qt::Horizontal) << state << active << maximum << hasPictures;
+                }
+            }
+        }
+    }
+    void scrollBarIsComposedOfItsParts()
+    {
+        QFETCH(const int, orientation);
+        QFETCH(const QStyle::State, state);
+        QFETCH(const QStyle::SubControl, active);
+        QFETCH(const int, maximum);
+        QFETCH(const bool, hasPictures);
+        const bool upright = orientation == Qt::Vertical;
+        auto bar = scrollBar(upright ? QRect(0, 0, 16, 150) : QRect(0, 0, 150, 16),
+                             Qt::Orientation(orientation), state);
+        bar.activeSubControls = active;
+        bar.maximum = maximum;
+        bar.sliderPosition = qMin(maximum, 40);
+        const auto drawPart = [&](QPainter *painter, int picture, QStyle::SubControl control) {
+            const bool hover = active == control && (state & kHover);
+            const QString name = kPictureOf[picture]
+                                 + (hover ? QStringLiteral("hover") : QStringLiteral("normal"));
+            painter->drawPixmap(part(bar, control), QPixmap(name));
+        };
+        const auto draw = [&](QPainter *painter) {
+            for (const auto page : {QStyle::SC_ScrollBarAddPage, QStyle::SC_ScrollBarSubPage}) {
+                if (part(bar, page).isValid())
+                    drawExpectedPage(painter, bar, part(bar, page));
+            }
+            if (!hasPictures)
+                return;
+            drawPart(painter, upright ? 2 : 0, QStyle::SC_ScrollBarAddLine);
+            drawPart(painter, upright ? 3 : 1, QStyle::SC_ScrollBarSubLine);
+            drawPart(painter, upright ? 5 : 4, QStyle::SC_ScrollBarSlider);
+        };
+        QCOMPARE(drawn(QStyle::CC_ScrollBar, bar), painted(draw, kGround));
+    }
+
+    // Qt does not clear the ground of a widget that says it paints all of itself.
+    void scrollBarCoversWhatWasThereBefore()
+    {
+        QScrollBar widget(Qt::Vertical);
+        widget.setAttribute(Qt::WA_OpaquePaintEvent);
+        auto bar = scrollBar(QRect(0, 0, 16, 150), Qt::Vertical, kNoState);
+        const QImage image = drawn(QStyle::CC_ScrollBar, bar, &widget);
+        QCOMPARE(image.pixelColor(1, 1), bar.palette.color(QPalette::Window));
+        QCOMPARE(image.pixelColor(8, 80), bar.palette.color(QPalette::Window));
+        widget.setAttribute(Qt::WA_OpaquePaintEvent, false);
+        QCOMPARE(drawn(QStyle::CC_ScrollBar, bar, &widget), drawn(QStyle::CC_ScrollBar, bar));
+    }
+
+    void comboBoxIsAFieldWithAnArrow_data()
+    {
+        QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<QStyle::SubControl>("active");
+        QTest::addColumn<QString>("picture");
+        QTest::addColumn<QColor>("frame");
+        const QColor grey(189, 189, 189);
+        const QColor disabledGrey(203, 203, 203);
+        const QColor orange(255, 193, 48);
+        const auto none = QStyle::SC_None;
+        const auto arrow = QStyle::SC_ComboBoxArrow;
+        const QString normal = QStringLiteral("normal");
+        const QString hover = QStringLiteral("hover");
+        const QString clicked = QStringLiteral("clicked");
+        const QString disabled = QStringLiteral("disabled");
+        QTest::newRow("normal") << kEnabled << none << normal << grey;
+        QTest::newRow("under the mouse") << (kEnabled | kHover) << none << normal << orange;
+        QTest::newRow("arrow under the mouse") << (kEnabled | kHover) << arrow << hover << orange;
+        QTest::newRow("open") << (kEnabled | QStyle::State_On) << none << clicked << grey;
+        QTest::newRow("pressed") << (kEnabled | QStyle::State_Sunken | kHover) << arrow << clicked
+                                 << orange;
+        QTest::newRow("disabled") << (kNoState | kHover | QStyle::State_On) << arrow << disabled
+                                  << disabledGrey;
+    }
+    void comboBoxIsAFieldWithAnArrow()
+    {
+        QFETCH(const QStyle::State, state);
+        QFETCH(const QStyle::SubControl, active);
+        QFETCH(const QString, picture);
+        QFETCH(const QColor, frame);
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            auto box = makeOption<QStyleOptionComboBox>(QRect(0, 0, 120, 24), state);
+            box.subControls = QStyle::SC_All;
+            box.activeSubControls = active;
+            box.direction = direction;
+            box.currentText = QStringLiteral("not drawn here");
+            const auto draw = [&](QPainter *painter) {
+                painter->fillRect(box.rect, box.palette.color(QPalette::Base));
+                painter->setPen(frame);
+                painter->drawRect(QRect(0, 0, 119, 23));
+                const QRect arrow = m_style.subControlRect(QStyle::CC_ComboBox, &box,
+                                                           QStyle::SC_ComboBoxArrow, nullptr);
+                painter->drawPixmap(arrow.left(), (arrow.height() - 7) / 2,
+                                    QPixmap(QStringLiteral(":/combobox_arrow_") + picture));
+            };
+            QCOMPARE(drawn(QStyle::CC_ComboBox, box), painted(draw, kGround));
+
+            // The same further down.
+            const auto lower = [&](QPainter *painter) {
+                auto moved = box;
+                moved.rect.translate(0, 31);
+                m_style.drawComplexControl(QStyle::CC_ComboBox, &moved, painter, nullptr);
+            };
+            const auto translated = [&](QPainter *painter) {
+                painter->translate(0, 31);
+                draw(painter);
+            };
+            QCOMPARE(painted(lower, kGround), painted(translated, kGround));
+        }
+    }
+
+    void iconComboBoxOpensAWiderList()
+    {
+        const ombrin::OmIconComboBox iconBox;
+        const QComboBox plainBox;
+        auto box = makeOption<QStyleOptionComboBox>(QRect(0, 0, 150, 24));
+        const auto rect = [&](QStyle::SubControl control, const QWidget *widget) {
+            return m_style.subControlRect(QStyle::CC_ComboBox, &box, control, widget);
+        };
+        const auto list = QStyle::SC_ComboBoxListBoxPopup;
+        const auto arrow = QStyle::SC_ComboBoxArrow;
+        QCOMPARE(rect(list, &iconBox), QRect(0, 0, 250, 24));
+        QCOMPARE(rect(arrow, &iconBox), rect(arrow, &plainBox));
+        const QRect below =
+                m_style.baseStyle()->subControlRect(QStyle::CC_ComboBox, &box, list, &plainBox);
+        QCOMPARE(rect(list, &plainBox), below);
+    }
+
+    void missingPicturesLeaveTheirPlaces()
+    {
+        QVERIFY(QResource::unregisterResource(skinFile()));
+        QPixmapCache::clear();
+        const auto bar = scrollBar(QRect(0, 0, 16, 16), Qt::Vertical);
+        for (const auto element :
+             {QStyle::CE_ScrollBarAddLine, QStyle::CE_ScrollBarSubLine, QStyle::CE_ScrollBarSlider})
+            QCOMPARE(drawn(element, bar), blank(kGround));
+        const auto box = makeOption<QStyleOptionComboBox>(QRect(0, 0, 120, 24));
+        const QImage field = drawn(QStyle::CC_ComboBox, box);
+        QCOMPARE(field.copy(1, 1, 118, 22).pixelColor(110, 11), box.palette.color(QPalette::Base));
+        QVERIFY(QResource::registerResource(skinFile()));
+    }
+
+    void everythingElseIsDrawnByTheStyleBelow()
+    {
+        auto spin = makeOption<QStyleOptionSpinBox>(QRect(4, 4, 80, 24));
+        spin.subControls = QStyle::SC_All;
+        const auto below = [&](QPainter *painter) {
+            m_style.baseStyle()->drawComplexControl(QStyle::CC_SpinBox, &spin, painter, nullptr);
+        };
+        QCOMPARE(drawn(QStyle::CC_SpinBox, spin), painted(below, kGround));
+        QCOMPARE(m_style.subControlRect(QStyle::CC_SpinBox, &spin, QStyle::SC_SpinBoxUp, nullptr),
+                 m_style.baseStyle()->subControlRect(QStyle::CC_SpinBox, &spin,
+                                                     QStyle::SC_SpinBoxUp, nullptr));
+        const QStyleOptionSpinBox wrong = spin;
+        QCOMPARE(drawn(QStyle::CC_ScrollBar, wrong), blank(kGround));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmStyle2Complex)
+#include "tst_omstyle2_complex.moc"

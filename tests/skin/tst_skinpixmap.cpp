@@ -42,7 +42,7 @@ QByteArray truncatedPng()
 {
     QImage image(64, 64, QImage::Format_RGB32);
     for (int i = 0; i < 64 * 64; ++i)
-        image.setPixel(i % 64, i / 64, static_cast<QRgb>(i * i * 7919));
+        image.setPixel(i % 64, i / 64, static_cast<QRgb>(i) * static_cast<QRgb>(i) * 7919u);
     const QByteArray bytes = encoded(image);
     return bytes.left(bytes.size() / 2);
 }

@@ -608,13 +608,13 @@ void tst_OmImageButton::refinesColours()
     static constexpr Refinement kRefinements[] = {&Button::refinePictureToDownState,
                                                   &Button::refinePictureToHoveredState,
                                                   &Button::refinePictureToDisabledState};
-    // One channel at a time, so that none is taken for another.
     Button button;
-    const int other =
-            (button.*kRefinements[refinement])(flatPixmap(0xff000000)).toImage().pixel(0, 0) & 0xff;
-    const auto refine = [&](QRgb color) {
-        return (button.*kRefinements[refinement])(flatPixmap(color)).toImage().pixel(3, 5);
+    const Refinement function = kRefinements[refinement];
+    const auto refine = [&button, function](QRgb color) {
+        return (button.*function)(flatPixmap(color)).toImage().pixel(3, 5);
     };
+    // One channel at a time, so that none is taken for another.
+    const int other = qRed(refine(qRgb(0, 0, 0)));
     QCOMPARE(refine(qRgb(before, 0, 0)), qRgb(after, other, other));
     QCOMPARE(refine(qRgb(0, before, 0)), qRgb(other, after, other));
     QCOMPARE(refine(qRgb(0, 0, before)), qRgb(other, other, after));

@@ -34,6 +34,11 @@ OMBRIN_AUTOTEST_EXPORT void bringToFront(Handle window);
 /// attention where the window system has no flashing.
 OMBRIN_AUTOTEST_EXPORT void flash(Handle window);
 
+/// Whether the user still holds the left mouse button, as a move or resize by the window system
+/// needs it: on Windows the mouse is asked, since a busy program hears of the release too late and
+/// the window would then cling to the pointer. True where the mouse cannot be asked.
+OMBRIN_AUTOTEST_EXPORT bool isLeftButtonHeld();
+
 /// When \a message, a native message as QWidget::nativeEvent() passes it, asks for the limits of
 /// the window's size: answers \a width and \a height (native pixels) as its size when maximised and
 /// returns true. Does nothing for any other message.

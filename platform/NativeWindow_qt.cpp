@@ -92,6 +92,11 @@ void flash(Handle handle)
     sendRequests();
 }
 
+bool isLeftButtonHeld()
+{
+    return true;
+}
+
 bool answerMaximumSize(void *, int, int)
 {
     return false; // only Windows asks

@@ -75,6 +75,13 @@ void flash(Handle handle)
     FlashWindowEx(&request);
 }
 
+bool isLeftButtonHeld()
+{
+    // The question is for the device's buttons, which a left-handed user may have swapped.
+    const int button = GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON;
+    return GetAsyncKeyState(button) < 0;
+}
+
 bool answerMaximumSize(void *message, int width, int height)
 {
     const auto *native = static_cast<const MSG *>(message);

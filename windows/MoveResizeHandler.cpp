@@ -1,5 +1,6 @@
 #include "windows/MoveResizeHandler.h"
 
+#include "platform/NativeWindow.h"
 #include "windows/ResizeGeometry.h"
 
 #include <ombrin/OmQtCompat.h>
@@ -144,7 +145,7 @@ void MoveResizeHandler::startDrag(const QPoint &delta)
     follow(delta);
 
     QWindow *native = m_window->isWindow() ? m_window->windowHandle() : nullptr;
-    if (!native)
+    if (!native || !NativeWindow::isLeftButtonHeld())
         return;
     const bool taken = m_edges ? native->startSystemResize(m_edges) : native->startSystemMove();
     if (taken)

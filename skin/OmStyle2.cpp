@@ -3,6 +3,7 @@
 #include "skin/OmStyle2_p.h"
 
 #include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QStyleOption>
 
 #include <algorithm>
 
@@ -31,6 +32,13 @@ bool isDockTitleButtonOverPlastique(const QWidget *widget, const QStyle *base)
 }
 
 } // namespace
+
+void followMouse(const QStyleOption &option)
+{
+    auto *widget = qobject_cast<QWidget *>(option.styleObject);
+    if (widget && !widget->testAttribute(Qt::WA_Hover))
+        widget->setAttribute(Qt::WA_Hover);
+}
 
 OmStyle2::OmStyle2()
     : QProxyStyle(createBaseStyle())

@@ -18,6 +18,12 @@ inline bool isA(const QWidget *widget, const char *className)
     return widget && widget->inherits(className);
 }
 
+/// Has Qt repaint the widget that \a option describes when the mouse enters or leaves it.
+///
+/// Plastique asks for that when it polishes a widget, but not for line edits and scroll bars, to
+/// which it does not show the mouse.
+void followMouse(const QStyleOption &option);
+
 /// Fills the outermost \a thickness pixels of \a rect.
 ///
 /// On a screen of density 1 it gives the pixels that a pen of that thickness draws, on any other

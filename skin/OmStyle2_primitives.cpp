@@ -134,6 +134,7 @@ void OmStyle2::drawLineEditPanel(const QStyleOption *option, QPainter *painter,
         QProxyStyle::drawPrimitive(PE_PanelLineEdit, option, painter, widget);
         return;
     }
+    followMouse(*option);
     QStyleOptionFrame panel(*frame);
     panel.lineWidth = 0;
     QProxyStyle::drawPrimitive(PE_PanelLineEdit, &panel, painter, widget);

@@ -123,8 +123,8 @@ void drawPart(QPainter *painter, const QStyleOptionSlider &slider, const PartPic
 {
     if (!(slider.state & QStyle::State_Enabled))
         return;
-    const auto &states =
-            slider.orientation == Qt::Horizontal ? pictures.horizontal : pictures.vertical;
+    const bool horizontal = slider.orientation == Qt::Horizontal;
+    const auto &states = horizontal ? pictures.horizontal : pictures.vertical;
     const QString &path = states[slider.state & QStyle::State_MouseOver ? 1 : 0];
     drawScaled(painter, slider.rect, skinPixmapFor(path, painter));
 }
@@ -218,8 +218,13 @@ void drawUprightPage(QPainter *painter, const QRect &r, const QColor &window)
 
 void drawScrollBarLine(QPainter *painter, const QStyleOption *option, bool towardEnd)
 {
-    if (const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option))
-        drawPart(painter, *slider, towardEnd ? addLinePictures() : subLinePictures());
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (!slider)
+        return;
+    // The end of a right-to-left bar is its left side, and arrows point outward.
+    const bool mirrored =
+            slider->orientation == Qt::Horizontal && slider->direction == Qt::RightToLeft;
+    drawPart(painter, *slider, towardEnd != mirrored ? addLinePictures() : subLinePictures());
 }
 
 // Composed as Plastique composes it, whichever style is below: Fusion would paint a scroll bar
@@ -230,6 +235,7 @@ void OmStyle2::drawScrollBar(const QStyleOptionComplex *option, QPainter *painte
     const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
     if (!slider)
         return;
+    followMouse(*slider);
     // A scroll bar tells Qt that it paints all of itself, but pictures have transparent parts and a
     // disabled bar has no pictures: what was there before would stay.
     if (widget && widget->testAttribute(Qt::WA_OpaquePaintEvent))

@@ -285,6 +285,19 @@ private Q_SLOTS:
         prepareApplication();
     }
 
+    void mouseIsFollowedByWhateverShowsIt()
+    {
+        QLineEdit edit;
+        QScrollBar scrollBar;
+        for (QWidget *widget :
+             {static_cast<QWidget *>(&edit), static_cast<QWidget *>(&scrollBar)}) {
+            widget->setStyle(m_style.get());
+            widget->resize(60, 60);
+            widget->grab();
+            QVERIFY(widget->testAttribute(Qt::WA_Hover));
+        }
+    }
+
     void allControlsPaintUnderIt_data()
     {
         QTest::addColumn<QString>("styleSheet");

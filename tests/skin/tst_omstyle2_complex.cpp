@@ -148,6 +148,21 @@ private Q_SLOTS:
         }
     }
 
+    void arrowsOfAMirroredBarPointOutward()
+    {
+        auto bar = scrollBar(QRect(0, 0, 16, 16), Qt::Horizontal);
+        const QImage right = drawn(QStyle::CE_ScrollBarAddLine, bar);
+        const QImage left = drawn(QStyle::CE_ScrollBarSubLine, bar);
+        bar.direction = Qt::RightToLeft;
+        QCOMPARE(drawn(QStyle::CE_ScrollBarAddLine, bar), left);
+        QCOMPARE(drawn(QStyle::CE_ScrollBarSubLine, bar), right);
+
+        bar.orientation = Qt::Vertical;
+        const QImage down = drawn(QStyle::CE_ScrollBarAddLine, bar);
+        bar.direction = Qt::LeftToRight;
+        QCOMPARE(drawn(QStyle::CE_ScrollBarAddLine, bar), down);
+    }
+
     // However the painter is set up, the picture is what drawPixmap() gives.
     void partsFollowThePainter()
     {

@@ -1,6 +1,6 @@
 #include <ombrin/OmImageButton.h>
 
-#include "widgets/OmImageButtonAccessible.h"
+#include "widgets/WidgetAccessibility.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
@@ -53,7 +53,7 @@ QPixmap refined(const QPixmap &pixmap, const ChannelTable &table)
 OmImageButton::OmImageButton(QWidget *parent, Qt::WindowFlags f)
     : QWidget(parent, f)
 {
-    installImageButtonAccessibility();
+    installWidgetAccessibility();
     setBackgroundRole(QPalette::NoRole);
     setCursor(QCursor(Qt::ArrowCursor));
 }

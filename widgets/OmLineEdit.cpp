@@ -1,0 +1,95 @@
+#include <ombrin/OmLineEdit.h>
+
+#include <ombrin/OmDesktop.h>
+
+#include <QtCore/QPointer>
+#include <QtGui/QFocusEvent>
+#include <QtWidgets/QApplication>
+
+namespace ombrin {
+
+namespace {
+
+constexpr QColor kHintColor(128, 128, 128);
+
+} // namespace
+
+OmLineEdit::OmLineEdit(QWidget *parent)
+    : QLineEdit(parent)
+{
+    useHintColor();
+    // Also text that comes from the host must not look like a hint.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (m_hasHintColor && !showsMessage())
+            useTextColor();
+    });
+}
+
+OmLineEdit::~OmLineEdit() = default;
+
+void OmLineEdit::setNoFocusMessage(const QString &message)
+{
+    // First, so that receivers of textChanged() do not take the message for text.
+    m_noFocusMessage = message;
+    QLineEdit::setText(message);
+}
+
+QString OmLineEdit::noFocusMessage() const
+{
+    return m_noFocusMessage;
+}
+
+QString OmLineEdit::text() const
+{
+    return showsMessage() ? QString() : QLineEdit::text();
+}
+
+void OmLineEdit::updateFocusMessage()
+{
+    if (!hasFocus() && text().isEmpty())
+        showMessage();
+}
+
+void OmLineEdit::focusInEvent(QFocusEvent *event)
+{
+    if (showsMessage()) {
+        useTextColor();
+        // Unlike clear() it leaves nothing behind that could be brought back by undoing.
+        QLineEdit::setText(QString());
+    }
+    QLineEdit::focusInEvent(event);
+}
+
+void OmLineEdit::focusOutEvent(QFocusEvent *event)
+{
+    if (event->reason() != Qt::PopupFocusReason && text().isEmpty())
+        showMessage();
+    QLineEdit::focusOutEvent(event);
+}
+
+bool OmLineEdit::showsMessage() const
+{
+    return QLineEdit::text() == m_noFocusMessage.left(maxLength());
+}
+
+void OmLineEdit::showMessage()
+{
+    useHintColor();
+    QLineEdit::setText(m_noFocusMessage);
+}
+
+void OmLineEdit::useHintColor()
+{
+    OmDesktop::setTextColor(this, kHintColor);
+    m_hasHintColor = true;
+}
+
+void OmLineEdit::useTextColor()
+{
+    const QPalette palette =
+            parentWidget() ? parentWidget()->palette() : QApplication::palette(this);
+    OmDesktop::setTextColor(this, palette.color(QPalette::Text));
+    m_hasHintColor = false;
+}
+
+} // namespace ombrin

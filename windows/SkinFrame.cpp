@@ -98,7 +98,12 @@ void SkinFrame::extendNativeStyle()
     // A frame inside another widget has no native window, and needs none.
     if (!m_window->isWindow())
         return;
+#ifdef Q_OS_WIN
     m_window->winId();
+#endif
+    // Elsewhere the native window is made when the window is shown, and gets its style then. One
+    // that is made before it has its place loses it under an X11 window manager: Qt would take it
+    // for being at (0, 0), and menus would open there.
     restoreNativeStyle();
 }
 

@@ -41,8 +41,8 @@ public:
     SkinFrame(QWidget *window, const char *translationContext);
     ~SkinFrame() override;
 
-    /// Gives a top-level window's native window, which is made now, the system menu and the
-    /// minimise and maximise boxes. They come back whenever the native window is made anew.
+    /// Gives a top-level window's native window, which on Windows is made now, the system menu and
+    /// the minimise and maximise boxes. They come back whenever the native window is made anew.
     void extendNativeStyle();
     /// Makes the title-bar buttons and the mouse handling, and sets margins and minimum size.
     void build();

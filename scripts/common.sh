@@ -19,7 +19,7 @@ packages_test=(
 )
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev)
 packages_clang=(clang)
-packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb xz-utils)
+packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb x11-utils xz-utils)
 packages_benchmark=(libbenchmark-dev)
 
 # install_packages PACKAGE...: installs what is missing, with apt-get.

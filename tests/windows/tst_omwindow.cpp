@@ -397,11 +397,11 @@ void tst_OmWindow::doubleClickOnTheTitleMaximisesAndRestoresOf()
     QVERIFY(!window.isMaximized());
     doubleClick(30);
     QVERIFY(window.isMaximized());
-    QVERIFY(titleButton(window, Restore)->isVisible());
+    QTRY_VERIFY(titleButton(window, Restore)->isVisible());
     QVERIFY(titleButton(window, Maximize)->isHidden());
     doubleClick(0);
     QVERIFY(!window.isMaximized());
-    QVERIFY(titleButton(window, Restore)->isHidden());
+    QTRY_VERIFY(titleButton(window, Restore)->isHidden());
     QVERIFY(titleButton(window, Maximize)->isVisible());
     window.setFixed(true);
     doubleClick(10);
@@ -566,6 +566,7 @@ void tst_OmWindow::draggingMovesAndResizesOf()
 template <typename Window>
 void tst_OmWindow::newNativeWindowKeepsEverythingOf()
 {
+    QWidget parent; // outlives the window, which Windows would take along even when unparented
     Window window;
     window.setWidget(new QLabel);
     show(window);
@@ -580,8 +581,10 @@ void tst_OmWindow::newNativeWindowKeepsEverythingOf()
         QVERIFY(window.windowHandle());
         const Qt::WindowFlags flags = window.windowHandle()->flags();
         QVERIFY2(flags & Qt::FramelessWindowHint, what);
+#ifndef Q_OS_WIN // there they are native styles, which tst_omwindow_win reads back
         QVERIFY2(flags & Qt::WindowMinimizeButtonHint, what);
         QVERIFY2(flags & Qt::WindowMaximizeButtonHint, what);
+#endif
     };
     expectSame("at first");
     window.setWindowFlag(Qt::Tool);
@@ -593,7 +596,6 @@ void tst_OmWindow::newNativeWindowKeepsEverythingOf()
     window.show();
     settle();
     expectSame("closed and shown again");
-    QWidget parent;
     const Qt::WindowFlags flags = window.windowFlags();
     window.setParent(&parent, flags | Qt::Window);
     window.show();

@@ -24,7 +24,7 @@ namespace gallery {
 
 namespace {
 
-constexpr QSize kInitialSize(960, 640);
+constexpr QSize kInitialSize(1000, 700);
 constexpr int kNavigationWidth = 180;
 constexpr int kMessageMs = 8000;
 

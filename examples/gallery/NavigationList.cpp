@@ -91,6 +91,8 @@ void NavigationList::addHeading(const QString &text)
 
 void NavigationList::choose(const QString &name)
 {
+    if (name.isEmpty())
+        return; // as the headings are
     for (int row = 0; row < count(); ++row) {
         if (item(row)->data(kNameRole).toString() == name)
             setCurrentRow(row);

@@ -30,7 +30,7 @@ using ombrin::OmWindow;
 
 // Time to bring another window to the front before this one asks for attention.
 constexpr int kAttentionDelayMs = 2000;
-constexpr QSize kExhibitSize(480, 262);
+constexpr QSize kExhibitSize(452, 256);
 constexpr int kBadgeDiameter = 18;
 
 /// A numbered dot.
@@ -197,8 +197,8 @@ QWidget *WindowPage::createExhibit()
 
     // Centres of the parts, from the corner of the frame.
     const QPoint parts[] = {
-            {290, 15}, {kExhibitSize.width() - 92, 15},   {290, 41},
-            {2, 140},  {290, kExhibitSize.height() - 15},
+            {270, 15}, {kExhibitSize.width() - 92, 15},   {270, 41},
+            {2, 140},  {270, kExhibitSize.height() - 15},
     };
     int number = 0;
     for (const QPoint &part : parts)
@@ -209,7 +209,7 @@ QWidget *WindowPage::createExhibit()
 QWidget *WindowPage::createLegend()
 {
     const QString texts[] = {
-            tr("Title: drag it to move, double-click it to maximise, right-click it for opacity"),
+            tr("The title: drag to move, double-click to maximise, right-click for opacity"),
             tr("Four image buttons; maximise and restore take turns"),
             tr("The menu bar, made when it is first asked for"),
             tr("The border resizes; the corners are cut by a mask"),

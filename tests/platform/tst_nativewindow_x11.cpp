@@ -312,7 +312,7 @@ private Q_SLOTS:
     {
         QFETCH(Handle, handle);
         Window notCreated;
-        const int windows = QGuiApplication::allWindows().size();
+        const auto windows = QGuiApplication::allWindows().size();
         NativeWindow::addSystemBoxes(handle);
         NativeWindow::setMaximizeBox(handle, true);
         NativeWindow::setStayOnTop(handle, true);

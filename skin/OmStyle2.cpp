@@ -90,6 +90,7 @@ QSize OmStyle2::sizeFromContents(ContentsType type, const QStyleOption *option,
         return contentsSize;
     // No margins around a tool button.
     if (type == CT_ToolButton)
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the style below, on purpose
         return QCommonStyle::sizeFromContents(type, option, contentsSize, widget);
     return QProxyStyle::sizeFromContents(type, option, contentsSize, widget);
 }

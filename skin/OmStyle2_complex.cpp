@@ -31,6 +31,7 @@ QRect OmStyle2::subControlRect(ComplexControl control, const QStyleOptionComplex
     if (!option)
         return QRect();
     if (control == CC_ScrollBar)
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the style below, on purpose
         return QCommonStyle::subControlRect(control, option, subControl, widget);
     if (control == CC_ComboBox && subControl == SC_ComboBoxListBoxPopup
         && isA(widget, "ombrin::OmIconComboBox"))

@@ -136,6 +136,7 @@ void OmStyle2::drawControl(ControlElement element, const QStyleOption *option, Q
         drawProgressContents(painter, option);
         break;
     case CE_ProgressBarLabel:
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the style below, on purpose
         QCommonStyle::drawControl(element, option, painter, widget);
         break;
     case CE_MenuBarItem:
@@ -143,6 +144,9 @@ void OmStyle2::drawControl(ControlElement element, const QStyleOption *option, Q
         break;
     case CE_ToolBoxTab:
         drawToolBoxTab(painter, option);
+        // A tool box asks for nothing more, and its captions must be seen.
+        if (isA(widget, "QToolBox"))
+            proxy()->drawControl(CE_ToolBoxTabLabel, option, painter, widget);
         break;
     case CE_ToolBar:
         drawToolBar(painter, option);
@@ -168,6 +172,7 @@ void OmStyle2::drawMenuBarItem(const QStyleOption *option, QPainter *painter,
 {
     if ((option->state & State_Selected) && (option->state & State_Enabled))
         painter->fillRect(option->rect, option->palette.color(QPalette::Button).darker(110));
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the style below, on purpose
     QCommonStyle::drawControl(CE_MenuBarItem, option, painter, widget);
 }
 

@@ -66,7 +66,7 @@ const QImage &checkMark(bool enabled)
 void drawCheckBox(QPainter *painter, const QStyleOption &option)
 {
     const QRect r = option.rect;
-    if (option.type != QStyleOption::SO_Button || r.isEmpty())
+    if (!qstyleoption_cast<const QStyleOptionButton *>(&option) || r.isEmpty())
         return;
     const bool enabled = option.state & QStyle::State_Enabled;
     const bool sunken = option.state & QStyle::State_Sunken;
@@ -76,8 +76,8 @@ void drawCheckBox(QPainter *painter, const QStyleOption &option)
         drawFrame(painter, r.adjusted(0, 0, 1, 1), kHoverOrange);
 
     QLinearGradient ground(r.left(), r.top(), r.right(), r.bottom());
-    ground.setColorAt(0.0, palette.color(QPalette::Window));
-    ground.setColorAt(1.0, palette.color(QPalette::Light));
+    ground.setStops(
+            {{0.0, palette.color(QPalette::Window)}, {1.0, palette.color(QPalette::Light)}});
     painter->fillRect(r.adjusted(1, 1, -1, -1), ground);
 
     const QColor button = palette.color(QPalette::Button);

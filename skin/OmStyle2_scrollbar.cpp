@@ -245,6 +245,7 @@ void OmStyle2::drawScrollBar(const QStyleOptionComplex *option, QPainter *painte
     bar.state &= ~State_HasFocus;
     if (bar.minimum == bar.maximum)
         bar.state &= ~State_Enabled;
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the style below, on purpose
     QCommonStyle::drawComplexControl(CC_ScrollBar, &bar, painter, widget);
 }
 

@@ -87,7 +87,7 @@ QGradientStops tabStops(const QPalette &palette, bool selected)
     const QGradient *window = palette.window().gradient();
     if (palette.button().gradient() && window)
         return window->stops();
-    const QColor button = palette.color(QPalette::Button);
+    const QColor &button = palette.color(QPalette::Button);
     const QColor base = selected ? button : button.darker(110);
     return {{0.0, base},  {0.08, base.lighter(103)}, {0.21, base.lighter(114)},
             {0.31, base}, {0.78, base.lighter(110)}, {1.0, base.lighter(105)}};
@@ -129,7 +129,7 @@ void drawRightEdge(QPainter *painter, const QRect &r, const QPalette &palette, c
         painter->drawPoint(r.right() - 1, r.top() + 1);
         return;
     }
-    const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight);
+    const QColor &highlight = palette.color(QPalette::Active, QPalette::Highlight);
     painter->setPen(cosmeticPen(highlight.darker(150)));
     painter->drawPoint(r.right() - 1, r.top() + 1);
     painter->setPen(cosmeticPen(palette.color(QPalette::Window).darker(110)));
@@ -156,6 +156,7 @@ void OmStyle2::drawTabShape(const QStyleOption *option, QPainter *painter,
     painter->save();
     if (!turnPainter(painter, tab->shape, tab->rect.size())) {
         painter->restore();
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the style below, on purpose
         QCommonStyle::drawControl(CE_TabBarTabShape, option, painter, widget);
         return;
     }

@@ -28,6 +28,9 @@ namespace ombrin {
 /// - ombrin::OmSearchField keeps 18 pixels free for its icons on either side of its text;
 /// - ombrin::OmIconComboBox opens a list 100 pixels wider than itself.
 ///
+/// In a right-to-left layout the arrows of a lying scroll bar still point outward. Line edits and
+/// scroll bars are made to repaint when the mouse enters or leaves them (Qt::WA_Hover).
+///
 /// A call without an option, without a painter or with an option of the wrong type draws nothing,
 /// and answers an empty rectangle or the size it was given. Widgets may always be null. A skin
 /// picture that is missing leaves its place as it was.

@@ -298,6 +298,39 @@ private Q_SLOTS:
         }
     }
 
+    void toolBoxShowsItsCaptions()
+    {
+        QToolBox box;
+        box.addItem(new QWidget, QString());
+        setStyleOfTree(&box, m_style.get());
+        box.resize(120, 80);
+        const QImage bare = box.grab().toImage();
+        box.setItemText(0, QStringLiteral("Caption"));
+        QVERIFY(box.grab().toImage() != bare);
+    }
+
+    void checkableItemShowsItsMark()
+    {
+        QTreeWidget tree;
+        tree.setStyle(m_style.get());
+        tree.addTopLevelItem(new QTreeWidgetItem);
+        QTreeWidgetItem *item = tree.topLevelItem(0);
+        const QColor green(0x21, 0xa1, 0x21);
+        const auto greenPixels = [&] {
+            const QImage image = tree.grab().toImage();
+            int count = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    count += image.pixelColor(x, y) == green;
+            }
+            return count;
+        };
+        item->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(greenPixels(), 0);
+        item->setCheckState(0, Qt::Checked);
+        QVERIFY(greenPixels() > 15);
+    }
+
     void allControlsPaintUnderIt_data()
     {
         QTest::addColumn<QString>("styleSheet");
@@ -324,6 +357,13 @@ private Q_SLOTS:
             QCOMPARE(window.grab().toImage(), enabled);
             window.setEnabled(false);
             QVERIFY(window.grab().toImage() != enabled);
+
+            // Switched while everything is on screen, and back.
+            window.setEnabled(true);
+            QApplication::setStyle(makePlainStyle());
+            window.grab();
+            QApplication::setStyle(new OmStyle2);
+            QCOMPARE(window.grab().toImage().size(), enabled.size());
         }
         qApp->setStyleSheet(QString());
         prepareApplication();

@@ -59,6 +59,20 @@ void setStyleOfTree(QWidget *widget, QStyle *style)
         child->setStyle(style);
 }
 
+template <typename Widget>
+class PaintCounter : public Widget
+{
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        ++paints;
+        Widget::paintEvent(event);
+    }
+};
+
 void fillWithControls(QWidget *window)
 {
     auto *layout = new QVBoxLayout(window);
@@ -285,17 +299,25 @@ private Q_SLOTS:
         prepareApplication();
     }
 
-    void mouseIsFollowedByWhateverShowsIt()
+    void mouseRepaintsLineEditsAndScrollBars()
     {
-        QLineEdit edit;
-        QScrollBar scrollBar;
-        for (QWidget *widget :
-             {static_cast<QWidget *>(&edit), static_cast<QWidget *>(&scrollBar)}) {
-            widget->setStyle(m_style.get());
-            widget->resize(60, 60);
-            widget->grab();
-            QVERIFY(widget->testAttribute(Qt::WA_Hover));
-        }
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *edit = new PaintCounter<QLineEdit>;
+        auto *bar = new PaintCounter<QScrollBar>;
+        layout->addWidget(edit);
+        layout->addWidget(bar);
+        setStyleOfTree(&window, m_style.get());
+        window.resize(100, 200);
+        window.show();
+        QVERIFY(waitFor([&] { return edit->paints > 0 && bar->paints > 0; }));
+        QTest::mouseMove(edit, edit->rect().center());
+        int before = edit->paints;
+        QTest::mouseMove(bar, bar->rect().center());
+        QVERIFY(waitFor([&] { return edit->paints > before; }));
+        before = bar->paints;
+        QTest::mouseMove(edit, edit->rect().center());
+        QVERIFY(waitFor([&] { return bar->paints > before; }));
     }
 
     void toolBoxShowsItsCaptions()

@@ -1,0 +1,162 @@
+#include "support/TestCase.h"
+
+#include "effects/BalloonGeometry.h"
+
+using namespace ombrin::balloon_geometry;
+
+namespace {
+
+constexpr ArrowCorner kTopLeft{true, true};
+constexpr ArrowCorner kTopRight{true, false};
+constexpr ArrowCorner kBottomLeft{false, true};
+constexpr ArrowCorner kBottomRight{false, false};
+
+const QRect kFirst(0, 0, 1280, 1024);
+
+} // namespace
+
+Q_DECLARE_METATYPE(ombrin::balloon_geometry::ArrowCorner)
+
+class tst_BalloonGeometry : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aPositionBelongsToItsScreenOrTheNearest_data()
+    {
+        QTest::addColumn<QVector<QRect>>("screens");
+        QTest::addColumn<QPoint>("position");
+        QTest::addColumn<int>("index");
+        const QVector<QRect> screens = {kFirst, {1280, 200, 800, 600}, {-800, -600, 800, 600}};
+        QTest::newRow("first") << screens << QPoint(1279, 1023) << 0;
+        QTest::newRow("right of the first") << screens << QPoint(1280, 200) << 1;
+        QTest::newRow("left of and above the first") << screens << QPoint(-1, -1) << 2;
+        QTest::newRow("above the second") << screens << QPoint(1700, 150) << 1;
+        QTest::newRow("below the third") << screens << QPoint(-700, 10) << 2;
+        QTest::newRow("far away") << screens << QPoint(INT_MAX, INT_MIN) << 1;
+        QTest::newRow("no screens") << QVector<QRect>() << QPoint(1, 1) << -1;
+    }
+
+    void aPositionBelongsToItsScreenOrTheNearest()
+    {
+        QFETCH(QVector<QRect>, screens);
+        QFETCH(QPoint, position);
+        QFETCH(int, index);
+        QCOMPARE(screenAt(screens, position), index);
+    }
+
+    void arrowStandsWhereTheBalloonHasRoom_data()
+    {
+        QTest::addColumn<QVector<QRect>>("screens");
+        QTest::addColumn<QPoint>("position");
+        QTest::addColumn<ArrowCorner>("corner");
+        QTest::addColumn<QPoint>("place");
+        // The balloons are 100 x 40, with their margins 108 x 64.
+        const auto row = [](const char *name, const QVector<QRect> &screens, QPoint position,
+                            ArrowCorner corner, QPoint place) {
+            QTest::newRow(name) << screens << position << corner << place;
+        };
+        const QVector<QRect> one = {kFirst};
+        row("middle", one, {600, 500}, kTopLeft, {582, 500});
+        row("last row with room", one, {600, 965}, kTopLeft, {582, 965});
+        row("first row without", one, {600, 966}, kBottomLeft, {582, 902});
+        row("last column with room", one, {1197, 500}, kTopLeft, {1179, 500});
+        row("first column without", one, {1198, 500}, kTopRight, {1108, 500});
+        row("lower right", one, {1200, 1000}, kBottomRight, {1110, 936});
+        row("left edge", one, {5, 500}, kTopLeft, {2, 500});
+        row("left edge below", one, {0, 1023}, kBottomLeft, {2, 959});
+        row("right edge", one, {1279, 0}, kTopRight, {1169, 0});
+        row("lower right corner", one, {1279, 1023}, kBottomRight, {1169, 959});
+
+        // On a second screen width and height count from the origin.
+        const QVector<QRect> right = {kFirst, {1280, 0, 1280, 1024}};
+        row("right screen", right, {1900, 500}, kTopRight, {1810, 500});
+        row("right screen, lower", right, {1900, 1000}, kBottomRight, {1810, 936});
+        row("right screen, its left edge", right, {1290, 500}, kTopRight, {1200, 500});
+        const QVector<QRect> below = {kFirst, {0, 1024, 1280, 1024}};
+        row("lower screen", below, {600, 1500}, kBottomLeft, {582, 1436});
+        const QVector<QRect> left = {kFirst, {-1280, 0, 1280, 1024}};
+        row("left screen", left, {-600, 500}, kTopLeft, {-618, 500});
+        row("left screen, its left edge", left, {-1280, 500}, kTopLeft, {-1278, 500});
+        row("left screen, its right edge", left, {-10, 500}, kTopLeft, {-28, 500});
+        const QVector<QRect> above = {kFirst, {0, -1024, 1280, 1024}};
+        row("upper screen", above, {600, -500}, kTopLeft, {582, -500});
+        row("upper screen, its lower edge", above, {600, -10}, kTopLeft, {582, -10});
+
+        // Where that would leave a part on no screen, they count from the screen's corner.
+        const QVector<QRect> lower = {kFirst, {1280, 600, 1280, 1024}};
+        row("inside the second", lower, {1900, 900}, kTopRight, {1810, 900});
+        row("left edge of the second", lower, {1285, 1100}, kTopLeft, {1282, 1100});
+        const QVector<QRect> lowerLeft = {kFirst, {-1280, 600, 1280, 1024}};
+        row("below the first, beside the second", lowerLeft, {-10, 1500}, kTopRight, {-111, 1500});
+        row("lower right of the left", lowerLeft, {-10, 1610}, kBottomRight, {-111, 1546});
+        const QVector<QRect> corner = {kFirst, {-800, -600, 800, 600}};
+        row("left of and above the first", corner, {-10, -10}, kBottomRight, {-111, -74});
+        const QVector<QRect> apart = {kFirst, {3000, 0, 1280, 1024}};
+        row("with a gap", apart, {3010, 100}, kTopLeft, {3002, 100});
+    }
+
+    void arrowStandsWhereTheBalloonHasRoom()
+    {
+        QFETCH(QVector<QRect>, screens);
+        QFETCH(QPoint, position);
+        QFETCH(ArrowCorner, corner);
+        QFETCH(QPoint, place);
+        const QSize contents(100, 40);
+        const ArrowCorner actual = arrowCorner(position, contents, screens);
+        QCOMPARE(actual.atTop, corner.atTop);
+        QCOMPARE(actual.atLeft, corner.atLeft);
+        const QMargins around = margins(corner);
+        QCOMPARE(around, corner.atTop ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
+        QCOMPARE(topLeft(position, contents.grownBy(around), corner,
+                         screens.at(screenAt(screens, position))),
+                 place);
+    }
+
+    void outlineTouchesAllSidesAndTheTip_data()
+    {
+        QTest::addColumn<ArrowCorner>("corner");
+        QTest::addColumn<QVector<QPointF>>("arrow");
+        QTest::addColumn<QRectF>("bubble");
+        using Points = QVector<QPointF>;
+        const QRectF low(0, 18, 99, 41);
+        const QRectF high(0, 0, 99, 41);
+        QTest::newRow("top left") << kTopLeft << Points{{18, 18}, {18, 0}, {36, 18}} << low;
+        QTest::newRow("top right") << kTopRight << Points{{63, 18}, {81, 0}, {81, 18}} << low;
+        QTest::newRow("bottom right")
+                << kBottomRight << Points{{81, 41}, {81, 59}, {63, 41}} << high;
+        QTest::newRow("bottom left") << kBottomLeft << Points{{36, 41}, {18, 59}, {18, 41}} << high;
+    }
+
+    void outlineTouchesAllSidesAndTheTip()
+    {
+        QFETCH(ArrowCorner, corner);
+        QFETCH(QVector<QPointF>, arrow);
+        QFETCH(QRectF, bubble);
+        const QSize size(100, 60);
+        QCOMPARE(outline(size, corner, true).boundingRect(), QRectF(0, 0, 99, 59));
+        QCOMPARE(outline(size, corner, false).boundingRect(), bubble);
+
+        const QPainterPath path = outline(size, corner, true);
+        QVector<QPointF> points;
+        for (int i = 0; i < path.elementCount(); ++i)
+            points.append(path.elementAt(i));
+        const auto first = std::find(points.cbegin(), points.cend(), arrow.first());
+        QVERIFY(first != points.cend());
+        const int at = int(first - points.cbegin());
+        QCOMPARE(points.mid(at, 3), arrow);
+        QCOMPARE(points.last(), points.first()); // closed
+    }
+
+    void thereIsRoomOnOneSideOfThePosition()
+    {
+        QCOMPARE(room({600, 500}, kFirst), QSize(695, 523));
+        QCOMPARE(room({1000, 900}, kFirst), QSize(1016, 900));
+        QCOMPARE(room({0, 0}, kFirst), QSize(1276, 1023));
+        QCOMPARE(room({-700, -100}, {-800, -600, 800, 600}), QSize(715, 500));
+        QCOMPARE(room({5000, 5000}, QRect()), QSize(0, 5000));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_BalloonGeometry)
+#include "tst_balloongeometry.moc"

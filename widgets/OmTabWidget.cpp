@@ -17,6 +17,7 @@ void exchangePages(QStackedWidget *stack, int first, int second)
 {
     QWidget *const firstPage = stack->widget(first);
     QWidget *const secondPage = stack->widget(second);
+    const QPointer<QWidget> focus(stack->window()->focusWidget());
     // A tab widget removes the tab of a page that its stack reports as removed.
     const QSignalBlocker blocker(stack);
     stack->removeWidget(firstPage);
@@ -29,6 +30,9 @@ void exchangePages(QStackedWidget *stack, int first, int second)
         stack->insertWidget(second, firstPage);
     }
     stack->setCurrentIndex(first);
+    const QWidget *const page = stack->currentWidget();
+    if (focus && (page == focus || page->isAncestorOf(focus)))
+        focus->setFocus();
 }
 
 } // namespace
@@ -117,7 +121,13 @@ void OmTabWidget::removeCurrentTab()
     if (isSpecial(page))
         return;
     const QPointer<OmTabWidget> guard(this);
-    removeTab(currentIndex());
+    {
+        // A tab bar does not survive that it is deleted in currentChanged() while it removes a tab.
+        const QSignalBlocker blocker(tabBar());
+        removeTab(currentIndex());
+    }
+    if (page)
+        Q_EMIT tabBar()->currentChanged(tabBar()->currentIndex());
     if (guard)
         Q_EMIT tabRemoved(page);
 }

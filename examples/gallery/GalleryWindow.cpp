@@ -40,7 +40,8 @@ QAction *addEntry(QMenu *menu, const QString &icon, const QString &text, const Q
 QFrame *separator(QFrame::Shape shape)
 {
     auto *line = new QFrame;
-    line->setFrameStyle(shape | QFrame::Plain);
+    line->setFrameShape(shape);
+    line->setFrameShadow(QFrame::Plain);
     QPalette palette = line->palette();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Mid));
     line->setPalette(palette);
@@ -131,7 +132,7 @@ void GalleryWindow::createFileMenu()
     menu->addSeparator();
     QAction *quit =
             addEntry(menu, QStringLiteral("exit-16"), tr("&Quit"), tr("Close every window"));
-    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
 }
 

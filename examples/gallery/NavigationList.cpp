@@ -40,11 +40,17 @@ public:
         }
         const auto group = isHeading ? QPalette::Disabled : QPalette::Active;
         painter->setPen(option.palette.color(group, QPalette::WindowText));
-        const int flags =
-                isHeading ? Qt::AlignLeft | Qt::AlignBottom : Qt::AlignLeft | Qt::AlignVCenter;
+        const int flags = static_cast<int>(Qt::AlignLeft)
+                          | static_cast<int>(isHeading ? Qt::AlignBottom : Qt::AlignVCenter);
         const int indent = isHeading ? kTextIndent - 6 : kTextIndent;
         painter->drawText(row.adjusted(indent, 0, -4, isHeading ? -6 : 0), flags,
                           index.data().toString());
+        const QStyle::State keyboardFocus =
+                QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+        if ((option.state & keyboardFocus) == keyboardFocus) {
+            painter->setPen(option.palette.color(QPalette::Active, QPalette::Highlight));
+            painter->drawRect(row.adjusted(0, 0, -1, -1));
+        }
         painter->restore();
     }
 

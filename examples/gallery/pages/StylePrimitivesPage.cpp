@@ -114,6 +114,7 @@ QWidget *StylePrimitivesPage::createCheckBoxCard()
             box->setTristate(checkState == Qt::PartiallyChecked);
             box->setCheckState(checkState);
             columns[column].pin(box);
+            box->setFixedSize(box->sizeHint() + QSize(2, 2)); // room for the hovered outline
             grid->addWidget(box, row, column + 1, Qt::AlignCenter);
         }
         ++row;
@@ -145,20 +146,27 @@ QWidget *StylePrimitivesPage::createBranchCard()
 
 QWidget *StylePrimitivesPage::createFrameCard()
 {
-    const std::pair<QString, int> frames[] = {
-            {tr("StyledPanel"), QFrame::StyledPanel | QFrame::Plain},
-            {tr("StyledPanel, sunken"), QFrame::StyledPanel | QFrame::Sunken},
-            {tr("StyledPanel, raised"), QFrame::StyledPanel | QFrame::Raised},
-            {tr("Box"), QFrame::Box | QFrame::Plain},
-            {tr("Panel, sunken"), QFrame::Panel | QFrame::Sunken},
-            {tr("Panel, raised"), QFrame::Panel | QFrame::Raised},
+    struct Sample
+    {
+        QString text;
+        QFrame::Shape shape;
+        QFrame::Shadow shadow;
+    };
+    const Sample samples[] = {
+            {tr("StyledPanel"), QFrame::StyledPanel, QFrame::Plain},
+            {tr("StyledPanel, sunken"), QFrame::StyledPanel, QFrame::Sunken},
+            {tr("StyledPanel, raised"), QFrame::StyledPanel, QFrame::Raised},
+            {tr("Box"), QFrame::Box, QFrame::Plain},
+            {tr("Panel, sunken"), QFrame::Panel, QFrame::Sunken},
+            {tr("Panel, raised"), QFrame::Panel, QFrame::Raised},
     };
     auto *grid = new QGridLayout;
     grid->setSpacing(10);
     int index = 0;
-    for (const auto &[text, style] : frames) {
+    for (const auto &[text, shape, shadow] : samples) {
         auto *frame = new QLabel(text);
-        frame->setFrameStyle(style);
+        frame->setFrameShape(shape);
+        frame->setFrameShadow(shadow);
         frame->setAlignment(Qt::AlignCenter);
         frame->setMinimumHeight(38);
         frame->setAutoFillBackground(true);

@@ -744,6 +744,11 @@ void tst_OmWindow::hostMayDeleteTheWindowFromItsCloseButton()
     };
     QPointer<OmWindow> window = new DeletesItself;
     window->show();
+    QTest::mouseClick(titleButton(*window, Close), Qt::LeftButton);
+    QVERIFY(!window);
+
+    window = new OmWindow;
+    window->show();
     connect(titleButton(*window, Minimize), &OmImageButton::clicked, window,
             [&window] { delete window; });
     QTest::mouseClick(titleButton(*window, Minimize), Qt::LeftButton);
@@ -754,6 +759,16 @@ void tst_OmWindow::hostMayDeleteTheWindowFromItsCloseButton()
     window->show();
     QTest::mouseClick(titleButton(*window, Close), Qt::LeftButton);
     QVERIFY(waitFor([&window] { return window.isNull(); }));
+
+    // An entry of the header menu, too.
+    window = new OmWindow;
+    window->show();
+    QMenu *menu = openMenu(*window, 5);
+    QVERIFY(menu);
+    QAction *opaque = menu->actions().constFirst()->menu()->actions().constFirst();
+    connect(opaque, &QAction::triggered, window, [&window] { delete window; });
+    opaque->trigger();
+    QVERIFY(!window);
 
     // Timers that are still running find the window gone.
     window = new OmWindow;

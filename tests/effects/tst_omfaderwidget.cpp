@@ -1,0 +1,228 @@
+#include "support/TestCase.h"
+
+#include <ombrin/OmFaderWidget.h>
+
+#include <QtCore/QPointer>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+
+#include <limits>
+
+using ombrin::OmFaderWidget;
+
+namespace {
+
+constexpr QRgb kGround = 0xff2040c0;
+constexpr QRgb kFade = 0xffd08030;
+
+using Fade = void (OmFaderWidget::*)();
+
+Fade fadeFunction(bool out)
+{
+    return out ? &OmFaderWidget::fadeOut : &OmFaderWidget::fadeIn;
+}
+
+// What one paint of \a fader leaves of the ground.
+QRgb paintOnce(OmFaderWidget *fader)
+{
+    QImage image(fader->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(kGround);
+    fader->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    const QRgb corner = image.pixel(image.width() - 1, image.height() - 1);
+    return image.pixel(0, 0) == corner ? corner : 0;
+}
+
+QRgb blended(int alpha)
+{
+    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+    image.fill(kGround);
+    QColor color = QColor::fromRgb(kFade);
+    color.setAlpha(alpha);
+    QPainter(&image).fillRect(image.rect(), color);
+    return image.pixel(0, 0);
+}
+
+} // namespace
+
+class tst_OmFaderWidget : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void coversItsParentInItsColour()
+    {
+        QWidget parent;
+        parent.resize(120, 70);
+        QPalette palette;
+        palette.setColor(QPalette::Window, QColor(189, 189, 189));
+        palette.setColor(QPalette::Disabled, QPalette::Window, Qt::red);
+        parent.setPalette(palette);
+        OmFaderWidget fader(&parent);
+        QCOMPARE(fader.geometry(), QRect(0, 0, 120, 70));
+        QVERIFY(!fader.isWindow() && !fader.isVisible());
+        QCOMPARE(fader.fadeColor(), QColor(189, 189, 189));
+        QCOMPARE(fader.fadeDuration(), 333);
+        parent.setEnabled(false);
+        QCOMPARE(OmFaderWidget(&parent).fadeColor(), QColor(Qt::red));
+        QCOMPARE(OmFaderWidget(nullptr).fadeColor(), QColor(Qt::white));
+
+        QVERIFY(fader.setProperty("fadeColor", QColor(Qt::black)));
+        QVERIFY(fader.setProperty("fadeDuration", 1000));
+        QCOMPARE(fader.fadeColor(), QColor(Qt::black));
+        QCOMPARE(fader.fadeDuration(), 1000);
+    }
+
+    void everyPaintMovesTheAlphaByOneStep_data()
+    {
+        QTest::addColumn<bool>("out");
+        QTest::addColumn<int>("duration");
+        QTest::addColumn<int>("step");
+        QTest::addColumn<int>("paints");
+
+        const struct
+        {
+            const char *name;
+            int duration;
+            int step;
+            int paints;
+        } rows[] = {
+                {"default", 333, 25, 11},
+                {"a second", 1000, 8, 32},
+                {"longest", 8415, 1, 255},
+                {"beyond the longest", 8416, 1, 255},
+                {"absurd", std::numeric_limits<int>::max(), 1, 255},
+                {"one millisecond", 1, 8415, 1},
+                {"zero", 0, 8415, 1},
+                {"negative", -333, 8415, 1},
+                {"most negative", std::numeric_limits<int>::min(), 8415, 1},
+        };
+        for (const auto &row : rows) {
+            for (const bool out : {false, true})
+                QTest::addRow("%s, %s", row.name, out ? "out" : "in")
+                        << out << row.duration << row.step << row.paints;
+        }
+    }
+
+    void everyPaintMovesTheAlphaByOneStep()
+    {
+        QFETCH(bool, out);
+        QFETCH(int, duration);
+        QFETCH(int, step);
+        QFETCH(int, paints);
+
+        QWidget parent;
+        parent.resize(20, 10);
+        QPointer<OmFaderWidget> fader = new OmFaderWidget(&parent);
+        QSignalSpy done(fader, &OmFaderWidget::done);
+        fader->setFadeColor(QColor::fromRgb(kFade));
+        fader->setFadeDuration(duration);
+        (fader->*fadeFunction(out))();
+        for (int paint = 0; paint < paints; ++paint) {
+            const int alpha = out ? paint * step : 255 - paint * step;
+            QCOMPARE(paintOnce(fader), blended(alpha));
+            QVERIFY(fader->isVisibleTo(&parent));
+        }
+        // What comes before the end is told already shows the end.
+        QCOMPARE(paintOnce(fader), blended(out ? 255 : 0));
+        QVERIFY(waitFor([&] { return fader.isNull(); }));
+        QCOMPARE(done, QList<QVariantList>{{out}});
+    }
+
+    void fadesByItselfAndIsGone_data()
+    {
+        QTest::addColumn<bool>("out");
+        QTest::newRow("in") << false;
+        QTest::newRow("out") << true;
+    }
+
+    void fadesByItselfAndIsGone()
+    {
+        QFETCH(bool, out);
+        QWidget parent;
+        parent.resize(60, 40);
+        parent.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&parent));
+        QPointer<OmFaderWidget> fader = new OmFaderWidget(&parent);
+        bool visibleAtTheEnd = true;
+        int ends = 0;
+        connect(fader, &OmFaderWidget::done, &parent, [&](bool fadeOut) {
+            QCOMPARE(fadeOut, out);
+            visibleAtTheEnd = fader->isVisible();
+            ++ends;
+        });
+        (fader->*fadeFunction(out))();
+        QVERIFY(fader->isVisible());
+        QVERIFY(waitFor([&] { return fader.isNull(); }));
+        QCOMPARE(ends, 1);
+        QVERIFY(!visibleAtTheEnd);
+    }
+
+    void startingAgainBeginsAtThatDirectionsEnd()
+    {
+        QWidget parent;
+        QPointer<OmFaderWidget> fader = new OmFaderWidget(&parent);
+        QSignalSpy done(fader, &OmFaderWidget::done);
+        fader->setFadeColor(QColor::fromRgb(kFade));
+        fader->fadeOut();
+        for (int paint = 0; paint < 4; ++paint)
+            paintOnce(fader);
+        fader->fadeIn();
+        QCOMPARE(paintOnce(fader), blended(255));
+        for (int paint = 1; paint < 11; ++paint)
+            paintOnce(fader);
+        // Also between the last paint and its report.
+        fader->fadeOut();
+        QCOMPARE(paintOnce(fader), blended(0));
+        QCoreApplication::processEvents();
+        QVERIFY(fader && done.isEmpty());
+        for (int paint = 1; paint < 11; ++paint)
+            paintOnce(fader);
+        QVERIFY(waitFor([&] { return fader.isNull(); }));
+        QCOMPARE(done, QList<QVariantList>{{true}});
+    }
+
+    void paintsNothingBeforeItIsStarted()
+    {
+        QWidget parent;
+        OmFaderWidget fader(&parent);
+        for (int paint = 0; paint < 20; ++paint)
+            QCOMPARE(paintOnce(&fader), kGround);
+    }
+
+    void hostMayDeleteFaderOrParentAtTheEnd_data()
+    {
+        QTest::addColumn<bool>("deleteParent");
+        QTest::newRow("fader") << false;
+        QTest::newRow("parent") << true;
+    }
+
+    void hostMayDeleteFaderOrParentAtTheEnd()
+    {
+        QFETCH(bool, deleteParent);
+        QPointer<QWidget> parent = new QWidget;
+        QPointer<OmFaderWidget> fader = new OmFaderWidget(parent);
+        fader->setFadeDuration(66);
+        connect(fader, &OmFaderWidget::done, qApp, [&] {
+            if (deleteParent)
+                delete parent;
+            else
+                delete fader;
+        });
+        parent->show();
+        fader->fadeOut();
+        QVERIFY(waitFor([&] { return fader.isNull(); }));
+        QCOMPARE(parent.isNull(), deleteParent);
+        delete parent;
+    }
+
+    void windowWithoutParentFades()
+    {
+        QPointer<OmFaderWidget> fader = new OmFaderWidget(nullptr);
+        fader->setFadeDuration(66);
+        fader->fadeIn();
+        QVERIFY(waitFor([&] { return fader.isNull(); }));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmFaderWidget)
+#include "tst_omfaderwidget.moc"

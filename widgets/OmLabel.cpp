@@ -14,9 +14,10 @@ namespace {
 
 constexpr ushort kEllipsis = 0x2026;
 
-int advance(const QLabel *label, const QString &text)
+// As QLabel measures it.
+int widthOf(const QLabel *label, const QString &text)
 {
-    return label->fontMetrics().horizontalAdvance(text);
+    return label->fontMetrics().size(Qt::TextExpandTabs, text).width();
 }
 
 } // namespace
@@ -37,6 +38,7 @@ OmLabel::~OmLabel() = default;
 void OmLabel::enableElide(bool enable)
 {
     m_elide = enable;
+    m_rightWidths = {};
 }
 
 bool OmLabel::isElided() const
@@ -47,6 +49,7 @@ bool OmLabel::isElided() const
 void OmLabel::setElideMode(Qt::TextElideMode mode)
 {
     m_elideMode = mode;
+    m_rightWidths = {};
 }
 
 Qt::TextElideMode OmLabel::elideMode() const
@@ -80,7 +83,7 @@ QSize OmLabel::sizeHint() const
 {
     QSize hint = QLabel::sizeHint();
     if (m_elide && m_shownText != m_text && showsOwnText())
-        hint.rwidth() += std::max(0, textWidth() - advance(this, m_shownText));
+        hint.rwidth() += std::max(0, textWidth() - widthOf(this, m_shownText));
     return hint;
 }
 
@@ -89,7 +92,7 @@ QSize OmLabel::minimumSizeHint() const
     QSize hint = QLabel::minimumSizeHint();
     if (m_elide && showsOwnText())
         hint.rwidth() -=
-                std::max(0, advance(this, m_shownText) - advance(this, QString(QChar(kEllipsis))));
+                std::max(0, widthOf(this, m_shownText) - widthOf(this, QString(QChar(kEllipsis))));
     return hint;
 }
 
@@ -128,26 +131,46 @@ void OmLabel::changeEvent(QEvent *event)
     if (event->type() != QEvent::FontChange)
         return;
     m_textWidth = -1;
+    m_rightWidths = {};
     showElidedAgain();
 }
 
 void OmLabel::showText()
 {
-    m_shownText = m_elide ? elidedText(fontMetrics(), m_text, m_elideMode, width()) : m_text;
+    m_rightWidths = {};
+    if (m_elide)
+        elideToWidth();
+    else
+        m_shownText = m_text;
     QLabel::setText(m_shownText);
 }
 
 void OmLabel::showElidedAgain()
 {
-    if (m_elide && showsOwnText())
-        showText();
+    if (!m_elide || m_rightWidths.contains(width()) || !showsOwnText())
+        return;
+    elideToWidth();
+    QLabel::setText(m_shownText);
+}
+
+// What is right at two widths is right at all widths between them, and what fits once fits into
+// every greater width.
+void OmLabel::elideToWidth()
+{
+    const QString elided = elidedText(fontMetrics(), m_text, m_elideMode, width());
+    if (elided != m_shownText)
+        m_rightWidths = {};
+    m_shownText = elided;
+    m_rightWidths.include(width());
+    if (elided == m_text)
+        m_rightWidths.include(QWIDGETSIZE_MAX);
 }
 
 // Remembered, as a layout asks anew after each change of the text that is shown.
 int OmLabel::textWidth() const
 {
     if (m_textWidth < 0)
-        m_textWidth = std::min(advance(this, m_text), QWIDGETSIZE_MAX);
+        m_textWidth = std::min(widthOf(this, m_text), QWIDGETSIZE_MAX);
     return m_textWidth;
 }
 

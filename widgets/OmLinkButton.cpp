@@ -88,7 +88,9 @@ void OmLinkButton::paintEvent(QPaintEvent *)
     painter.save();
     painter.setPen(palette().color(QPalette::Link));
     QRect drawn;
-    painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter, shown, &drawn);
+    painter.drawText(textRect,
+                     QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter),
+                     shown, &drawn);
     const int underline = drawn.bottom() + 1 - metrics.descent();
     painter.drawLine(drawn.left(), underline, drawn.right(), underline);
     if (isCheckable())

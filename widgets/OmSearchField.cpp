@@ -90,7 +90,9 @@ void OmSearchField::paintEvent(QPaintEvent *event)
     const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this)
                                    .adjusted(kTextMargin, 0, -kTextMargin, 0);
     painter.setClipRect(contents, Qt::ReplaceClip);
-    painter.drawItemText(contents, Qt::AlignLeft | Qt::AlignVCenter, option.palette, false,
+    const Qt::Alignment alignment =
+            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+    painter.drawItemText(contents, static_cast<int>(alignment), option.palette, false,
                          m_defaultText, QPalette::Mid);
 }
 

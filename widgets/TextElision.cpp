@@ -8,7 +8,6 @@ namespace ombrin {
 
 namespace {
 
-constexpr int kFirstExtract = 256;
 constexpr int kGrowth = 4;
 // So many characters at a cut may look different from how they look in the whole text.
 constexpr int kCutMargin = 32;
@@ -30,8 +29,12 @@ int textLength(const QString &text)
 }
 
 // The part of the text that can be left after elision: \a count characters at each end that stays.
+// The whole text if it is not longer than that.
 QString extract(const QString &text, Qt::TextElideMode mode, int count)
 {
+    const int needed = mode == Qt::ElideMiddle ? 2 * count : count;
+    if (needed >= textLength(text))
+        return text;
     switch (mode) {
     case Qt::ElideLeft:
         return text.right(count);
@@ -42,19 +45,26 @@ QString extract(const QString &text, Qt::TextElideMode mode, int count)
     }
 }
 
+// About twice as many characters as have room.
+int firstExtract(const QFontMetrics &metrics, int width)
+{
+    return 2 * (std::max(width, 0) / std::max(metrics.averageCharWidth(), 1) + kCutMargin);
+}
+
 } // namespace
 
 QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode,
                    int width)
 {
     if (mode == Qt::ElideNone)
-        return text;
-    if (textLength(text) > 2 * kFirstExtract && !needsWholeText(text)) {
-        for (int count = kFirstExtract; count < textLength(text) / 2; count *= kGrowth) {
-            const QString elided = metrics.elidedText(extract(text, mode, count), mode, width);
-            if (textLength(elided) < count - kCutMargin)
-                return elided;
-        }
+        return metrics.elidedText(text, mode, width);
+    for (int count = firstExtract(metrics, width); count < textLength(text); count *= kGrowth) {
+        const QString part = extract(text, mode, count);
+        if (textLength(part) == textLength(text) || needsWholeText(text))
+            break;
+        const QString elided = metrics.elidedText(part, mode, width);
+        if (textLength(elided) < count - kCutMargin)
+            return elided;
     }
     return metrics.elidedText(text, mode, width);
 }

@@ -80,8 +80,23 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    // Empty until the first width is included.
+    struct WidthRange
+    {
+        bool contains(int width) const { return width >= first && width <= last; }
+        void include(int width)
+        {
+            first = last < first ? width : qMin(first, width);
+            last = qMax(last, width);
+        }
+
+        int first = 0;
+        int last = -1;
+    };
+
     void showText();
     void showElidedAgain();
+    void elideToWidth();
     bool showsOwnText() const;
     int textWidth() const;
     bool reportHover(bool hover);
@@ -92,6 +107,8 @@ private:
     QString m_text;
     // What of it QLabel was last told to show.
     QString m_shownText;
+    // Widths at which this is what is to be shown.
+    WidthRange m_rightWidths;
     mutable int m_textWidth = -1;
 };
 

@@ -1,0 +1,288 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmLinkButton.h>
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleOption>
+
+#include <memory>
+
+using ombrin::OmLinkButton;
+using namespace ombrin::test;
+
+namespace {
+
+constexpr QRgb kLink = 0xff009cff;
+const QString kText = QStringLiteral("Show details");
+
+// Notes the arrows and focus frames that a button asks for, and draws none of them.
+class NotingStyle : public QProxyStyle
+{
+public:
+    NotingStyle()
+        : QProxyStyle(QStringLiteral("fusion"))
+    {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
+                       const QWidget *) const override
+    {
+        drawn.append({element, option->rect});
+    }
+
+    mutable QVector<QPair<PrimitiveElement, QRect>> drawn;
+};
+
+struct Button : OmLinkButton
+{
+    explicit Button(const QString &text = kText)
+        : OmLinkButton(text, nullptr)
+    {
+        setStyle(&style);
+        QPalette colors = palette();
+        colors.setColor(QPalette::Link, QColor::fromRgb(kLink));
+        colors.setColor(QPalette::Disabled, QPalette::Link, Qt::gray);
+        setPalette(colors);
+        resize(200, 30);
+    }
+    ~Button() override { setStyle(nullptr); }
+
+    QImage paint()
+    {
+        style.drawn.clear();
+        return paintedOnNothing(this);
+    }
+
+    NotingStyle style;
+};
+
+// The text and its underline, put down by the rules; returns where the text lies.
+QRect drawExpected(QImage *image, const OmLinkButton &button, const QString &text,
+                   const QColor &color)
+{
+    QPainter painter(image);
+    painter.setFont(button.font());
+    painter.setPen(color);
+    const bool isMirrored = button.layoutDirection() == Qt::RightToLeft;
+    QRect bounds;
+    painter.drawText(QRect(2, 0, button.width() - 4, button.height()),
+                     (isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, text,
+                     &bounds);
+    const int y = bounds.bottom() + 1 - button.fontMetrics().descent();
+    painter.fillRect(bounds.left(), y, bounds.width(), 1, color);
+    return bounds;
+}
+
+QImage blank(const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+} // namespace
+
+class tst_OmLinkButton : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsAsALink();
+    void sizeHintLeavesRoomForMarginsAndArrow();
+    void drawsUnderlinedText_data();
+    void drawsUnderlinedText();
+    void elidesAsToldTo();
+    void arrowFollowsTheText_data();
+    void arrowFollowsTheText();
+    void focusIsVisible();
+    void absurdTextsPaint_data();
+    void absurdTextsPaint();
+    void screenReadersSeeALinkOrAnExpander();
+    void mayBeDeletedInItsSlot();
+};
+
+void tst_OmLinkButton::startsAsALink()
+{
+    const OmLinkButton plain;
+    const Button named;
+    for (const OmLinkButton *button : {&plain, static_cast<const OmLinkButton *>(&named)}) {
+        QCOMPARE(button->textElideMode(), Qt::ElideNone);
+        QCOMPARE(button->cursor().shape(), Qt::PointingHandCursor);
+        QCOMPARE(button->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed));
+    }
+    QVERIFY(plain.text().isEmpty());
+    QCOMPARE(named.text(), kText);
+}
+
+void tst_OmLinkButton::sizeHintLeavesRoomForMarginsAndArrow()
+{
+    Button button;
+    const QFontMetrics metrics = button.fontMetrics();
+    const QRect bounds = metrics.boundingRect(kText);
+    QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4, bounds.height()));
+    button.setCheckable(true);
+    QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4 + metrics.height(), bounds.height()));
+    button.setText(QString());
+    QCOMPARE(button.sizeHint().width(), 4 + metrics.height());
+}
+
+void tst_OmLinkButton::drawsUnderlinedText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("plain") << kText << true << Qt::LeftToRight;
+    QTest::newRow("disabled") << kText << false << Qt::LeftToRight;
+    QTest::newRow("ampersand") << QStringLiteral("You && &me") << true << Qt::LeftToRight;
+    QTest::newRow("right-to-left")
+            << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd") << true << Qt::RightToLeft;
+}
+
+void tst_OmLinkButton::drawsUnderlinedText()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, enabled);
+    QFETCH(Qt::LayoutDirection, direction);
+    Button button(text);
+    button.setEnabled(enabled);
+    button.setLayoutDirection(direction);
+    QImage expected = blank(button.size());
+    drawExpected(&expected, button, text, enabled ? QColor::fromRgb(kLink) : QColor(Qt::gray));
+    QCOMPARE(button.paint(), expected);
+    QVERIFY(button.style.drawn.isEmpty());
+}
+
+void tst_OmLinkButton::elidesAsToldTo()
+{
+    Button button;
+    button.resize(60, 30);
+    QImage whole = blank(button.size());
+    drawExpected(&whole, button, kText, QColor::fromRgb(kLink));
+    QCOMPARE(button.paint(), whole);
+    for (const auto mode : {Qt::ElideLeft, Qt::ElideMiddle, Qt::ElideRight}) {
+        button.setTextElideMode(mode);
+        QCOMPARE(button.textElideMode(), mode);
+        QImage expected = blank(button.size());
+        const QString shown = button.fontMetrics().elidedText(kText, mode, 56);
+        QVERIFY(shown != kText);
+        drawExpected(&expected, button, shown, QColor::fromRgb(kLink));
+        QCOMPARE(button.paint(), expected);
+    }
+}
+
+void tst_OmLinkButton::arrowFollowsTheText_data()
+{
+    QTest::addColumn<bool>("checked");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<int>("arrow");
+    QTest::newRow("folded") << false << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowRight);
+    QTest::newRow("unfolded") << true << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowDown);
+    QTest::newRow("folded, right-to-left")
+            << false << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowLeft);
+    QTest::newRow("unfolded, right-to-left")
+            << true << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowDown);
+}
+
+void tst_OmLinkButton::arrowFollowsTheText()
+{
+    QFETCH(bool, checked);
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(int, arrow);
+    Button button;
+    button.setLayoutDirection(direction);
+    button.setCheckable(true);
+    button.setChecked(checked);
+    button.resize(button.sizeHint());
+    QImage image = blank(button.size());
+    const QRect text = drawExpected(&image, button, kText, Qt::black);
+    button.paint();
+    QCOMPARE(button.style.drawn.size(), 1);
+    QCOMPARE(int(button.style.drawn.first().first), arrow);
+    const int extent = button.fontMetrics().height();
+    const int left = direction == Qt::LeftToRight ? text.right() : text.left() - extent + 1;
+    const QRect place = button.style.drawn.first().second;
+    QCOMPARE(place, QRect(left, text.top(), extent, text.height()));
+    QVERIFY(button.rect().adjusted(0, -20, 0, 20).contains(place));
+}
+
+void tst_OmLinkButton::focusIsVisible()
+{
+    Button button;
+    button.show();
+    button.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&button));
+    button.clearFocus();
+    button.paint();
+    QVERIFY(button.style.drawn.isEmpty());
+    QTest::keyClick(&button, Qt::Key_Tab);
+    button.setFocus(Qt::TabFocusReason);
+    QVERIFY(button.hasFocus());
+    button.paint();
+    QCOMPARE(button.style.drawn.size(), 1);
+    QCOMPARE(button.style.drawn.first().first, QStyle::PE_FrameFocusRect);
+    QCOMPARE(button.style.drawn.first().second, button.rect());
+
+    QSignalSpy spy(&button, &QAbstractButton::clicked);
+    QTest::keyClick(&button, Qt::Key_Space);
+    QCOMPARE(spy.size(), 1);
+}
+
+void tst_OmLinkButton::absurdTextsPaint_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("long") << QString(100000, QLatin1Char('x'));
+    QTest::newRow("marks") << QString(100000, QChar(0x0301));
+    QTest::newRow("lines") << QString(1000, QLatin1Char('\n'));
+    QTest::newRow("empty") << QString();
+}
+
+void tst_OmLinkButton::absurdTextsPaint()
+{
+    QFETCH(QString, text);
+    Button button(text);
+    button.setCheckable(true);
+    for (const auto mode : {Qt::ElideNone, Qt::ElideMiddle}) {
+        button.setTextElideMode(mode);
+        QVERIFY(button.sizeHint().isValid());
+        for (const QSize &size : {QSize(200, 30), QSize(1, 1), QSize(0, 0)}) {
+            button.resize(size);
+            button.grab();
+            QCOMPARE(button.size(), size);
+        }
+    }
+}
+
+void tst_OmLinkButton::screenReadersSeeALinkOrAnExpander()
+{
+    Button button;
+    QCOMPARE(accessible(&button)->role(), QAccessible::Link);
+    QCOMPARE(accessibleName(&button), kText);
+    QVERIFY(accessible(&button)->state().linked && accessible(&button)->state().focusable);
+    QVERIFY(!accessible(&button)->state().expandable);
+    QSignalSpy spy(&button, &QAbstractButton::clicked);
+    pressAccessibly(&button);
+    QCOMPARE(spy.size(), 1);
+
+    button.setCheckable(true);
+    QCOMPARE(accessible(&button)->role(), QAccessible::Button);
+    QVERIFY(accessible(&button)->state().expandable && accessible(&button)->state().collapsed);
+    pressAccessibly(&button);
+    QVERIFY(accessible(&button)->state().checked && accessible(&button)->state().expanded);
+    QVERIFY(!accessible(&button)->state().collapsed);
+    button.setDown(true);
+    QVERIFY(accessible(&button)->state().pressed);
+    button.setShortcut(QKeySequence(Qt::Key_F7));
+    QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("F7"));
+}
+
+void tst_OmLinkButton::mayBeDeletedInItsSlot()
+{
+    auto button = std::make_unique<Button>();
+    connect(button.get(), &QAbstractButton::pressed, this, [&button] { button.reset(); });
+    pressAccessibly(button.get());
+    QVERIFY(!button);
+}
+
+OMBRIN_TEST_MAIN(tst_OmLinkButton)
+#include "tst_omlinkbutton.moc"

@@ -1,0 +1,376 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmSearchField.h>
+#include <ombrin/OmStyle2.h>
+
+#include <QtCore/QResource>
+#include <QtGui/QInputMethodEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QCompleter>
+#include <QtWidgets/QStyleFactory>
+
+using ombrin::OmSearchField;
+using namespace ombrin::test;
+
+namespace {
+
+constexpr QSize kSize(200, 24);
+// What lies between frame, icons and the line edit's own margin.
+constexpr QRect kTextRect(21, 1, 158, 22);
+const QString kDefaultText = QStringLiteral("Search contacts");
+
+QImage picture(QWidget *field)
+{
+    QImage image(field->size(), QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    field->render(&image);
+    return image;
+}
+
+// The same line edit without what the search field adds.
+struct BareField : OmSearchField
+{
+    using OmSearchField::OmSearchField;
+    void paintEvent(QPaintEvent *event) override { QLineEdit::paintEvent(event); }
+};
+
+template <typename Field>
+struct Shown
+{
+    Shown()
+    {
+        window.resize(300, 100);
+        field.setGeometry(QRect(QPoint(0, 0), kSize));
+        other.setGeometry(0, 50, 100, 24);
+        other.setFocus();
+        window.show();
+        window.activateWindow();
+    }
+    bool isReady() { return QTest::qWaitForWindowActive(&window); }
+
+    QWidget window;
+    Field field{&window};
+    QLineEdit other{&window};
+};
+
+void drawIcon(QImage *image, const char *name, int left)
+{
+    const QPixmap icon(QStringLiteral(":/") + QLatin1String(name));
+    QVERIFY(!icon.isNull());
+    QPainter(image).drawPixmap(left, 5, icon);
+}
+
+void drawDefaultText(QImage *image, const QWidget &field, Qt::Alignment alignment)
+{
+    QPainter painter(image);
+    painter.setFont(field.font());
+    painter.setPen(field.palette().color(QPalette::Mid));
+    painter.setClipRect(kTextRect);
+    painter.drawText(kTextRect, static_cast<int>(alignment | Qt::AlignVCenter), kDefaultText);
+}
+
+} // namespace
+
+class tst_OmSearchField : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void startsAsAnEmptySearchBox();
+    void leavesRoomForTheIcons_data();
+    void leavesRoomForTheIcons();
+    void drawsTheIconsOfItsState_data();
+    void drawsTheIconsOfItsState();
+    void drawsTheDefaultTextWhileEmptyAndWithoutFocus();
+    void settingTheDefaultTextDoesNotRepaint();
+    void pressInTheStripErases_data();
+    void pressInTheStripErases();
+    void eraseIconGoesAtOnce();
+    void readOnlyFieldIsNotErased();
+    void cursorTellsWhereItErases();
+    void completesWhatIsTyped();
+    void composedTextHidesTheDefaultText();
+    void absurdTextsAndSizesPaint();
+    void screenReadersHearTheDefaultTextAsName();
+};
+
+void tst_OmSearchField::initTestCase()
+{
+    QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
+                                        + QStringLiteral("/skins/ombrin.res")));
+}
+
+void tst_OmSearchField::startsAsAnEmptySearchBox()
+{
+    const OmSearchField field;
+    QCOMPARE(field.property("class").toString(), QStringLiteral("OmSearchField"));
+    QCOMPARE(field.styleSheet(),
+             QStringLiteral(".OmSearchField { padding-left: 18px; padding-right: 18px}"));
+    QVERIFY(field.hasMouseTracking());
+    QVERIFY(field.defaultText().isEmpty() && field.text().isEmpty());
+}
+
+void tst_OmSearchField::leavesRoomForTheIcons_data()
+{
+    QTest::addColumn<bool>("ownStyle");
+    QTest::newRow("under the application's style") << true;
+    QTest::newRow("under another style") << false;
+}
+
+void tst_OmSearchField::leavesRoomForTheIcons()
+{
+    QFETCH(bool, ownStyle);
+    if (ownStyle)
+        QApplication::setStyle(new ombrin::OmStyle2);
+    {
+        BareField bare;
+        bare.resize(kSize);
+        const QImage empty = picture(&bare);
+        bare.setText(QString(100, QLatin1Char('W')));
+        const QImage full = picture(&bare);
+        for (const QRect &side : {QRect(0, 0, 19, 24), QRect(181, 0, 19, 24)})
+            QCOMPARE(full.copy(side), empty.copy(side));
+        QVERIFY(full.copy(kTextRect) != empty.copy(kTextRect));
+    }
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+}
+
+void tst_OmSearchField::drawsTheIconsOfItsState_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("readOnly");
+    QTest::addColumn<bool>("mirrored");
+    QTest::addColumn<int>("searchLeft");
+    QTest::addColumn<int>("eraseLeft"); // -1: not there
+    QTest::newRow("empty") << "" << false << false << 3 << -1;
+    QTest::newRow("text") << "Ada" << false << false << 3 << 183;
+    QTest::newRow("right-to-left") << "Ada" << false << true << 183 << 3;
+    QTest::newRow("right-to-left, empty") << "" << false << true << 183 << -1;
+    QTest::newRow("read-only") << "Ada" << true << false << 3 << -1;
+}
+
+void tst_OmSearchField::drawsTheIconsOfItsState()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, readOnly);
+    QFETCH(bool, mirrored);
+    QFETCH(int, searchLeft);
+    QFETCH(int, eraseLeft);
+    OmSearchField field;
+    BareField bare;
+    for (OmSearchField *each : {&field, static_cast<OmSearchField *>(&bare)}) {
+        each->resize(kSize);
+        each->setText(text);
+        each->setReadOnly(readOnly);
+        each->setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    }
+    QImage expected = picture(&bare);
+    drawIcon(&expected, "search-14", searchLeft);
+    if (eraseLeft >= 0)
+        drawIcon(&expected, "erase-left-14", eraseLeft);
+    QCOMPARE(picture(&field), expected);
+}
+
+void tst_OmSearchField::drawsTheDefaultTextWhileEmptyAndWithoutFocus()
+{
+    Shown<OmSearchField> test;
+    Shown<BareField> bare;
+    QVERIFY(test.isReady());
+    const auto expectedPicture = [&](bool withText) {
+        bare.field.setText(test.field.text());
+        bare.field.setLayoutDirection(test.field.layoutDirection());
+        QImage image = picture(&bare.field);
+        const bool isMirrored = test.field.layoutDirection() == Qt::RightToLeft;
+        drawIcon(&image, "search-14", isMirrored ? 183 : 3);
+        if (withText)
+            drawDefaultText(&image, test.field, isMirrored ? Qt::AlignRight : Qt::AlignLeft);
+        return image;
+    };
+    test.field.setDefaultText(kDefaultText);
+    QCOMPARE(test.field.defaultText(), kDefaultText);
+    QCOMPARE(picture(&test.field), expectedPicture(true));
+    test.field.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(picture(&test.field), expectedPicture(true));
+    test.field.setLayoutDirection(Qt::LeftToRight);
+    test.field.setDefaultText(QString());
+    QCOMPARE(picture(&test.field), expectedPicture(false));
+
+    test.field.setDefaultText(kDefaultText);
+    test.field.setFocus();
+    QVERIFY(test.field.hasFocus());
+    const QImage focused = picture(&test.field);
+    test.field.setDefaultText(QString());
+    QCOMPARE(picture(&test.field), focused);
+    test.field.setText(QStringLiteral("Ada"));
+    test.other.setFocus();
+    const QImage filled = picture(&test.field);
+    test.field.setDefaultText(kDefaultText);
+    QCOMPARE(picture(&test.field), filled);
+}
+
+void tst_OmSearchField::settingTheDefaultTextDoesNotRepaint()
+{
+    struct CountingField : OmSearchField
+    {
+        using OmSearchField::OmSearchField;
+        void paintEvent(QPaintEvent *event) override
+        {
+            ++paints;
+            OmSearchField::paintEvent(event);
+        }
+        int paints = 0;
+    };
+    Shown<CountingField> test;
+    QVERIFY(test.isReady());
+    QTRY_VERIFY(test.field.paints > 0);
+    QCoreApplication::processEvents();
+    const int before = test.field.paints;
+    test.field.setDefaultText(kDefaultText);
+    QCoreApplication::processEvents();
+    QCOMPARE(test.field.paints, before);
+}
+
+void tst_OmSearchField::pressInTheStripErases_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::addColumn<bool>("mirrored");
+    QTest::addColumn<bool>("erases");
+    QTest::newRow("right edge") << 199 << false << true;
+    QTest::newRow("inner edge") << 183 << false << true;
+    QTest::newRow("text") << 182 << false << false;
+    QTest::newRow("magnifier") << 5 << false << false;
+    QTest::newRow("right-to-left, left edge") << 0 << true << true;
+    QTest::newRow("right-to-left, inner edge") << 16 << true << true;
+    QTest::newRow("right-to-left, text") << 17 << true << false;
+    QTest::newRow("right-to-left, magnifier") << 190 << true << false;
+}
+
+void tst_OmSearchField::pressInTheStripErases()
+{
+    QFETCH(int, x);
+    QFETCH(bool, mirrored);
+    QFETCH(bool, erases);
+    OmSearchField field;
+    field.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    field.resize(kSize);
+    QSignalSpy spy(&field, &QLineEdit::textChanged);
+    for (const auto button : {Qt::LeftButton, Qt::MiddleButton}) {
+        field.setText(QStringLiteral("Ada"));
+        spy.clear();
+        QTest::mousePress(&field, button, Qt::NoModifier, QPoint(x, 23));
+        QCOMPARE(field.text(), erases ? QString() : QStringLiteral("Ada"));
+        QCOMPARE(spy.size(), erases ? 1 : 0);
+        QTest::mouseRelease(&field, button, Qt::NoModifier, QPoint(x, 23));
+    }
+}
+
+void tst_OmSearchField::eraseIconGoesAtOnce()
+{
+    Shown<OmSearchField> test;
+    QVERIFY(test.isReady());
+    const QImage empty = picture(&test.field);
+    test.field.setText(QStringLiteral("Ada"));
+    QVERIFY(picture(&test.field).copy(180, 0, 20, 24) != empty.copy(180, 0, 20, 24));
+    QTest::mouseClick(test.window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
+    QCOMPARE(test.field.text(), QString());
+    QVERIFY(test.field.hasFocus());
+    test.other.setFocus();
+    QCOMPARE(picture(&test.field), empty);
+}
+
+void tst_OmSearchField::readOnlyFieldIsNotErased()
+{
+    OmSearchField field;
+    field.resize(kSize);
+    field.setText(QStringLiteral("Ada"));
+    field.setReadOnly(true);
+    QTest::mouseClick(&field, Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
+    QCOMPARE(field.text(), QStringLiteral("Ada"));
+}
+
+void tst_OmSearchField::cursorTellsWhereItErases()
+{
+    OmSearchField field;
+    field.resize(kSize);
+    const auto cursorAt = [&field](int x) {
+        QMouseEvent event(QEvent::MouseMove, QPoint(x, 10), field.mapToGlobal(QPoint(x, 10)),
+                          Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field, &event);
+        return field.cursor().shape();
+    };
+    QCOMPARE(cursorAt(190), Qt::ArrowCursor);
+    QCOMPARE(cursorAt(182), Qt::IBeamCursor);
+    QCOMPARE(cursorAt(183), Qt::ArrowCursor);
+    QCOMPARE(cursorAt(0), Qt::IBeamCursor);
+    field.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(cursorAt(0), Qt::ArrowCursor);
+    QCOMPARE(cursorAt(190), Qt::IBeamCursor);
+}
+
+void tst_OmSearchField::completesWhatIsTyped()
+{
+    Shown<OmSearchField> test;
+    QVERIFY(test.isReady());
+    QCompleter completer({QStringLiteral("Ada"), QStringLiteral("Max")});
+    completer.setCompletionMode(QCompleter::InlineCompletion);
+    test.field.setCompleter(&completer);
+    test.field.setFocus();
+    QTest::keyClicks(&test.field, QStringLiteral("A"));
+    QCOMPARE(test.field.text(), QStringLiteral("Ada"));
+    QTest::mouseClick(test.window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
+    QCOMPARE(test.field.text(), QString());
+    QTest::keyClicks(&test.field, QStringLiteral("M"));
+    QCOMPARE(test.field.text(), QStringLiteral("Max"));
+}
+
+void tst_OmSearchField::composedTextHidesTheDefaultText()
+{
+    Shown<OmSearchField> test;
+    QVERIFY(test.isReady());
+    test.field.setFocus();
+    QInputMethodEvent composing(QStringLiteral("ni"), {});
+    QCoreApplication::sendEvent(&test.field, &composing);
+    const QImage withoutDefault = picture(&test.field);
+    test.field.setDefaultText(kDefaultText);
+    QCOMPARE(picture(&test.field), withoutDefault);
+    QInputMethodEvent committing;
+    committing.setCommitString(QStringLiteral("\u4f60"));
+    QCoreApplication::sendEvent(&test.field, &committing);
+    QCOMPARE(test.field.text(), QStringLiteral("\u4f60"));
+    QTest::mouseClick(&test.field, Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
+    QCOMPARE(test.field.text(), QString());
+}
+
+void tst_OmSearchField::absurdTextsAndSizesPaint()
+{
+    OmSearchField field;
+    for (const QChar character : {QChar(u'x'), QChar(0x0301), QChar(0x05d0), QChar(u'\n')}) {
+        field.setDefaultText(QString(100000, character));
+        for (const QSize &size : {kSize, QSize(10, 3), QSize(1, 1)}) {
+            field.clear();
+            field.resize(size);
+            field.grab();
+            field.setText(field.defaultText());
+            field.grab();
+            QCOMPARE(field.text().size(), 32767);
+        }
+    }
+}
+
+void tst_OmSearchField::screenReadersHearTheDefaultTextAsName()
+{
+    OmSearchField field;
+    QCOMPARE(accessible(&field)->role(), QAccessible::EditableText);
+    field.setDefaultText(kDefaultText);
+    QCOMPARE(accessibleName(&field), kDefaultText);
+    field.setDefaultText(QStringLiteral("Search"));
+    QCOMPARE(accessibleName(&field), QStringLiteral("Search"));
+    field.setAccessibleName(QStringLiteral("Contact"));
+    field.setDefaultText(kDefaultText);
+    QCOMPARE(accessibleName(&field), QStringLiteral("Contact"));
+}
+
+OMBRIN_TEST_MAIN(tst_OmSearchField)
+#include "tst_omsearchfield.moc"

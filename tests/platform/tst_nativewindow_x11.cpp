@@ -1,6 +1,8 @@
 #include "platform/NativeHandle.h"
 #include "support/TestCase.h"
 
+#include <ombrin/OmDesktop.h>
+
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtGui/QWindow>
@@ -8,6 +10,7 @@
 
 namespace NativeWindow = ombrin::NativeWindow;
 using NativeWindow::Handle;
+using ombrin::OmDesktop;
 
 namespace {
 
@@ -216,6 +219,7 @@ private Q_SLOTS:
     void flashFromATimerIsSeenAtOnce()
     {
         Window window;
+        QWidget child(&window); // means its window
         window.showAndWait();
         OtherClient other;
         QVERIFY(other.window());
@@ -223,7 +227,7 @@ private Q_SLOTS:
         QTest::qWait(300); // what showing left to be drawn
 
         // No X event arrives while the observer sleeps.
-        QTimer::singleShot(300, &window, [handle] { NativeWindow::flash(handle); });
+        QTimer::singleShot(300, &window, [&child] { OmDesktop::flashWindow(&child, true); });
         const QString state =
                 outputOf(QStringLiteral("sh"),
                          {QStringLiteral("-c"),
@@ -257,6 +261,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, wasOnTop);
         Window window;
+        QWidget child(&window); // means its window
         window.showAndWait();
         NativeWindow::setStayOnTop(window.handle(), wasOnTop);
         OtherClient other;
@@ -264,7 +269,7 @@ private Q_SLOTS:
         QVERIFY(waitFor(
                 [&] { return topmost() == (wasOnTop ? window.handle() : other.window()); }));
 
-        NativeWindow::bringToFront(window.handle());
+        OmDesktop::setForeground(&child);
         QVERIFY(waitFor([&window] {
             return topmost() == window.handle() && !isKeptAbove(window.handle());
         }));

@@ -134,6 +134,26 @@ private Q_SLOTS:
         QCOMPARE(window.geometry(), dropped);
     }
 
+    void windowPlacedBeforeItIsShownKnowsWhereItIs()
+    {
+        for (int round = 0; round < 4; ++round) {
+            OmWindow window;
+            window.setGeometry(kStart);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QTest::qWait(100);
+            const QString seen =
+                    runBeside(QStringLiteral("xwininfo"),
+                              {QStringLiteral("-id"), QString::number(window.winId())});
+            const QPoint position = window.mapToGlobal(QPoint(0, 0));
+            QVERIFY2(seen.contains(QRegularExpression(
+                             QStringLiteral("upper-left X:\\s+%1\n").arg(position.x()))),
+                     qPrintable(seen + name(window.geometry())));
+            QVERIFY(seen.contains(
+                    QRegularExpression(QStringLiteral("upper-left Y:\\s+%1\n").arg(position.y()))));
+        }
+    }
+
     void fixedWindowMovesButDoesNotResize()
     {
         OmWindow window;

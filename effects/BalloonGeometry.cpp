@@ -1,7 +1,5 @@
 #include "effects/BalloonGeometry.h"
 
-#include <QtGui/QRegion>
-
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -26,14 +24,6 @@ ArrowCorner cornerFor(const QPoint &position, const QSize &contents, const QSize
 {
     return {position.y() + contents.height() + kArrowHeight < screen.height(),
             position.x() + contents.width() - kArrowOffset < screen.width()};
-}
-
-bool isOnScreens(const QRect &rect, const QVector<QRect> &screens)
-{
-    QRegion rest(rect);
-    for (const QRect &screen : screens)
-        rest -= screen;
-    return rest.isEmpty();
 }
 
 // The bubble without the strip of the arrow. Right and bottom are its outermost pixels.
@@ -79,16 +69,11 @@ int screenAt(const QVector<QRect> &screens, const QPoint &position)
     return nearest;
 }
 
-ArrowCorner arrowCorner(const QPoint &position, const QSize &contents,
-                        const QVector<QRect> &screens)
+ArrowCorner arrowCorner(const QPoint &position, const QSize &contents, const QRect &screen)
 {
-    const int index = screenAt(screens, position);
-    const QRect screen = index < 0 ? QRect() : screens.at(index);
     const ArrowCorner corner = cornerFor(position, contents, screen.size());
-
-    const QMargins around = margins(corner);
-    const QSize size = contents.grownBy(around);
-    if (isOnScreens(QRect(topLeft(position, size, corner, screen), size), screens))
+    const QSize size = contents.grownBy(margins(corner));
+    if (screen.contains(QRect(topLeft(position, size, corner, screen), size)))
         return corner;
     return cornerFor(position - screen.topLeft(), contents, screen.size());
 }

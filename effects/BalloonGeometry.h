@@ -37,15 +37,15 @@ inline bool operator==(ArrowCorner a, ArrowCorner b)
 /// The index of the screen that \a position is on, else of the nearest one; -1 without screens.
 OMBRIN_AUTOTEST_EXPORT int screenAt(const QVector<QRect> &screens, const QPoint &position);
 
-/// The corner for a balloon that points at \a position and whose contents, with a narrow margin,
-/// need \a contents.
+/// The corner for a balloon that points at \a position on \a screen and whose contents, with a
+/// narrow margin, need \a contents.
 ///
 /// The arrow stands at the top left if the balloon then ends within the width and height of the
-/// screen at \a position, both counted from the origin of the desktop; else at the right, or at the
-/// bottom. Only where this would put a part of the balloon on no screen at all, as can happen on a
-/// screen away from the origin, width and height are counted from the screen's own corner.
+/// screen, both counted from the origin of the desktop; else at the right, or at the bottom. Only
+/// where this would take the balloon off its screen, as can happen on one away from the origin, are
+/// width and height counted from the screen's own corner.
 OMBRIN_AUTOTEST_EXPORT ArrowCorner arrowCorner(const QPoint &position, const QSize &contents,
-                                               const QVector<QRect> &screens);
+                                               const QRect &screen);
 
 /// The margins that the strip of the arrow and the bubble's border ask for.
 OMBRIN_AUTOTEST_EXPORT QMargins margins(ArrowCorner corner);

@@ -146,14 +146,12 @@ OmBalloonTip::~OmBalloonTip()
 void OmBalloonTip::balloon(const QPoint &pos, int timeout, bool showArrow)
 {
     using namespace balloon_geometry;
-    const QVector<QRect> screens = screenGeometries();
-    const int index = screenAt(screens, pos);
-    QScreen *const screen = index < 0 ? nullptr : QGuiApplication::screens().at(index);
+    QScreen *const screen = QGuiApplication::screens().value(screenAt(screenGeometries(), pos));
     const QRect area = screen ? screen->geometry() : QRect();
 
     setContentsMargins(QMargins());
     fitTexts(room(pos, area), showArrow);
-    const ArrowCorner corner = arrowCorner(pos, sizeHint(), screens);
+    const ArrowCorner corner = arrowCorner(pos, sizeHint(), area);
     setContentsMargins(margins(corner));
     updateGeometry();
     layout()->activate();

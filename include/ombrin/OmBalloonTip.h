@@ -41,10 +41,10 @@ enum MessageIcon : int {
 ///
 /// The arrow stands at the top left of the bubble when the balloon then ends within the width and
 /// height of the screen that the position is on; both are counted from the origin of the desktop,
-/// whichever screen it is. Otherwise it stands at the right or at the bottom. Only a balloon of
-/// which this would leave a part on no screen at all takes the screen's true edges instead. Close
-/// to the left or right edge of the screen the balloon stays 2 pixels away from it and the arrow
-/// points beside the position. A position on no screen belongs to the nearest one.
+/// whichever screen it is. Otherwise it stands at the right or at the bottom. Only where this would
+/// take the balloon off its screen are they counted from the screen's own corner. Close to the left
+/// or right edge of the screen the balloon stays 2 pixels away from it and the arrow points beside
+/// the position. A position on no screen belongs to the nearest one.
 ///
 /// Assistive technology sees a tool tip named by the title, or else by the message.
 class OMBRIN_GUI_EXPORT OmBalloonTip : public QWidget

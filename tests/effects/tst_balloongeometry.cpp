@@ -47,70 +47,68 @@ private Q_SLOTS:
 
     void arrowStandsWhereTheBalloonHasRoom_data()
     {
-        QTest::addColumn<QVector<QRect>>("screens");
+        QTest::addColumn<QRect>("screen");
         QTest::addColumn<QPoint>("position");
         QTest::addColumn<ArrowCorner>("corner");
         QTest::addColumn<QPoint>("place");
         // The balloons are 100 x 40, with their margins 108 x 64.
-        const auto row = [](const char *name, const QVector<QRect> &screens, QPoint position,
+        const auto row = [](const char *name, const QRect &screen, QPoint position,
                             ArrowCorner corner, QPoint place) {
-            QTest::newRow(name) << screens << position << corner << place;
+            QTest::newRow(name) << screen << position << corner << place;
         };
-        const QVector<QRect> one = {kFirst};
-        row("middle", one, {600, 500}, kTopLeft, {582, 500});
-        row("last row with room", one, {600, 965}, kTopLeft, {582, 965});
-        row("first row without", one, {600, 966}, kBottomLeft, {582, 902});
-        row("last column with room", one, {1197, 500}, kTopLeft, {1179, 500});
-        row("first column without", one, {1198, 500}, kTopRight, {1108, 500});
-        row("lower right", one, {1200, 1000}, kBottomRight, {1110, 936});
-        row("left edge", one, {5, 500}, kTopLeft, {2, 500});
-        row("left edge below", one, {0, 1023}, kBottomLeft, {2, 959});
-        row("right edge", one, {1279, 0}, kTopRight, {1169, 0});
-        row("lower right corner", one, {1279, 1023}, kBottomRight, {1169, 959});
+        row("middle", kFirst, {600, 500}, kTopLeft, {582, 500});
+        row("last row with room", kFirst, {600, 965}, kTopLeft, {582, 965});
+        row("first row without", kFirst, {600, 966}, kBottomLeft, {582, 902});
+        row("last column with room", kFirst, {1197, 500}, kTopLeft, {1179, 500});
+        row("first column without", kFirst, {1198, 500}, kTopRight, {1108, 500});
+        row("lower right", kFirst, {1200, 1000}, kBottomRight, {1110, 936});
+        row("left edge", kFirst, {5, 500}, kTopLeft, {2, 500});
+        row("left edge below", kFirst, {0, 1023}, kBottomLeft, {2, 959});
+        row("right edge", kFirst, {1279, 0}, kTopRight, {1169, 0});
+        row("lower right corner", kFirst, {1279, 1023}, kBottomRight, {1169, 959});
+        row("no screen", QRect(), {7, 8}, kBottomRight, {-111, -56});
 
-        // On a second screen width and height count from the origin.
-        const QVector<QRect> right = {kFirst, {1280, 0, 1280, 1024}};
+        // Width and height count from the origin on other screens too.
+        const QRect right(1280, 0, 1280, 1024);
         row("right screen", right, {1900, 500}, kTopRight, {1810, 500});
         row("right screen, lower", right, {1900, 1000}, kBottomRight, {1810, 936});
-        row("right screen, its left edge", right, {1290, 500}, kTopRight, {1200, 500});
-        const QVector<QRect> below = {kFirst, {0, 1024, 1280, 1024}};
+        row("right screen, right edge", right, {2559, 500}, kTopRight, {2449, 500});
+        const QRect below(0, 1024, 1280, 1024);
         row("lower screen", below, {600, 1500}, kBottomLeft, {582, 1436});
-        const QVector<QRect> left = {kFirst, {-1280, 0, 1280, 1024}};
+        row("lower screen, lower edge", below, {1279, 2047}, kBottomRight, {1169, 1983});
+        const QRect left(-1280, 0, 1280, 1024);
         row("left screen", left, {-600, 500}, kTopLeft, {-618, 500});
-        row("left screen, its left edge", left, {-1280, 500}, kTopLeft, {-1278, 500});
-        row("left screen, its right edge", left, {-10, 500}, kTopLeft, {-28, 500});
-        const QVector<QRect> above = {kFirst, {0, -1024, 1280, 1024}};
+        row("left screen, left edge", left, {-1280, 500}, kTopLeft, {-1278, 500});
+        const QRect above(0, -1024, 1280, 1024);
         row("upper screen", above, {600, -500}, kTopLeft, {582, -500});
-        row("upper screen, its lower edge", above, {600, -10}, kTopLeft, {582, -10});
+        row("upper screen, upper edge", above, {600, -1024}, kTopLeft, {582, -1024});
 
-        // Where that would leave a part on no screen, they count from the screen's corner.
-        const QVector<QRect> lower = {kFirst, {1280, 600, 1280, 1024}};
-        row("inside the second", lower, {1900, 900}, kTopRight, {1810, 900});
-        row("left edge of the second", lower, {1285, 1100}, kTopLeft, {1282, 1100});
-        const QVector<QRect> lowerLeft = {kFirst, {-1280, 600, 1280, 1024}};
-        row("below the first, beside the second", lowerLeft, {-10, 1500}, kTopRight, {-111, 1500});
-        row("lower right of the left", lowerLeft, {-10, 1610}, kBottomRight, {-111, 1546});
-        const QVector<QRect> corner = {kFirst, {-800, -600, 800, 600}};
-        row("left of and above the first", corner, {-10, -10}, kBottomRight, {-111, -74});
-        const QVector<QRect> apart = {kFirst, {3000, 0, 1280, 1024}};
-        row("with a gap", apart, {3010, 100}, kTopLeft, {3002, 100});
+        // But not where that takes the balloon off its screen.
+        row("right screen, left edge", right, {1290, 500}, kTopLeft, {1282, 500});
+        row("right screen, lower left", right, {1290, 1000}, kBottomLeft, {1282, 936});
+        row("lower screen, upper edge", below, {600, 1030}, kTopLeft, {582, 1030});
+        row("lower screen, upper right", below, {1250, 1030}, kTopRight, {1160, 1030});
+        row("left screen, right edge", left, {-10, 500}, kTopRight, {-111, 500});
+        row("left screen, lower right", left, {-10, 1000}, kBottomRight, {-111, 936});
+        row("upper screen, lower edge", above, {600, -10}, kBottomLeft, {582, -74});
+        const QRect corner(-800, -600, 800, 600);
+        row("left of and above the origin", corner, {-400, -300}, kTopLeft, {-418, -300});
+        row("beside the origin", corner, {-10, -10}, kBottomRight, {-111, -74});
     }
 
     void arrowStandsWhereTheBalloonHasRoom()
     {
-        QFETCH(QVector<QRect>, screens);
+        QFETCH(QRect, screen);
         QFETCH(QPoint, position);
         QFETCH(ArrowCorner, corner);
         QFETCH(QPoint, place);
         const QSize contents(100, 40);
-        const ArrowCorner actual = arrowCorner(position, contents, screens);
+        const ArrowCorner actual = arrowCorner(position, contents, screen);
         QCOMPARE(actual.atTop, corner.atTop);
         QCOMPARE(actual.atLeft, corner.atLeft);
         const QMargins around = margins(corner);
         QCOMPARE(around, corner.atTop ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
-        QCOMPARE(topLeft(position, contents.grownBy(around), corner,
-                         screens.at(screenAt(screens, position))),
-                 place);
+        QCOMPARE(topLeft(position, contents.grownBy(around), corner, screen), place);
     }
 
     void outlineTouchesAllSidesAndTheTip_data()

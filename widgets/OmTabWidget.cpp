@@ -94,8 +94,8 @@ void OmTabWidget::enableCloseTabButton(bool enable)
     if (m_closeButtonEnabled == enable)
         return;
     m_closeButtonEnabled = enable;
-    if (enable && !m_closeButton)
-        createCloseButton();
+    if (enable)
+        installCloseButton();
     if (m_closeButton)
         m_closeButton->setVisible(enable);
     slotTabChanged(currentIndex());
@@ -149,14 +149,18 @@ void OmTabWidget::slotTabChanged(int index)
         m_closeButton->setEnabled(!isSpecial(widget(index)));
 }
 
-void OmTabWidget::createCloseButton()
+// Makes the button on first use, and puts it back when the host has put something else there.
+void OmTabWidget::installCloseButton()
 {
-    m_closeButton = new QToolButton(this);
-    m_closeButton->setIcon(QIcon(skinPixmap(QStringLiteral(":/close-16"))));
-    m_closeButton->setAutoRaise(true);
-    m_closeButton->setAccessibleName(tr("Close tab"));
-    connect(m_closeButton, &QToolButton::clicked, this, &OmTabWidget::removeCurrentTab);
-    setCornerWidget(m_closeButton, Qt::TopRightCorner);
+    if (!m_closeButton) {
+        m_closeButton = new QToolButton(this);
+        m_closeButton->setIcon(QIcon(skinPixmap(QStringLiteral(":/close-16"))));
+        m_closeButton->setAutoRaise(true);
+        m_closeButton->setAccessibleName(tr("Close tab"));
+        connect(m_closeButton, &QToolButton::clicked, this, &OmTabWidget::removeCurrentTab);
+    }
+    if (cornerWidget(Qt::TopRightCorner) != m_closeButton)
+        setCornerWidget(m_closeButton, Qt::TopRightCorner);
 }
 
 bool OmTabWidget::isSpecial(QWidget *widget) const

@@ -12,6 +12,11 @@ namespace ombrin {
 
 class OmTabBar;
 
+// The signal tabRemoved() hides the hook of QTabWidget. A using declaration would bring the hook
+// back and take away &OmTabWidget::tabRemoved, which could not be told from it.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_CLANG("-Woverloaded-virtual")
+
 /// A tab widget with an OmTabBar, and with a button that closes the current tab.
 ///
 /// Behaves as QTabWidget, without scroll buttons. When the user exchanges two tabs the pages
@@ -30,7 +35,8 @@ class OmTabBar;
 /// The close button stands in the top right corner and takes the current page out of the widget,
 /// unless it is a special one, for which the button is disabled. The page itself is not deleted: it
 /// stays a child of the widget's inside, and the receiver of tabRemoved() decides what becomes of
-/// it. The receiver may delete the tab widget, too.
+/// it. The receiver may delete the tab widget, too. (A subclass that overrides the hook
+/// QTabWidget::tabRemoved(int) hides the signal of that name; OmTabWidget::tabRemoved names it.)
 ///
 /// With the tab bar hidden the host switches pages with setCurrentIndex().
 class OMBRIN_GUI_EXPORT OmTabWidget : public QTabWidget
@@ -75,7 +81,7 @@ private Q_SLOTS:
     void slotTabChanged(int index);
 
 private:
-    void createCloseButton();
+    void installCloseButton();
     bool isSpecial(QWidget *widget) const;
 
     bool m_closeButtonEnabled = false;
@@ -84,5 +90,7 @@ private:
     QPointer<QToolButton> m_closeButton;
     QList<QPointer<QWidget>> m_specialWidgets;
 };
+
+QT_WARNING_POP
 
 } // namespace ombrin

@@ -1,0 +1,288 @@
+#include "support/TestCase.h"
+
+#include <ombrin/OmRatingLabel.h>
+
+#include <QtCore/QResource>
+#include <QtGui/QAccessible>
+#include <QtGui/QMouseEvent>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+
+using ombrin::OmRatingLabel;
+
+namespace {
+
+constexpr QRgb kGround = 0xffffffff;
+
+// The star pictures, as the test's skin colours them, by the letters of the tables below.
+QChar letter(QRgb color)
+{
+    switch (color) {
+    case 0xff101010:
+        return QLatin1Char('e'); // empty
+    case 0xff202020:
+        return QLatin1Char('E'); // empty, hovered
+    case 0xff303030:
+        return QLatin1Char('h');
+    case 0xff404040:
+        return QLatin1Char('H');
+    case 0xff505050:
+        return QLatin1Char('f');
+    case 0xff606060:
+        return QLatin1Char('F');
+    default:
+        return QLatin1Char('?');
+    }
+}
+
+QImage painted(OmRatingLabel *label)
+{
+    const qreal ratio = label->devicePixelRatioF();
+    QImage image((QSizeF(label->size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(kGround);
+    label->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+QString shownStars(OmRatingLabel *label)
+{
+    const QImage image = painted(label);
+    const int size = qMin(label->height() - 2, 32);
+    QString stars;
+    for (int star = 0; star < 5; ++star) {
+        const QPointF centre(1 + star * (size + 1) + size / 2.0, 1 + size / 2.0);
+        stars += letter(image.pixel((centre * image.devicePixelRatio()).toPoint()));
+    }
+    return stars;
+}
+
+void pointAt(OmRatingLabel *label, const QPoint &position)
+{
+    QMouseEvent move(QEvent::MouseMove, position, label->mapToGlobal(position), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &move);
+}
+
+void enter(OmRatingLabel *label)
+{
+    const QPointF origin;
+    QEnterEvent event(origin, origin, origin);
+    QApplication::sendEvent(label, &event);
+}
+
+void leave(OmRatingLabel *label)
+{
+    QEvent event(QEvent::Leave);
+    QApplication::sendEvent(label, &event);
+}
+
+} // namespace
+
+class tst_OmRatingLabel : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
+                                            + QStringLiteral("/testdata/contacts.res")));
+    }
+
+    void startsEmptyAndFrameless()
+    {
+        OmRatingLabel label;
+        QVERIFY(label.hasMouseTracking());
+        QCOMPARE(label.maximumHeight(), 34);
+        QCOMPARE(label.frameStyle(), 0);
+        QCOMPARE(label.sizeHint(), QSize(166, 34));
+        QCOMPARE(label.rating(), 0);
+        QCOMPARE(label.currentRating(), 0);
+    }
+
+    void showsTheStoredRating_data()
+    {
+        QTest::addColumn<int>("rating");
+        QTest::addColumn<QString>("stars");
+        QTest::newRow("0") << 0 << "eeeee";
+        QTest::newRow("1") << 1 << "heeee";
+        QTest::newRow("2") << 2 << "feeee";
+        QTest::newRow("7") << 7 << "fffhe";
+        QTest::newRow("10") << 10 << "fffff";
+        QTest::newRow("above") << 11 << "fffff";
+        QTest::newRow("far above") << std::numeric_limits<int>::max() << "fffff";
+        QTest::newRow("below") << -1 << "eeeee";
+    }
+
+    void showsTheStoredRating()
+    {
+        QFETCH(int, rating);
+        QFETCH(QString, stars);
+        OmRatingLabel label;
+        label.resize(label.sizeHint());
+        QSignalSpy changed(&label, &OmRatingLabel::ratingChanged);
+        label.setRating(rating);
+        QCOMPARE(label.rating(), rating);
+        QCOMPARE(shownStars(&label), stars);
+        enter(&label);
+        QCOMPARE(shownStars(&label), stars.replace(QLatin1Char('e'), QLatin1Char('E')));
+        QVERIFY(changed.isEmpty());
+    }
+
+    void starsLightUpUpToThePointer_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("x");
+        QTest::addColumn<int>("current");
+        QTest::addColumn<QString>("stars");
+
+        // The stored rating is 7.
+        QTest::newRow("before the first") << 34 << 0 << 0 << "fffhE";
+        QTest::newRow("first pixel") << 34 << 1 << 1 << "HffhE";
+        QTest::newRow("last of the half") << 34 << 17 << 1 << "HffhE";
+        QTest::newRow("first of the full") << 34 << 18 << 2 << "FffhE";
+        QTest::newRow("gap after the first") << 34 << 33 << 2 << "FffhE";
+        QTest::newRow("second") << 34 << 34 << 3 << "FHfhE";
+        QTest::newRow("50") << 34 << 50 << 3 << "FHfhE";
+        QTest::newRow("60") << 34 << 60 << 4 << "FFfhE";
+        QTest::newRow("last half") << 34 << 140 << 9 << "FFFFH";
+        QTest::newRow("last") << 34 << 160 << 10 << "FFFFF";
+        QTest::newRow("far right") << 34 << 500 << 10 << "FFFFF";
+        QTest::newRow("left of it") << 34 << -20 << 0 << "fffhE";
+        QTest::newRow("small, odd: half") << 19 << 10 << 1 << "HffhE";
+        QTest::newRow("small, odd: full") << 19 << 11 << 2 << "FffhE";
+        QTest::newRow("small, odd: second") << 19 << 19 << 3 << "FHfhE";
+    }
+
+    void starsLightUpUpToThePointer()
+    {
+        QFETCH(int, height);
+        QFETCH(int, x);
+        QFETCH(int, current);
+        QFETCH(QString, stars);
+        OmRatingLabel label;
+        label.resize(200, height);
+        label.setRating(7);
+        enter(&label);
+        for (const int y : {0, 10, 300}) {
+            pointAt(&label, QPoint(x, y));
+            QCOMPARE(shownStars(&label), stars);
+            QCOMPARE(label.currentRating(), current);
+        }
+        leave(&label);
+        QCOMPARE(shownStars(&label), QStringLiteral("fffhe"));
+        QCOMPARE(label.rating(), 7);
+    }
+
+    void starsStandExactlyWhereTheyShould_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("size");
+        QTest::newRow("full") << 34 << 32;
+        QTest::newRow("small") << 18 << 16;
+        QTest::newRow("tiny") << 3 << 1;
+        QTest::newRow("no room") << 2 << 0;
+    }
+
+    void starsStandExactlyWhereTheyShould()
+    {
+        QFETCH(int, height);
+        QFETCH(int, size);
+        OmRatingLabel label;
+        label.resize(200, height);
+        label.setRating(10);
+        const QImage image = painted(&label);
+        const qreal ratio = label.devicePixelRatioF();
+        // With a fraction, edges fall between pixels.
+        const qreal blur = ratio == std::floor(ratio) ? 0 : 1;
+        const auto starAround = [&](const QPointF &point, qreal margin) {
+            for (int star = 0; star < 5; ++star) {
+                const QRectF rect = QRectF(1 + star * (size + 1), 1, size, size)
+                                            .adjusted(-margin, -margin, margin, margin);
+                if (rect.isValid() && rect.contains(point))
+                    return true;
+            }
+            return false;
+        };
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QPointF point = QPointF(x + 0.5, y + 0.5) / ratio;
+                if (starAround(point, -blur))
+                    QCOMPARE(image.pixel(x, y), 0xff505050);
+                else if (!starAround(point, blur))
+                    QCOMPARE(image.pixel(x, y), kGround);
+            }
+        }
+    }
+
+    void aClickTakesTheRatingUnderThePointer_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QPoint>("place");
+        QTest::addColumn<int>("rating");
+        QTest::newRow("left") << int(Qt::LeftButton) << QPoint(60, 10) << 4;
+        QTest::newRow("right") << int(Qt::RightButton) << QPoint(60, 10) << 7;
+        QTest::newRow("released below") << int(Qt::LeftButton) << QPoint(60, 40) << 7;
+        QTest::newRow("released left of it") << int(Qt::LeftButton) << QPoint(-1, 10) << 7;
+    }
+
+    void aClickTakesTheRatingUnderThePointer()
+    {
+        QFETCH(int, button);
+        QFETCH(QPoint, place);
+        QFETCH(int, rating);
+        OmRatingLabel label;
+        label.resize(166, 34);
+        label.setRating(7);
+        QSignalSpy changed(&label, &OmRatingLabel::ratingChanged);
+        const auto mouseButton = static_cast<Qt::MouseButton>(button);
+        QTest::mousePress(&label, mouseButton, Qt::NoModifier, QPoint(60, 10));
+        QTest::mouseRelease(&label, mouseButton, Qt::NoModifier, place);
+        QCOMPARE(label.rating(), rating);
+        if (rating == 7)
+            QVERIFY(changed.isEmpty());
+        else
+            QCOMPARE(changed, QList<QVariantList>{{rating}});
+    }
+
+    void hostMayDeleteTheLabelAsItIsRated()
+    {
+        auto label = std::make_unique<OmRatingLabel>();
+        label->resize(166, 34);
+        connect(label.get(), &OmRatingLabel::ratingChanged, this, [&label] { label.reset(); });
+        QTest::mouseClick(label.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
+        QVERIFY(!label);
+    }
+
+    void screenReadersSeeASlider()
+    {
+        OmRatingLabel label;
+        QAccessibleInterface *const seen = QAccessible::queryAccessibleInterface(&label);
+        QVERIFY(seen);
+        QCOMPARE(seen->role(), QAccessible::Slider);
+        QAccessibleValueInterface *const slider = seen->valueInterface();
+        QVERIFY(slider);
+        QCOMPARE(slider->minimumValue().toInt(), 0);
+        QCOMPARE(slider->maximumValue().toInt(), 10);
+        QCOMPARE(slider->minimumStepSize().toInt(), 1);
+        label.setRating(7);
+        QCOMPARE(slider->currentValue().toInt(), 7);
+        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("7"));
+        label.setRating(-4);
+        QCOMPARE(slider->currentValue().toInt(), 0);
+
+        QSignalSpy changed(&label, &OmRatingLabel::ratingChanged);
+        slider->setCurrentValue(3);
+        slider->setCurrentValue(99);
+        label.setEnabled(false);
+        slider->setCurrentValue(1);
+        QCOMPARE(label.rating(), 10);
+        QCOMPARE(changed, (QList<QVariantList>{{3}, {10}}));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmRatingLabel)
+#include "tst_omratinglabel.moc"

@@ -1,0 +1,71 @@
+#include "dialogs/WizardWidgets.h"
+
+#include <QtGui/QPixmap>
+#include <QtWidgets/QLabel>
+
+namespace ombrin {
+
+namespace {
+
+QPixmap pixmapOf(const QLabel *label)
+{
+    return label->pixmap(Qt::ReturnByValue);
+}
+
+/// The last one of \a widget and the widgets on it in the tab order.
+QWidget *lastInTabOrder(QWidget *widget)
+{
+    QWidget *last = widget;
+    for (QWidget *next = widget->nextInFocusChain(); next != widget;
+         next = next->nextInFocusChain()) {
+        if (widget->isAncestorOf(next))
+            last = next;
+    }
+    return last;
+}
+
+} // namespace
+
+void setWhiteBackground(QWidget *widget)
+{
+    QPalette palette = widget->palette();
+    palette.setBrush(QPalette::All, widget->backgroundRole(),
+                     QBrush(QColor(255, 255, 255, 255), Qt::SolidPattern));
+    widget->setPalette(palette);
+    widget->setAutoFillBackground(true);
+}
+
+void refreshPixmap(QLabel *label, const QPixmap &pixmap)
+{
+    if (pixmapOf(label).cacheKey() != pixmap.cacheKey())
+        label->setPixmap(pixmap);
+}
+
+QSize pixmapSize(const QLabel *label)
+{
+    const QPixmap pixmap = pixmapOf(label);
+    return pixmap.isNull() ? QSize() : (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
+}
+
+void releasePage(QWidget *page)
+{
+    const QPointer<QWidget> guard(page);
+    page->hide();
+    if (guard)
+        guard->setParent(nullptr);
+}
+
+void refreshPageTabOrder(QWidget *page, std::initializer_list<QWidget *> buttons)
+{
+    QWidget *previous = page ? lastInTabOrder(page) : nullptr;
+    for (QWidget *button : buttons) {
+        if (!button || button->isHidden())
+            continue;
+        if (previous && previous->window() == button->window()
+            && previous->nextInFocusChain() != button)
+            QWidget::setTabOrder(previous, button);
+        previous = button;
+    }
+}
+
+} // namespace ombrin

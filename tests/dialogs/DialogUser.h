@@ -1,0 +1,96 @@
+#pragma once
+
+#include <ombrin/OmImageButton.h>
+
+#include <QtCore/QTimer>
+#include <QtCore/QTranslator>
+#include <QtGui/QWindow>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QPushButton>
+
+#include <functional>
+
+/// A user who answers dialogs while they run their own event loop.
+namespace dialog_user {
+
+/// As soon as a \a Dialog is open and active, calls \a action with it, once. A dialog that stays
+/// open afterwards fails the test, by the warning, instead of running for ever.
+template <typename Dialog>
+void whenOpen(const std::function<void(Dialog *)> &action)
+{
+    auto *timer = new QTimer(qApp);
+    timer->setInterval(10);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        for (QWidget *widget : widgets) {
+            auto *dialog = qobject_cast<Dialog *>(widget);
+            if (dialog && dialog->isVisible() && dialog->isActiveWindow()) {
+                timer->stop();
+                timer->deleteLater();
+                QTimer::singleShot(5000, dialog, [dialog] {
+                    qWarning("%s stays open", dialog->metaObject()->className());
+                    dialog->hide();
+                });
+                action(dialog);
+                return;
+            }
+        }
+    });
+    timer->start();
+}
+
+/// Presses and releases a key as the window system tells of it: it goes to what has the focus.
+inline void type(const QWidget *window, Qt::Key key)
+{
+    QTest::keyClick(window->windowHandle(), key);
+}
+
+inline void type(const QWidget *window, const QString &text)
+{
+    for (const QChar character : text)
+        QTest::keyClick(window->windowHandle(), character.toLatin1());
+}
+
+/// Clicks on \a widget as the window system tells of it.
+inline void click(const QWidget *widget)
+{
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget->mapTo(widget->window(), widget->rect().center()));
+}
+
+/// The button with \a text that the user sees, or null.
+inline QPushButton *button(const QWidget *dialog, const char *text)
+{
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *candidate : buttons) {
+        if (candidate->isVisibleTo(dialog) && candidate->text() == QLatin1String(text))
+            return candidate;
+    }
+    return nullptr;
+}
+
+/// The close button of the frame.
+inline ombrin::OmImageButton *closeButton(const QWidget *dialog)
+{
+    return dialog->findChildren<ombrin::OmImageButton *>(QString(), Qt::FindDirectChildrenOnly)
+            .value(3);
+}
+
+/// A language in which every text bears its context and its translator's comment.
+class TaggedLanguage : public QTranslator
+{
+public:
+    TaggedLanguage() { QCoreApplication::installTranslator(this); }
+    ~TaggedLanguage() override { QCoreApplication::removeTranslator(this); }
+
+    QString translate(const char *context, const char *text, const char *comment,
+                      int) const override
+    {
+        return QStringLiteral("%1|%2|%3")
+                .arg(QLatin1String(context), QLatin1String(text), QLatin1String(comment));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace dialog_user

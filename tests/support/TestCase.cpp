@@ -76,7 +76,7 @@ void TestCase::cleanup()
         const QMutexLocker locker(&g_warningsMutex);
         unexpected = g_warnings;
     }
-    for (const QRegularExpression &expected : qAsConst(m_expectedWarnings)) {
+    for (const QRegularExpression &expected : std::as_const(m_expectedWarnings)) {
         const QStringList matching = unexpected.filter(expected);
         for (const QString &warning : matching)
             unexpected.removeAll(warning);

@@ -1,5 +1,7 @@
 #include <ombrin/OmIconComboBox.h>
 
+#include "widgets/OmIconComboBoxAccessible.h"
+
 #include <ombrin/OmIconComboBoxDelegate.h>
 
 #include <QtWidgets/QListView>
@@ -11,6 +13,7 @@ namespace ombrin {
 OmIconComboBox::OmIconComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    installIconComboBoxAccessibility();
     setItemDelegate(new OmIconComboBoxDelegate(this));
     if (auto *const list = qobject_cast<QListView *>(view())) {
         list->setViewMode(QListView::IconMode);

@@ -19,8 +19,9 @@ namespace ombrin {
 /// smileys->setItemData(0, tr("Smile"), Qt::AccessibleTextRole);
 /// \endcode
 ///
-/// Items are those of QComboBox; one without an icon is an empty cell. Texts for assistive
-/// technology that are not to be seen in the box go into \c Qt::AccessibleTextRole.
+/// Items are those of QComboBox; one without an icon is an empty cell. Assistive technology sees a
+/// combo box named by its accessible name, else by its value: the \c Qt::AccessibleTextRole of the
+/// current item, else its text or tool tip.
 class OMBRIN_GUI_EXPORT OmIconComboBox : public QComboBox
 {
     Q_OBJECT

@@ -1,4 +1,5 @@
 #include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmBalloonTip.h>
 
@@ -15,6 +16,7 @@
 
 using ombrin::MessageIcon;
 using ombrin::OmBalloonTip;
+using namespace ombrin::test;
 
 namespace {
 
@@ -75,16 +77,6 @@ int timeoutOf(OmBalloonTip *tip)
 {
     const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(tip);
     return timers.size() == 1 ? timers.first().interval : -int(timers.size());
-}
-
-void sendEnter(QWidget *widget)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-#else
-    QEvent event(QEvent::Enter);
-#endif
-    QCoreApplication::sendEvent(widget, &event);
 }
 
 // Does something when a balloon gets an event of a type.
@@ -368,8 +360,7 @@ void tst_OmBalloonTip::itStaysWhenTheMouseIsOverIt()
     QVERIFY(tip->underMouse());
     QVERIFY(waitFor([tip] { return timeoutOf(tip) == 0; }));
     QVERIFY(tip->isVisible());
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(tip, &leave);
+    sendLeave(tip);
     QTest::qWait(60);
     QVERIFY(onlyTip() && tip->isVisible());
     QTest::mousePress(tip, Qt::LeftButton);

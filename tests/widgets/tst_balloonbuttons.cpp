@@ -1,0 +1,199 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmBalloonTip.h>
+#include <ombrin/OmPushButton.h>
+#include <ombrin/OmToolButton.h>
+
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QLabel>
+
+#include <memory>
+
+using namespace ombrin::test;
+using ombrin::OmBalloonTip;
+using ombrin::OmPushButton;
+using ombrin::OmToolButton;
+
+namespace {
+
+using Factory = QAbstractButton *(*)();
+
+template <typename Button>
+QAbstractButton *make()
+{
+    return new Button;
+}
+
+OmBalloonTip *visibleTip()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *const tip = qobject_cast<OmBalloonTip *>(widget);
+        if (tip && tip->isVisible())
+            return tip;
+    }
+    return nullptr;
+}
+
+// The texts that the visible balloon shows.
+QStringList shownTexts()
+{
+    QStringList texts;
+    if (const OmBalloonTip *tip = visibleTip()) {
+        const auto labels = tip->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->isVisible())
+                texts.append(label->text());
+        }
+    }
+    return texts;
+}
+
+// Whether the widget, or one it is in, took the request.
+bool askForToolTip(QWidget *widget)
+{
+    const QPoint inside(3, 3);
+    QHelpEvent event(QEvent::ToolTip, inside, widget->mapToGlobal(inside));
+    return QCoreApplication::sendEvent(widget, &event) && event.isAccepted();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Factory)
+
+class tst_BalloonButtons : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->setGeometry(100, 100, 300, 100);
+    }
+    void tearDown() override
+    {
+        OmBalloonTip::hideBalloon();
+        m_window.reset();
+    }
+
+private Q_SLOTS:
+    void hoveringShowsTheToolTipBelowTheButton_data() { buttons(); }
+    void hoveringShowsTheToolTipBelowTheButton()
+    {
+        QAbstractButton *const button = addButton(QStringLiteral("Call <b>Ada</b> & Max"));
+        QVERIFY(askForToolTip(button));
+        QVERIFY(OmBalloonTip::isActive());
+        QCOMPARE(shownTexts(), QStringList(button->toolTip()));
+        QVERIFY(!visibleTip()->findChild<QPushButton *>()->isVisible());
+
+        const QPoint tip = visibleTip()->pos() + QPoint(18, 0);
+        QCOMPARE(tip, button->mapToGlobal(QPoint(40, 25))); // 81 x 25
+        QVERIFY(visibleTip()->mask().contains(QPoint(18, 1)));
+        const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(visibleTip());
+        QCOMPARE(timers.size(), 1);
+        QCOMPARE(timers.first().interval, 2000);
+
+        sendLeave(button);
+        QVERIFY(!OmBalloonTip::isActive());
+        QVERIFY(!visibleTip());
+    }
+
+    void aDisabledButtonShowsNothing_data() { buttons(); }
+    void aDisabledButtonShowsNothing()
+    {
+        QAbstractButton *const button = addButton(QStringLiteral("Call"));
+        m_window->setToolTip(QStringLiteral("The window"));
+        button->setEnabled(false);
+        QVERIFY(askForToolTip(button)); // swallowed, so that the window shows nothing either
+        QVERIFY(!OmBalloonTip::isActive());
+    }
+
+    void whileOneTipIsUpNoOtherAppears_data() { buttons(); }
+    void whileOneTipIsUpNoOtherAppears()
+    {
+        QAbstractButton *const first = addButton(QStringLiteral("First"));
+        QAbstractButton *const second = addButton(QStringLiteral("Second"));
+        QVERIFY(askForToolTip(first));
+        QVERIFY(askForToolTip(second));
+        QCOMPARE(shownTexts(), QStringList(QStringLiteral("First")));
+    }
+
+    void aButtonWithoutToolTipLeavesItToItsParent_data() { buttons(); }
+    void aButtonWithoutToolTipLeavesItToItsParent()
+    {
+        QAbstractButton *const button = addButton(QString());
+        QVERIFY(!askForToolTip(button));
+        QVERIFY(!OmBalloonTip::isActive());
+    }
+
+    void buttonsMayDieWhileTheirTipIsUp_data() { buttons(); }
+    void buttonsMayDieWhileTheirTipIsUp()
+    {
+        QAbstractButton *const button = addButton(QStringLiteral("Call"));
+        QVERIFY(askForToolTip(button));
+        delete button;
+        QCOMPARE(shownTexts(), QStringList(QStringLiteral("Call")));
+        QTest::mouseClick(visibleTip(), Qt::LeftButton);
+        QVERIFY(!visibleTip());
+    }
+
+    void theButtonStaysAButton_data() { buttons(); }
+    void theButtonStaysAButton()
+    {
+        QAbstractButton *const button = addButton(QStringLiteral("Call Ada"));
+        button->setText(QStringLiteral("&Call"));
+        QCOMPARE(accessible(button)->role(), QAccessible::Button);
+        QCOMPARE(accessibleName(button), QStringLiteral("Call"));
+        QCOMPARE(accessible(button)->text(QAccessible::Description), QStringLiteral("Call Ada"));
+
+        QSignalSpy clicks(button, &QAbstractButton::clicked);
+        sendEnter(button);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTest::keyClick(button, Qt::Key_Space);
+        pressAccessibly(button);
+        QTRY_COMPARE(clicks.size(), 3);
+    }
+
+    void aToolButtonShowsTheToolTipOfItsAction()
+    {
+        auto *const button = new OmToolButton(m_window.get());
+        QAction action(QStringLiteral("&Save"));
+        button->setDefaultAction(&action);
+        button->setAutoRaise(true);
+        m_window->show();
+        sendEnter(button);
+        QVERIFY(askForToolTip(button));
+        QCOMPARE(shownTexts(), QStringList(QStringLiteral("Save")));
+        sendLeave(button);
+        QVERIFY(!button->underMouse());
+    }
+
+private:
+    static void buttons()
+    {
+        QTest::addColumn<Factory>("make");
+        QTest::newRow("push button") << &make<OmPushButton>;
+        QTest::newRow("tool button") << &make<OmToolButton>;
+    }
+
+    QAbstractButton *addButton(const QString &toolTip)
+    {
+        const auto factory = *static_cast<Factory *>(QTest::qData("make", qMetaTypeId<Factory>()));
+        QAbstractButton *const button = factory();
+        button->setParent(m_window.get());
+        button->setGeometry(100, 20, 81, 25);
+        button->setToolTip(toolTip);
+        m_window->show();
+        button->show();
+        return button;
+    }
+
+    std::unique_ptr<QWidget> m_window;
+};
+
+OMBRIN_TEST_MAIN(tst_BalloonButtons)
+#include "tst_balloonbuttons.moc"

@@ -1,0 +1,329 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmIconComboBox.h>
+#include <ombrin/OmIconComboBoxDelegate.h>
+#include <ombrin/OmStyle2.h>
+
+#include <QtGui/QPainter>
+#include <QtGui/QScreen>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleOptionComboBox>
+
+#include <memory>
+
+using namespace ombrin::test;
+using ombrin::OmIconComboBox;
+using ombrin::OmIconComboBoxDelegate;
+
+namespace {
+
+constexpr QRgb kIconColor = 0xff123456;
+constexpr QRgb kGround = 0xfff0e0d0;
+
+QIcon flatIcon(const QSize &size = QSize(16, 16), QRgb color = kIconColor)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(QColor(color));
+    return QIcon(pixmap);
+}
+
+// Notes what a combo box has drawn.
+class RecordingStyle : public QProxyStyle
+{
+public:
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override
+    {
+        log.append(QStringLiteral("complex %1").arg(control));
+        subControls = option->subControls;
+        pen = painter->pen().color();
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        log.append(QStringLiteral("control %1").arg(element));
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    mutable QStringList log;
+    mutable QStyle::SubControls subControls;
+    mutable QColor pen;
+};
+
+QImage paintedCell(const QVariant &decoration, QStyle::State state,
+                   const QRect &rect = QRect(4, 4, 22, 22))
+{
+    QComboBox items;
+    items.addItem(QStringLiteral("Text"));
+    items.setItemData(0, decoration, Qt::DecorationRole);
+    QImage image(32, 32, QImage::Format_RGB32);
+    image.fill(kGround);
+    QPainter painter(&image);
+    QStyleOptionViewItem option;
+    option.rect = rect;
+    option.state = state | QStyle::State_Enabled;
+    option.palette.setColor(QPalette::Highlight, Qt::blue);
+    OmIconComboBoxDelegate().paint(&painter, option, items.model()->index(0, 0));
+    return image;
+}
+
+void fillRect(QImage *image, const QRect &rect, QRgb color)
+{
+    QPainter(image).fillRect(rect, QColor(color));
+}
+
+} // namespace
+
+class tst_OmIconComboBox : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override { m_box = std::make_unique<OmIconComboBox>(); }
+    void tearDown() override { m_box.reset(); }
+
+private Q_SLOTS:
+    void isSetUpAsAGridOfIcons()
+    {
+        QVERIFY(qobject_cast<OmIconComboBoxDelegate *>(m_box->itemDelegate()));
+        QCOMPARE(m_box->itemDelegate()->parent(), m_box.get());
+        const auto *const list = qobject_cast<QListView *>(m_box->view());
+        QVERIFY(list);
+        QCOMPARE(list->viewMode(), QListView::IconMode);
+        QCOMPARE(list->resizeMode(), QListView::Adjust);
+        QCOMPARE(list->movement(), QListView::Static);
+        QCOMPARE(m_box->sizeAdjustPolicy(), QComboBox::AdjustToContents);
+        QCOMPARE(m_box->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
+    }
+
+    void aCellShowsItsIconAndNothingElse()
+    {
+        QImage expected(32, 32, QImage::Format_RGB32);
+        expected.fill(kGround);
+        QCOMPARE(paintedCell(QVariant(), QStyle::State_None), expected);
+        QCOMPARE(paintedCell(QIcon(), QStyle::State_Selected), expected);
+        QCOMPARE(paintedCell(QStringLiteral("no icon"), QStyle::State_None), expected);
+
+        QImage onePixel = expected;
+        fillRect(&onePixel, QRect(15, 15, 1, 1), kIconColor);
+        QCOMPARE(paintedCell(flatIcon(QSize(1, 1)), QStyle::State_None), onePixel);
+
+        fillRect(&expected, QRect(7, 7, 16, 16), kIconColor);
+        QCOMPARE(paintedCell(flatIcon(), QStyle::State_None), expected);
+
+        QImage large(32, 32, QImage::Format_RGB32);
+        large.fill(kGround);
+        fillRect(&large, QRect(6, 6, 18, 18), kIconColor);
+        QCOMPARE(paintedCell(flatIcon(QSize(64, 64)), QStyle::State_None), large);
+    }
+
+    void theFocusedCellIsHighlighted()
+    {
+        QImage expected(32, 32, QImage::Format_RGB32);
+        expected.fill(kGround);
+        fillRect(&expected, QRect(4, 4, 22, 22), qRgb(0, 0, 255));
+        QCOMPARE(paintedCell(QVariant(), QStyle::State_HasFocus), expected);
+        fillRect(&expected, QRect(7, 7, 16, 16), kIconColor);
+        QCOMPARE(paintedCell(flatIcon(), QStyle::State_HasFocus), expected);
+    }
+
+    void cellsHaveOneSize()
+    {
+        const OmIconComboBoxDelegate delegate;
+        QCOMPARE(delegate.sizeHint(QStyleOptionViewItem(), QModelIndex()), QSize(22, 22));
+        delegate.paint(nullptr, QStyleOptionViewItem(), QModelIndex());
+    }
+
+    void theListIsAGridThatIsNoHigherThanItsRows_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("skinned");
+        for (const int count : {1, 12, 40}) {
+            QTest::addRow("%d items", count) << count << false;
+            QTest::addRow("%d items, skinned", count) << count << true;
+        }
+    }
+    void theListIsAGridThatIsNoHigherThanItsRows()
+    {
+        QFETCH(int, count);
+        QFETCH(bool, skinned);
+        std::unique_ptr<QStyle> style;
+        if (skinned)
+            style = std::make_unique<ombrin::OmStyle2>();
+        if (style)
+            m_box->setStyle(style.get());
+        addItems(count);
+        m_box->move(100, 100);
+        m_box->show();
+        m_box->showPopup();
+
+        const QAbstractItemView *const view = m_box->view();
+        QVERIFY(view->isVisible());
+        if (skinned)
+            QCOMPARE(view->window()->width(), m_box->width() + 100);
+        const int columns = std::min(count, view->viewport()->width() / 22);
+        for (int i = 0; i < count; ++i) {
+            const QRect cell = view->visualRect(m_box->model()->index(i, 0));
+            QCOMPARE(cell, QRect(i % columns * 22, i / columns * 22, 22, 22));
+        }
+        const int rows = (count + columns - 1) / columns;
+        QCOMPARE(view->viewport()->height(), rows * 22);
+        m_box->hidePopup();
+        m_box.reset();
+    }
+
+    void theListOpensUpwardsAtTheBottomOfTheScreen()
+    {
+        ombrin::OmStyle2 style;
+        m_box->setStyle(&style);
+        addItems(12);
+        const QRect screen = m_box->screen()->geometry();
+        m_box->setWindowFlag(Qt::FramelessWindowHint);
+        m_box->move(100, screen.bottom() - 40);
+        m_box->show();
+        m_box->showPopup();
+        const QWidget *const popup = m_box->view()->window();
+        QVERIFY(popup->geometry().bottom() < m_box->mapToGlobal(QPoint(0, 0)).y() + 1);
+        QVERIFY(popup->geometry().bottom() > m_box->mapToGlobal(QPoint(0, 0)).y() - 5);
+        m_box->hidePopup();
+        m_box.reset();
+    }
+
+    void keysMoveAmongTheCells()
+    {
+        addItems(12);
+        m_box->show();
+        m_box->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_box.get()));
+        m_box->showPopup();
+        QAbstractItemView *const view = m_box->view();
+        QTest::keyClick(view, Qt::Key_Right);
+        QTest::keyClick(view, Qt::Key_Right);
+        QCOMPARE(view->currentIndex().row(), 2);
+        const int columns = view->viewport()->width() / 22;
+        QTest::keyClick(view, Qt::Key_Down);
+        QCOMPARE(view->currentIndex().row(), columns + 2);
+        QTest::keyClick(view, Qt::Key_Return);
+        QCOMPARE(m_box->currentIndex(), columns + 2);
+        QVERIFY(!view->isVisible());
+    }
+
+    void theClosedBoxDrawsNoEditField_data()
+    {
+        QTest::addColumn<bool>("editable");
+        QTest::newRow("plain") << false;
+        QTest::newRow("editable") << true;
+    }
+    void theClosedBoxDrawsNoEditField()
+    {
+        QFETCH(bool, editable);
+        RecordingStyle style;
+        addItems(3);
+        m_box->setStyle(&style);
+        m_box->setEditable(editable);
+        QPalette palette = m_box->palette();
+        palette.setColor(QPalette::Text, QColor(1, 2, 3));
+        m_box->setPalette(palette);
+        m_box->resize(100, 24);
+        paintedOnNothing(m_box.get());
+        QCOMPARE(style.log.first(), QStringLiteral("complex %1").arg(QStyle::CC_ComboBox));
+        QVERIFY(style.log.contains(QStringLiteral("control %1").arg(QStyle::CE_ComboBoxLabel)));
+        QCOMPARE(style.subControls, QStyle::SC_All & ~QStyle::SC_ComboBoxEditField);
+        QCOMPARE(style.pen, QColor(1, 2, 3));
+        m_box.reset();
+    }
+
+    void theClosedBoxShowsTheCurrentIcon()
+    {
+        m_box->addItem(flatIcon(), QString());
+        m_box->addItem(flatIcon(QSize(16, 16), 0xffabcdef), QString());
+        m_box->resize(m_box->sizeHint());
+        const auto shows = [this](QRgb color) {
+            const QImage picture = paintedOnNothing(m_box.get());
+            int count = 0;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    count += picture.pixel(x, y) == color ? 1 : 0;
+            }
+            return count == 16 * 16;
+        };
+        QVERIFY(shows(kIconColor));
+        m_box->setCurrentIndex(1);
+        QVERIFY(shows(0xffabcdef));
+        QVERIFY(!shows(kIconColor));
+    }
+
+    void hostileItemsAreHarmless()
+    {
+        m_box->showPopup(); // without an item
+        QVERIFY(!m_box->view()->isVisible());
+        m_box->addItem(QIcon(), QString());
+        m_box->addItem(flatIcon(QSize(1, 1)), QStringLiteral("\u05e9\u05dc e\u0301\u0302"));
+        m_box->addItem(flatIcon(QSize(3000, 1)), QString());
+        m_box->show();
+        m_box->showPopup();
+        QCoreApplication::processEvents();
+        m_box.reset(); // with the list open
+
+        OmIconComboBox longText;
+        longText.addItem(flatIcon(), QString(100000, QLatin1Char('x')));
+        longText.resize(200, 24);
+        paintedOnNothing(&longText);
+    }
+
+    void screenReadersSeeAComboBox()
+    {
+        addItems(2);
+        m_box->setItemText(1, QString());
+        m_box->setItemData(1, QStringLiteral("Smile"), Qt::AccessibleTextRole);
+        QAccessibleInterface *const seen = accessible(m_box.get());
+        QCOMPARE(seen->role(), QAccessible::ComboBox);
+        QCOMPARE(accessibleName(m_box.get()), QStringLiteral("Item 0"));
+        m_box->setAccessibleName(QStringLiteral("Smiley"));
+        m_box->setCurrentIndex(1);
+        QCOMPARE(accessibleName(m_box.get()), QStringLiteral("Smiley"));
+        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("Smile"));
+        QVERIFY(seen->state().expandable && !seen->state().expanded && !seen->state().editable);
+        QVERIFY(seen->state().focusable);
+
+        m_box->show();
+        pressAccessibly(m_box.get());
+        QVERIFY(m_box->view()->isVisible() && seen->state().expanded);
+        QCOMPARE(seen->childCount(), 1);
+        QAccessibleInterface *const list = seen->child(0);
+        QCOMPARE(seen->indexOfChild(list), 0);
+        QCOMPARE(list->childCount(), 2);
+        QCOMPARE(list->child(1)->text(QAccessible::Name), QStringLiteral("Smile"));
+        pressAccessibly(m_box.get());
+        QVERIFY(!m_box->view()->isVisible());
+
+        m_box->setEditable(true);
+        QCOMPARE(seen->childCount(), 2);
+        QCOMPARE(seen->child(1)->object(), m_box->lineEdit());
+        QCOMPARE(seen->indexOfChild(seen->child(1)), 1);
+        QVERIFY(seen->state().editable);
+        const QPoint inEdit = m_box->lineEdit()->mapToGlobal(QPoint(1, 1));
+        QCOMPARE(seen->childAt(inEdit.x(), inEdit.y()), seen->child(1));
+        m_box->setEnabled(false);
+        QVERIFY(!isAccessiblyPressable(m_box.get()));
+        pressAccessibly(m_box.get());
+        QVERIFY(!m_box->view()->isVisible());
+    }
+
+private:
+    void addItems(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            m_box->addItem(flatIcon(), QStringLiteral("Item %1").arg(i));
+    }
+
+    std::unique_ptr<OmIconComboBox> m_box;
+};
+
+OMBRIN_TEST_MAIN(tst_OmIconComboBox)
+#include "tst_omiconcombobox.moc"

@@ -12,9 +12,10 @@ namespace ombrin {
 
 /// Distances of the skinned frame, in logical pixels.
 namespace frame_metrics {
-constexpr int kBorder = 5;         ///< left, right and bottom border
-constexpr int kTitleHeight = 30;   ///< top border, the title band
-constexpr int kTopLeftWidth = 86;  ///< where the stretched part of the top begins
+constexpr int kBorder = 5;                      ///< left, right and bottom border
+constexpr int kTitleHeight = 30;                ///< top border, the title band
+constexpr int kLastTitleBandRow = kTitleHeight; ///< last row of double click and header menu
+constexpr int kTopLeftWidth = 86;               ///< where the stretched part of the top begins
 constexpr int kTopRightWidth = 88; ///< what the stretched part of the top leaves at the right
 constexpr int kMinimumWidth = kTopLeftWidth + kTopRightWidth;
 constexpr int kMinimumHeight = kTitleHeight + kBorder;

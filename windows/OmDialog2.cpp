@@ -97,7 +97,7 @@ void OmDialog2::paintEvent(QPaintEvent *event)
 
 void OmDialog2::resizeEvent(QResizeEvent *event)
 {
-    m_frame->placeButtons();
+    m_frame->titleBar().placeButtons();
     computeAndSetMask();
     QTimer::singleShot(SkinFrame::kDeferral, this, &OmDialog2::slotCheckState);
     QDialog::resizeEvent(event);
@@ -125,14 +125,15 @@ void OmDialog2::setButtons()
 
 void OmDialog2::slotCheckState()
 {
-    m_frame->checkState();
+    m_frame->titleBar().checkState();
 }
 
 void OmDialog2::slotHeaderContextMenu(const QPoint &pos)
 {
-    m_frame->popupHeaderMenu(pos, {[this] { slotOp100Timer(); }, [this] { slotOp80Timer(); },
-                                   [this] { slotOp60Timer(); }, [this] { slotOp50Timer(); },
-                                   [this] { slotOp40Timer(); }, [this] { slotOp20Timer(); }});
+    m_frame->titleBar().popupHeaderMenu(pos,
+                                        {[this] { slotOp100Timer(); }, [this] { slotOp80Timer(); },
+                                         [this] { slotOp60Timer(); }, [this] { slotOp50Timer(); },
+                                         [this] { slotOp40Timer(); }, [this] { slotOp20Timer(); }});
 }
 
 void OmDialog2::slotOp100Timer()

@@ -115,7 +115,7 @@ void OmWindow::paintEvent(QPaintEvent *event)
 
 void OmWindow::resizeEvent(QResizeEvent *event)
 {
-    m_frame->placeButtons();
+    m_frame->titleBar().placeButtons();
     computeAndSetMask();
     QTimer::singleShot(SkinFrame::kDeferral, this, &OmWindow::slotCheckState);
     QWidget::resizeEvent(event);
@@ -143,14 +143,15 @@ void OmWindow::setButtons()
 
 void OmWindow::slotCheckState()
 {
-    m_frame->checkState();
+    m_frame->titleBar().checkState();
 }
 
 void OmWindow::slotHeaderContextMenu(const QPoint &pos)
 {
-    m_frame->popupHeaderMenu(pos, {[this] { slotOp100Timer(); }, [this] { slotOp80Timer(); },
-                                   [this] { slotOp60Timer(); }, [this] { slotOp50Timer(); },
-                                   [this] { slotOp40Timer(); }, [this] { slotOp20Timer(); }});
+    m_frame->titleBar().popupHeaderMenu(pos,
+                                        {[this] { slotOp100Timer(); }, [this] { slotOp80Timer(); },
+                                         [this] { slotOp60Timer(); }, [this] { slotOp50Timer(); },
+                                         [this] { slotOp40Timer(); }, [this] { slotOp20Timer(); }});
 }
 
 void OmWindow::slotAlwaysOnTopTimer()

@@ -1,16 +1,12 @@
 #include "windows/SkinFrame.h"
 
 #include "platform/NativeHandle.h"
-#include "skin/SkinPixmap.h"
 #include "windows/MoveResizeHandler.h"
 
-#include <ombrin/OmImageButton.h>
 #include <ombrin/OmQtCompat.h>
 #include <ombrin/OmStatusBar.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
-#include <QtGui/QBitmap>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
@@ -18,7 +14,6 @@
 #include <QtGui/QStatusTipEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 
 namespace ombrin {
@@ -27,69 +22,16 @@ using namespace frame_metrics;
 
 namespace {
 
-constexpr int kLastTitleBandRow = kTitleHeight;
 constexpr int kStatusTipDuration = 1000; // milliseconds
-constexpr int kButtonTop = 5;
-
-struct ButtonSpec
-{
-    const char *name; // of its pictures
-    const char *toolTip;
-    int rightDistance; // from the window's right edge to the button's left one
-};
-
-// In the order minimise, maximise, restore, close.
-constexpr ButtonSpec kButtons[] = {
-        {"minimize", QT_TRANSLATE_NOOP("ombrin::OmWindow", "Minimize"), 79},
-        {"maximize", QT_TRANSLATE_NOOP("ombrin::OmWindow", "Maximize"), 54},
-        {"restore", QT_TRANSLATE_NOOP("ombrin::OmWindow", "Restore"), 54},
-        {"close", QT_TRANSLATE_NOOP("ombrin::OmWindow", "Close"), 29},
-};
-
-constexpr const char *kOpacityTitle = QT_TRANSLATE_NOOP("ombrin::OmWindow", "Opacity");
-
-constexpr const char *kOpacityTexts[] = {
-        QT_TRANSLATE_NOOP("ombrin::OmWindow", "100%"), QT_TRANSLATE_NOOP("ombrin::OmWindow", "80%"),
-        QT_TRANSLATE_NOOP("ombrin::OmWindow", "60%"),  QT_TRANSLATE_NOOP("ombrin::OmWindow", "50%"),
-        QT_TRANSLATE_NOOP("ombrin::OmWindow", "40%"),  QT_TRANSLATE_NOOP("ombrin::OmWindow", "20%"),
-};
-static_assert(std::size(kOpacityTexts) == std::tuple_size_v<SkinFrame::OpacitySlots>);
-
-// The same texts in the dialog's context, for translators.
-[[maybe_unused]] constexpr const char *kDialogTexts[] = {
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "Minimize"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "Maximize"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "Restore"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "Close"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "Opacity"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "100%"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "80%"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "60%"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "50%"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "40%"),
-        QT_TRANSLATE_NOOP("ombrin::OmDialog2", "20%"),
-};
-
-QString buttonPicture(const char *name, const char *state, bool active)
-{
-    return QStringLiteral(":/%1_%2_%3")
-            .arg(QLatin1String(name), QLatin1String(state),
-                 active ? QLatin1String("active") : QLatin1String("inactive"));
-}
 
 } // namespace
 
 SkinFrame::SkinFrame(QWidget *window, const char *translationContext)
     : m_window(window)
-    , m_translationContext(translationContext)
+    , m_titleBar(window, translationContext)
 {}
 
 SkinFrame::~SkinFrame() = default;
-
-QString SkinFrame::translated(const char *text) const
-{
-    return QCoreApplication::translate(m_translationContext, text);
-}
 
 // Building
 
@@ -109,53 +51,13 @@ void SkinFrame::extendNativeStyle()
 
 void SkinFrame::build()
 {
-    for (int index = 0; index < ButtonCount; ++index)
-        createButton(static_cast<ButtonIndex>(index));
-    m_buttons[Restore]->close();
-    setButtonTexts();
+    m_titleBar.createButtons();
 
     m_handler = new MoveResizeHandler(m_window);
     m_window->setContentsMargins(kBorder, kTitleHeight, kBorder, kBorder);
     m_window->setMinimumHeight(kMinimumHeight);
     m_window->setMinimumWidth(kMinimumWidth);
     m_window->setContextMenuPolicy(Qt::CustomContextMenu);
-}
-
-void SkinFrame::createButton(ButtonIndex index)
-{
-    const QPixmap picture = skinPixmap(buttonPicture(kButtons[index].name, "up", true), 1);
-    auto *button = new OmImageButton(m_window);
-    button->setFixedSize(picture.size());
-    button->setMask(picture.mask());
-    m_buttons[index] = button;
-
-    switch (index) {
-    case Minimize:
-        connect(button, &OmImageButton::clicked, m_window, &QWidget::showMinimized);
-        break;
-    case Maximize:
-        connect(button, &OmImageButton::clicked, m_window, &QWidget::showMaximized);
-        break;
-    case Restore:
-        connect(button, &OmImageButton::clicked, m_window, &QWidget::showNormal);
-        break;
-    case Close:
-        connect(button, &OmImageButton::clicked, m_window, &QWidget::close);
-        break;
-    case ButtonCount:
-        break;
-    }
-}
-
-void SkinFrame::setButtonTexts()
-{
-    for (int index = 0; index < ButtonCount; ++index) {
-        if (!m_buttons[index])
-            continue;
-        const QString text = translated(kButtons[index].toolTip);
-        m_buttons[index]->setToolTip(text);
-        m_buttons[index]->setAccessibleName(text);
-    }
 }
 
 // Native window
@@ -178,8 +80,7 @@ void SkinFrame::followScreen()
     disconnect(m_screenChange);
     if (QWindow *native = m_window->windowHandle()) {
         m_screenChange = connect(native, &QWindow::screenChanged, this, [this] {
-            if (m_hasButtonPictures)
-                setButtons();
+            m_titleBar.followDensity(m_active);
             m_window->update();
         });
     }
@@ -211,10 +112,7 @@ void SkinFrame::setFixed(bool fixed)
     NativeWindow::setMaximizeBox(NativeWindow::handleOf(m_window), !fixed);
     if (m_handler)
         m_handler->setActive(MoveResizeHandler::Action::Resize, !fixed);
-    for (const ButtonIndex index : {Maximize, Restore}) {
-        if (m_buttons[index])
-            m_buttons[index]->setEnabled(!fixed);
-    }
+    m_titleBar.setMaximizingEnabled(!fixed);
 }
 
 // Content
@@ -312,10 +210,10 @@ void SkinFrame::handleEvent(QEvent *event)
         break;
     case QEvent::WindowStateChange:
         // The window system may tell of the state after the resize, or maximise without one.
-        QTimer::singleShot(kDeferral, this, &SkinFrame::checkState);
+        QTimer::singleShot(kDeferral, this, [this] { m_titleBar.checkState(); });
         break;
     case QEvent::LanguageChange:
-        setButtonTexts();
+        m_titleBar.translate();
         break;
     default:
         break;
@@ -365,53 +263,9 @@ void SkinFrame::computeAndSetMask()
     m_window->setMask(frameShape(m_window->size()));
 }
 
-// Title bar
-
-void SkinFrame::placeButtons()
-{
-    for (int index = 0; index < ButtonCount; ++index) {
-        if (m_buttons[index])
-            m_buttons[index]->move(m_window->width() - kButtons[index].rightDistance, kButtonTop);
-    }
-}
-
 void SkinFrame::setButtons()
 {
-    m_hasButtonPictures = true;
-    const qreal density = m_window->devicePixelRatioF();
-    for (int index = 0; index < ButtonCount; ++index) {
-        OmImageButton *button = m_buttons[index];
-        if (!button)
-            continue;
-        const char *name = kButtons[index].name;
-        button->setPixmapUp(skinPixmap(buttonPicture(name, "up", m_active), density));
-        button->setPixmapDown(skinPixmap(buttonPicture(name, "down", m_active), density));
-        button->setPixmapHovered(skinPixmap(buttonPicture(name, "hover", m_active), density));
-        button->setPixmapDisabled(skinPixmap(buttonPicture(name, "disabled", m_active), density));
-    }
-}
-
-void SkinFrame::checkState()
-{
-    const bool maximized = m_window->windowState().testFlag(Qt::WindowMaximized);
-    if (m_buttons[Maximize])
-        m_buttons[Maximize]->setVisible(!maximized);
-    if (m_buttons[Restore])
-        m_buttons[Restore]->setVisible(maximized);
-}
-
-void SkinFrame::popupHeaderMenu(const QPoint &position, const OpacitySlots &opacitySlots)
-{
-    if (position.y() > kLastTitleBandRow)
-        return;
-    auto *menu = new QMenu(m_window);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    QMenu *opacities = menu->addMenu(translated(kOpacityTitle));
-    for (std::size_t index = 0; index < opacitySlots.size(); ++index) {
-        const QAction *action = opacities->addAction(translated(kOpacityTexts[index]));
-        connect(action, &QAction::triggered, m_window, opacitySlots[index]);
-    }
-    menu->popup(QCursor::pos());
+    m_titleBar.setPictures(m_active);
 }
 
 } // namespace ombrin

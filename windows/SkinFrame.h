@@ -1,15 +1,13 @@
 #pragma once
 
 #include "windows/FramePainter.h"
+#include "windows/TitleBar.h"
 
 #include <ombrin/OmGlobal.h>
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
-
-#include <array>
-#include <functional>
 
 class QByteArray;
 class QMenuBar;
@@ -20,7 +18,6 @@ class QWidget;
 namespace ombrin {
 
 class MoveResizeHandler;
-class OmImageButton;
 class OmStatusBar;
 
 /// Everything that makes a plain window a skinned one: border, title, shape, title-bar buttons,
@@ -33,9 +30,6 @@ public:
     /// How long an action waits for the menu it was chosen from to close, or for a resize to
     /// settle, in milliseconds.
     static constexpr int kDeferral = 20;
-
-    /// What the entries of the header menu call, in their order: 100, 80, 60, 50, 40 and 20 %.
-    using OpacitySlots = std::array<std::function<void()>, 6>;
 
     /// A frame for \a window, whose texts are translated in \a translationContext.
     SkinFrame(QWidget *window, const char *translationContext);
@@ -70,40 +64,30 @@ public:
     void handleDoubleClick(const QMouseEvent *event);
     void handleNativeEvent(const QByteArray &eventType, void *message) const;
     void paint(QPaintEvent *event);
-    void placeButtons();
     /// Gives the content the contents rectangle when there is no layout.
     void placeContent();
 
     void computeAndSetMask();
+    /// Gives the title-bar buttons the pictures of the window's activation.
     void setButtons();
-    void checkState();
 
-    /// Opens the header menu at the mouse pointer if \a position, in window coordinates, lies in
-    /// the title band. Choosing an opacity calls its function in \a opacitySlots.
-    void popupHeaderMenu(const QPoint &position, const OpacitySlots &opacitySlots);
+    const TitleBar &titleBar() const { return m_titleBar; }
 
 private:
-    enum ButtonIndex { Minimize, Maximize, Restore, Close, ButtonCount };
-
-    QString translated(const char *text) const;
-    void createButton(ButtonIndex index);
-    void setButtonTexts();
     void restoreNativeStyle();
     void followScreen();
     QFont titleFont() const;
     void insertMenuBar();
 
     QWidget *m_window;
-    const char *m_translationContext;
     bool m_active = true;
     bool m_fixed = false;
     bool m_alwaysOnTop = false;
     bool m_useLayout = true;
-    bool m_hasButtonPictures = false;
     QString m_title;
+    TitleBar m_titleBar;
     FramePainter m_painter;
     QPointer<MoveResizeHandler> m_handler;
-    QPointer<OmImageButton> m_buttons[ButtonCount];
     QPointer<QMenuBar> m_menuBar;
     QPointer<OmStatusBar> m_statusBar;
     QPointer<QWidget> m_content;

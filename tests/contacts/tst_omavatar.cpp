@@ -1,0 +1,252 @@
+#include "contacts/GifWriter.h"
+#include "support/TestCase.h"
+
+#include <ombrin/OmAvatar.h>
+#include <ombrin/OmFaderWidget.h>
+
+#include <QtCore/QBuffer>
+#include <QtGui/QMovie>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
+
+#include <memory>
+
+using ombrin::OmAvatar;
+using ombrin::OmFaderWidget;
+
+namespace {
+
+QPixmap picture(const QSize &size, const QColor &color = Qt::red)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+QLabel *labelOf(const OmAvatar &avatar)
+{
+    return avatar.findChild<QLabel *>();
+}
+
+// A file of its own for every picture: Qt remembers pictures by their files' names.
+class File : public QTemporaryFile
+{
+public:
+    explicit File(const QByteArray &contents)
+    {
+        if (open())
+            write(contents);
+        close();
+    }
+};
+
+QByteArray encoded(const char *format)
+{
+    QImage image(200, 150, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x, y, x * y % 256));
+    }
+    QBuffer buffer;
+    image.save(&buffer, format);
+    return buffer.data();
+}
+
+OmAvatar *shownAvatar()
+{
+    auto *const avatar = new OmAvatar(picture(QSize(60, 40)));
+    avatar->move(100, 100);
+    avatar->show();
+    return avatar;
+}
+
+} // namespace
+
+class tst_OmAvatar : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAFramelessPopupOfThePicturesSize_data()
+    {
+        QTest::addColumn<QPixmap>("pixmap");
+        QTest::addColumn<QSize>("size");
+        QPixmap dense = picture(QSize(60, 40));
+        dense.setDevicePixelRatio(2);
+        QTest::newRow("picture") << picture(QSize(60, 40)) << QSize(62, 42);
+        QTest::newRow("dense picture") << dense << QSize(32, 22);
+        QTest::newRow("null") << QPixmap() << QSize(2, 2);
+    }
+
+    void isAFramelessPopupOfThePicturesSize()
+    {
+        QFETCH(QPixmap, pixmap);
+        QFETCH(QSize, size);
+        QWidget parent;
+        OmAvatar avatar(pixmap, &parent);
+        QCOMPARE(avatar.parentWidget(), &parent);
+        QVERIFY(!avatar.isVisible());
+        QCOMPARE(avatar.windowFlags(), Qt::Popup | Qt::FramelessWindowHint);
+        QVERIFY(avatar.testAttribute(Qt::WA_DeleteOnClose));
+        QCOMPARE(avatar.size(), size);
+        const QLabel *const label = labelOf(avatar);
+        QCOMPARE(label->geometry(), QRect(QPoint(1, 1), size - QSize(2, 2)));
+        QCOMPARE(label->frameShape(), QFrame::Box);
+        QCOMPARE(label->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(avatar.layout()->contentsMargins(), QMargins());
+
+        avatar.setAttribute(Qt::WA_DeleteOnClose, false);
+        avatar.show();
+        QCOMPARE(avatar.size(), size);
+        QCOMPARE(label->geometry(), QRect(QPoint(0, 0), size));
+    }
+
+    void framesThePictureUnscaled()
+    {
+        OmAvatar avatar(picture(QSize(60, 40)));
+        const QImage image = avatar.grab().toImage();
+        QCOMPARE(image.size(), QSize(62, 42));
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const bool isPicture = QRect(1, 1, 60, 40).contains(x, y);
+                QCOMPARE(image.pixelColor(x, y) == QColor(Qt::red), isPicture);
+            }
+        }
+    }
+
+    // Else the paints of a fade pile up there.
+    void groundShowsBehindTransparentPictures()
+    {
+        OmAvatar avatar(picture(QSize(60, 40), Qt::transparent));
+        QPixmap target(avatar.size());
+        target.fill(Qt::green);
+        avatar.render(&target, QPoint(), QRegion(), QWidget::DrawChildren);
+        QCOMPARE(target.toImage().pixelColor(30, 20), avatar.palette().color(QPalette::Window));
+    }
+
+    void fadesAwayAndDeletesItself_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QPoint>("place");
+        QTest::addColumn<int>("clicks");
+        QTest::newRow("left button") << int(Qt::LeftButton) << QPoint(10, 10) << 1;
+        QTest::newRow("right button") << int(Qt::RightButton) << QPoint(10, 10) << 0;
+        QTest::newRow("outside") << int(Qt::LeftButton) << QPoint(62, 10) << 0;
+        QTest::newRow("mouse leaves") << int(Qt::NoButton) << QPoint() << 0;
+    }
+
+    void fadesAwayAndDeletesItself()
+    {
+        QFETCH(int, button);
+        QFETCH(QPoint, place);
+        QFETCH(int, clicks);
+        const QPointer<OmAvatar> avatar = shownAvatar();
+        QSignalSpy clicked(avatar, &OmAvatar::clicked);
+        // More than once: each starts a fade, and the first to end closes the avatar.
+        for (int time = 0; time < 2; ++time) {
+            if (button == Qt::NoButton) {
+                QEvent leave(QEvent::Leave);
+                QApplication::sendEvent(avatar, &leave);
+            } else {
+                QTest::mouseRelease(avatar, static_cast<Qt::MouseButton>(button), Qt::NoModifier,
+                                    place);
+            }
+        }
+        QVERIFY(avatar->isVisible());
+        QCOMPARE(avatar->findChildren<OmFaderWidget *>().size(), 2);
+        QCOMPARE(clicked.size(), 2 * clicks);
+        QVERIFY(waitFor([&] { return avatar.isNull(); }));
+    }
+
+    void fadingInLeavesItOpen()
+    {
+        const QPointer<OmAvatar> avatar = shownAvatar();
+        QVERIFY(QMetaObject::invokeMethod(avatar, "slotFadeDone", Q_ARG(bool, false)));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(avatar && avatar->isVisible());
+        avatar->close();
+        QVERIFY(waitFor([&] { return avatar.isNull(); }));
+    }
+
+    void hostMayDeleteItAsItIsClicked()
+    {
+        const QPointer<OmAvatar> avatar = shownAvatar();
+        connect(avatar, &OmAvatar::clicked, this, [&avatar] { delete avatar; });
+        QTest::mouseRelease(avatar, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+        QVERIFY(!avatar);
+    }
+
+    void showsPictureFiles()
+    {
+        const File file(encoded("png"));
+        const OmAvatar avatar(file.fileName());
+        QCOMPARE(avatar.size(), QSize(202, 152));
+        QVERIFY(!labelOf(avatar)->movie());
+        QCOMPARE(labelOf(avatar)->pixmap(Qt::ReturnByValue).toImage().pixel(7, 9), qRgb(7, 9, 63));
+    }
+
+    void playsAnimations_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("cacheMode");
+        QTest::newRow("small") << QSize(30, 20) << int(QMovie::CacheAll);
+        QTest::newRow("too large to keep all frames")
+                << QSize(4096, 2100) << int(QMovie::CacheNone);
+    }
+
+    void playsAnimations()
+    {
+        QFETCH(QSize, size);
+        QFETCH(int, cacheMode);
+        const File file(gif_writer::animation(size, size.boundedTo(QSize(410, 210))));
+        auto avatar = std::make_unique<OmAvatar>(file.fileName());
+        QCOMPARE(avatar->size(), size + QSize(2, 2));
+        QVERIFY(labelOf(*avatar)->autoFillBackground());
+        QPointer<QMovie> movie = labelOf(*avatar)->movie();
+        QVERIFY(movie);
+        QCOMPARE(movie->state(), QMovie::Running);
+        QCOMPARE(int(movie->cacheMode()), cacheMode);
+        const QColor first = movie->currentImage().pixelColor(5, 5);
+        QVERIFY(waitFor([&] { return movie->currentImage().pixelColor(5, 5) != first; }));
+        avatar.reset();
+        QVERIFY(!movie);
+    }
+
+    void damagedFilesAreHarmless_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("gif") << gif_writer::animation(QSize(30, 20), QSize(30, 20));
+        QTest::newRow("jpeg") << encoded("jpg");
+        QTest::newRow("png") << encoded("png");
+        QTest::newRow("bmp") << encoded("bmp");
+    }
+
+    void damagedFilesAreHarmless()
+    {
+        QFETCH(QByteArray, contents);
+        expectWarning(QStringLiteral(".*")); // the decoders' own
+        for (int parts = 0; parts < 16; ++parts) {
+            const File truncated(contents.left(contents.size() * parts / 16));
+            QByteArray bytes = contents;
+            for (int at = 20 + parts; at < bytes.size(); at += 97)
+                bytes[at] = static_cast<char>(~bytes.at(at));
+            const File garbled(bytes);
+            for (const File *file : {&truncated, &garbled}) {
+                OmAvatar avatar(file->fileName());
+                QVERIFY(avatar.width() >= 2 && avatar.width() <= 4098);
+                QCOMPARE(avatar.grab().isNull(), false);
+                QTest::qWait(1);
+            }
+        }
+    }
+
+    void whatIsNoPictureGivesAnEmptyFrame()
+    {
+        QCOMPARE(OmAvatar(QStringLiteral("/nowhere/to/be.found")).size(), QSize(2, 2));
+        QCOMPARE(OmAvatar(QDir::tempPath()).size(), QSize(2, 2));
+        QCOMPARE(OmAvatar(QString()).size(), QSize(2, 2));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmAvatar)
+#include "tst_omavatar.moc"

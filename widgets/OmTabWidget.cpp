@@ -17,7 +17,6 @@ void exchangePages(QStackedWidget *stack, int first, int second)
 {
     QWidget *const firstPage = stack->widget(first);
     QWidget *const secondPage = stack->widget(second);
-    const QPointer<QWidget> focus(stack->window()->focusWidget());
     // A tab widget removes the tab of a page that its stack reports as removed.
     const QSignalBlocker blocker(stack);
     stack->removeWidget(firstPage);
@@ -30,9 +29,6 @@ void exchangePages(QStackedWidget *stack, int first, int second)
         stack->insertWidget(second, firstPage);
     }
     stack->setCurrentIndex(first);
-    const QWidget *const page = stack->currentWidget();
-    if (focus && (page == focus || page->isAncestorOf(focus)))
-        focus->setFocus();
 }
 
 } // namespace

@@ -63,6 +63,16 @@ void OmStyle2::drawComboBox(const QStyleOptionComplex *option, QPainter *painter
     const int height = qRound(normal.height() / normal.devicePixelRatio());
     painter->drawPixmap(arrow.left(), option->rect.top() + (arrow.height() - height) / 2,
                         skinPixmapFor(comboArrow(*option), painter));
+
+    // An editable box leaves it to the cursor in its line edit.
+    const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (!box || box->editable || !(box->state & State_HasFocus))
+        return;
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(*box);
+    focus.rect = proxy()->subElementRect(SE_ComboBoxFocusRect, box, widget);
+    focus.backgroundColor = box->palette.color(QPalette::Base);
+    proxy()->drawPrimitive(PE_FrameFocusRect, &focus, painter, widget);
 }
 
 } // namespace ombrin

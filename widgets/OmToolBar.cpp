@@ -4,6 +4,8 @@
 #include <QtCore/QTimer>
 #include <QtGui/QResizeEvent>
 
+#include <utility>
+
 namespace ombrin {
 
 namespace {
@@ -25,7 +27,7 @@ OmToolBar::~OmToolBar() = default;
 void OmToolBar::setButtonList(QList<QToolButton *> buttons)
 {
     m_buttons.clear();
-    for (QToolButton *button : qAsConst(buttons))
+    for (QToolButton *button : std::as_const(buttons))
         m_buttons.append(button);
 }
 
@@ -59,7 +61,7 @@ void OmToolBar::slotResize()
 void OmToolBar::measure()
 {
     m_totalWidth = 0;
-    for (const QPointer<QToolButton> &button : qAsConst(m_buttons))
+    for (const QPointer<QToolButton> &button : std::as_const(m_buttons))
         m_totalWidth += button ? button->width() : 0;
     m_measurePending = false;
     setMinimumSize(0, 0);
@@ -70,7 +72,7 @@ void OmToolBar::checkWidth()
     const Qt::ToolButtonStyle style = width() - kSpareWidth > m_totalWidth
                                               ? Qt::ToolButtonTextBesideIcon
                                               : Qt::ToolButtonIconOnly;
-    for (const QPointer<QToolButton> &button : qAsConst(m_buttons)) {
+    for (const QPointer<QToolButton> &button : std::as_const(m_buttons)) {
         if (button)
             button->setToolButtonStyle(style);
     }

@@ -1,0 +1,92 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+#include "support/XUser.h"
+
+#include <ombrin/OmAvatar.h>
+#include <ombrin/OmAvatarSmall.h>
+#include <ombrin/OmInfoPopup.h>
+#include <ombrin/OmSkin.h>
+
+#include <QtGui/QScreen>
+
+using namespace ombrin::test;
+using ombrin::OmAvatar;
+using ombrin::OmAvatarSmall;
+using ombrin::OmInfoPopup;
+
+// Two screens on a real X server, the second twice as dense as the first.
+class tst_PopupsScreens : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCOMPARE(QGuiApplication::screens().size(), 2);
+        ombrin::OmSkin::init(false);
+    }
+
+    void popupsOpenOnTheScreenOfTheirWidget_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::newRow("second screen on the right") << QStringLiteral("--right-of");
+        QTest::newRow("second screen on the left") << QStringLiteral("--left-of");
+        QTest::newRow("second screen above") << QStringLiteral("--above");
+        QTest::newRow("second screen below") << QStringLiteral("--below");
+    }
+
+    void popupsOpenOnTheScreenOfTheirWidget()
+    {
+        QFETCH(QString, place);
+        runBeside(QStringLiteral("xrandr"), {QStringLiteral("--output"), QStringLiteral("DUMMY1"),
+                                             place, QStringLiteral("DUMMY0")});
+        QTest::qWait(500);
+
+        const QList<QScreen *> screens = QGuiApplication::screens();
+        QCOMPARE(screens.size(), 2);
+        for (const QScreen *screen : screens) {
+            const QRect area = screen->geometry();
+            const QPoint far = area.bottomRight() - QPoint(100, 100);
+            for (const QPoint &position : {area.topLeft(), far}) {
+                QWidget window(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+                window.setGeometry(QRect(position, QSize(90, 90)));
+                OmAvatarSmall small(&window);
+                small.setGeometry(4, 4, 50, 50);
+                OmInfoPopup icon(&window);
+                icon.move(60, 60);
+                window.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+                QPixmap picture(200, 300);
+                picture.fill(Qt::red);
+                small.setAvatar(picture, false);
+                QVERIFY(QMetaObject::invokeMethod(&small, "slotAvatar"));
+                const QPointer<OmAvatar> avatar = small.findChild<OmAvatar *>();
+                QVERIFY(QTest::qWaitForWindowExposed(avatar));
+                QCOMPARE(avatar->size(), QSize(202, 302));
+                checkIsOn(avatar, screen);
+                const QPoint anchor = position + QPoint(8, 8);
+                QCOMPARE(avatar->pos(),
+                         position == far ? anchor + QPoint(50 - 202, 50 - 302) : anchor);
+                avatar->close();
+                QVERIFY(waitFor([&] { return avatar.isNull(); }));
+
+                sendEnter(&icon);
+                QWidget *const popup = QApplication::activePopupWidget();
+                QVERIFY(popup && QTest::qWaitForWindowExposed(popup));
+                checkIsOn(popup, screen);
+            }
+        }
+    }
+
+private:
+    static void checkIsOn(const QWidget *popup, const QScreen *screen)
+    {
+        QCOMPARE(popup->screen(), screen);
+        QCOMPARE(popup->devicePixelRatioF(), screen->devicePixelRatio());
+        QVERIFY(screen->geometry().contains(popup->geometry()));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_PopupsScreens)
+#include "tst_popups_screens.moc"

@@ -1,0 +1,219 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include "skin/SkinPixmap.h"
+
+#include <ombrin/OmFaderWidget.h>
+#include <ombrin/OmInfoPopup.h>
+#include <ombrin/OmSkin.h>
+#include <ombrin/OmTrayPopup.h>
+
+#include <QtGui/QScreen>
+#include <QtWidgets/QTextEdit>
+#include <QtWidgets/QVBoxLayout>
+
+#include <memory>
+
+using namespace ombrin::test;
+using ombrin::OmFaderWidget;
+using ombrin::OmInfoPopup;
+
+namespace {
+
+// The icon in a window, as hosts have it.
+struct Host
+{
+    explicit Host(const QPoint &position = QPoint(100, 100))
+    {
+        window.setGeometry(QRect(position, QSize(200, 100)));
+        icon->move(20, 30);
+        icon->setPopupMessage(QStringLiteral("A <b>message</b>"));
+        window.show();
+    }
+
+    void hover()
+    {
+        sendEnter(icon);
+        popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+    }
+
+    bool waitForFades() const
+    {
+        return TestCase::waitFor([this] { return fades() == 0; });
+    }
+
+    int fades() const { return int(popup->findChildren<OmFaderWidget *>().size()); }
+
+    QWidget window;
+    QPointer<OmInfoPopup> icon = new OmInfoPopup(&window);
+    QPointer<QWidget> popup;
+};
+
+} // namespace
+
+class tst_OmInfoPopup : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { ombrin::OmSkin::init(false); }
+
+    void isAnIconOfFixedSize()
+    {
+        OmInfoPopup icon(nullptr);
+        QCOMPARE(icon.minimumSize(), QSize(16, 16));
+        QCOMPARE(icon.maximumSize(), QSize(16, 16));
+        QCOMPARE(icon.pixmap(Qt::ReturnByValue).toImage(),
+                 ombrin::skinPixmap(QStringLiteral(":/is_typing-16")).toImage());
+        QVERIFY(icon.popupMessage().isNull() && icon.notice().isNull() && !icon.noticeInput());
+        icon.setNotice(QStringLiteral("notice"));
+        icon.setPopupMessage(QStringLiteral("message"));
+        icon.enableNoticeInput(true);
+        QCOMPARE(icon.notice(), QStringLiteral("notice"));
+        QCOMPARE(icon.popupMessage(), QStringLiteral("message"));
+        QVERIFY(icon.noticeInput());
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    void hoveringFadesInAYellowPopup()
+    {
+        Host host;
+        host.hover();
+        QVERIFY(!host.popup->parentWidget());
+        QCOMPARE(host.popup->windowFlags(), Qt::Popup | Qt::FramelessWindowHint);
+        QCOMPARE(host.popup->geometry(), QRect(120, 130, 150, 150));
+        QVERIFY(qobject_cast<QVBoxLayout *>(host.popup->layout()));
+        const auto *const message = host.popup->findChild<QLabel *>();
+        QVERIFY(message->wordWrap());
+        QCOMPARE(message->text(), QStringLiteral("A <b>message</b>"));
+        QCOMPARE(message->textFormat(), Qt::PlainText);
+        QVERIFY(!host.popup->findChild<QTextEdit *>());
+
+        const auto *const fader = host.popup->findChild<OmFaderWidget *>();
+        QVERIFY(fader);
+        QCOMPARE(fader->fadeColor(), QColor(QStringLiteral("#fffc00")));
+        QCOMPARE(fader->size(), QSize(150, 150));
+        QVERIFY(host.waitForFades());
+        QVERIFY(host.popup->isVisible());
+        QCOMPARE(host.popup->grab().toImage().pixelColor(2, 2), QColor(QStringLiteral("#fffc00")));
+    }
+
+    void leavingFadesThePopupOutAndKeepsTheIcon()
+    {
+        Host host;
+        host.hover();
+        QVERIFY(host.waitForFades());
+        sendLeave(host.icon);
+        QVERIFY(host.popup->isVisible());
+        QCOMPARE(host.fades(), 1);
+        QVERIFY(waitFor([&] { return !host.popup->isVisible(); }));
+        QVERIFY(host.icon && host.icon->isVisible());
+    }
+
+    void popupIsBuiltOnceAndUsedAgain_data()
+    {
+        QTest::addColumn<bool>("noticeInput");
+        QTest::newRow("message alone") << false;
+        QTest::newRow("with notice") << true;
+    }
+
+    void popupIsBuiltOnceAndUsedAgain()
+    {
+        QFETCH(bool, noticeInput);
+        Host host;
+        host.icon->setNotice(QStringLiteral("<i>notice</i>"));
+        host.icon->enableNoticeInput(noticeInput);
+        host.hover();
+        const QPointer<QWidget> first = host.popup;
+        host.popup->close();
+
+        host.icon->enableNoticeInput(!noticeInput);
+        host.icon->setNotice(QStringLiteral("another"));
+        host.icon->setPopupMessage(QStringLiteral("another"));
+        host.window.move(150, 120);
+        host.popup->resize(20, 20);
+        host.hover();
+        QCOMPARE(host.popup, first);
+        QCOMPARE(host.popup->geometry(),
+                 QRect(host.icon->mapToGlobal(QPoint(0, 0)), QSize(150, 150)));
+        QCOMPARE(host.popup->findChild<QLabel *>()->text(), QStringLiteral("A <b>message</b>"));
+        const auto *const box = host.popup->findChild<QTextEdit *>();
+        QCOMPARE(box != nullptr, noticeInput);
+        if (box) {
+            QCOMPARE(box->toPlainText(), QStringLiteral("<i>notice</i>"));
+            QVERIFY(box->y() > host.popup->findChild<QLabel *>()->y());
+        }
+    }
+
+    void comingBackKeepsThePopupOpen_data()
+    {
+        QTest::addColumn<bool>("toPopup");
+        QTest::newRow("to the icon") << false;
+        QTest::newRow("to the pop-up") << true;
+    }
+
+    void comingBackKeepsThePopupOpen()
+    {
+        QFETCH(bool, toPopup);
+        Host host;
+        host.hover();
+        sendLeave(host.icon);
+        sendEnter(toPopup ? host.popup.data() : host.icon.data());
+        QVERIFY(host.waitForFades());
+        QVERIFY(host.popup->isVisible());
+        sendLeave(toPopup ? host.popup.data() : static_cast<QWidget *>(host.icon.data()));
+        QVERIFY(waitFor([&] { return !host.popup->isVisible(); }));
+    }
+
+    // As a click outside of it does.
+    void closingThePopupMeanwhileLeavesNoFadeBehind()
+    {
+        Host host;
+        host.hover();
+        sendLeave(host.icon);
+        host.popup->close();
+        host.hover();
+        QVERIFY(host.waitForFades());
+        QVERIFY(host.popup->isVisible());
+    }
+
+    void popupOpensWhollyOnTheScreen()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        Host host(screen.bottomRight() - QPoint(60, 70));
+        host.hover();
+        QCOMPARE(host.popup->geometry().bottomRight(), screen.bottomRight());
+    }
+
+    void popupGoesWithTheIconAndMayGoBefore()
+    {
+        Host host;
+        host.hover();
+        delete host.popup;
+        sendLeave(host.icon);
+        host.hover();
+        delete host.icon;
+        QVERIFY(!host.popup);
+
+        Host fading;
+        fading.hover();
+        sendLeave(fading.icon);
+        connect(fading.popup->findChildren<OmFaderWidget *>().last(), &OmFaderWidget::done,
+                &fading.window, [&] { delete fading.icon; });
+        QVERIFY(waitFor([&] { return fading.icon.isNull(); }));
+        QVERIFY(!fading.popup);
+    }
+
+    void trayPopupIsAPlainFrame()
+    {
+        ombrin::OmTrayPopup popup;
+        QCOMPARE(popup.metaObject()->className(), "ombrin::OmTrayPopup");
+        QCOMPARE(popup.metaObject()->superClass(), &QFrame::staticMetaObject);
+        QCOMPARE(popup.metaObject()->methodCount(), QFrame::staticMetaObject.methodCount());
+        QCOMPARE(popup.metaObject()->propertyCount(), QFrame::staticMetaObject.propertyCount());
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmInfoPopup)
+#include "tst_ominfopopup.moc"

@@ -2,7 +2,8 @@
 
 #include <ombrin/OmDesktop.h>
 
-#include <QtCore/QPointer>
+#include "widgets/LineEditChange.h"
+
 #include <QtGui/QFocusEvent>
 #include <QtWidgets/QApplication>
 
@@ -31,7 +32,7 @@ void OmLineEdit::setNoFocusMessage(const QString &message)
 {
     // First, so that receivers of textChanged() do not take the message for text.
     m_noFocusMessage = message;
-    QLineEdit::setText(message);
+    replaceText(message);
 }
 
 QString OmLineEdit::noFocusMessage() const
@@ -75,7 +76,12 @@ bool OmLineEdit::showsMessage() const
 void OmLineEdit::showMessage()
 {
     useHintColor();
-    QLineEdit::setText(m_noFocusMessage);
+    replaceText(m_noFocusMessage);
+}
+
+void OmLineEdit::replaceText(const QString &text)
+{
+    changeText(this, [this, &text] { QLineEdit::setText(text); });
 }
 
 void OmLineEdit::useHintColor()

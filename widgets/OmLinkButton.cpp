@@ -87,10 +87,10 @@ void OmLinkButton::paintEvent(QPaintEvent *)
     QStylePainter painter(this);
     painter.save();
     painter.setPen(palette().color(QPalette::Link));
+    const Qt::Alignment alignment =
+            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
     QRect drawn;
-    painter.drawText(textRect,
-                     QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter),
-                     shown, &drawn);
+    painter.drawText(textRect, static_cast<int>(alignment), shown, &drawn);
     const int underline = drawn.bottom() + 1 - metrics.descent();
     painter.drawLine(drawn.left(), underline, drawn.right(), underline);
     if (isCheckable())

@@ -3,8 +3,8 @@
 #include <ombrin/OmQtCompat.h>
 
 #include "skin/SkinPixmap.h"
+#include "widgets/LineEditChange.h"
 
-#include <QtCore/QPointer>
 #include <QtWidgets/QStyleOptionFrame>
 #include <QtWidgets/QStylePainter>
 
@@ -56,11 +56,10 @@ QString OmSearchField::defaultText() const
 
 void OmSearchField::mousePressEvent(QMouseEvent *event)
 {
-    const QPointer<OmSearchField> guard(this);
-    if (isErasable() && eraseArea().contains(mousePosition(event)))
-        clear();
-    if (guard)
-        QLineEdit::mousePressEvent(event);
+    const bool erases = isErasable() && eraseArea().contains(mousePosition(event));
+    if (erases && !changeText(this, [this] { clear(); }))
+        return;
+    QLineEdit::mousePressEvent(event);
 }
 
 void OmSearchField::mouseMoveEvent(QMouseEvent *event)

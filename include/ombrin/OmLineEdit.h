@@ -27,8 +27,9 @@ namespace ombrin {
 /// for a line edit without a parent. A context menu or another pop-up of the line edit does not
 /// count as leaving it.
 ///
-/// As with every QLineEdit, a slot that is connected to textChanged() must not delete the line edit
-/// at once but by deleteLater().
+/// The line edit may be deleted in a slot of the signals that setNoFocusMessage() and
+/// updateFocusMessage() cause. Where the user causes them, by typing or by moving the focus, Qt
+/// allows deleteLater() only.
 class OMBRIN_GUI_EXPORT OmLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -60,6 +61,7 @@ protected:
 private:
     bool showsMessage() const;
     void showMessage();
+    void replaceText(const QString &text);
     void useHintColor();
     void useTextColor();
 

@@ -20,8 +20,8 @@ namespace ombrin {
 /// changes sides. The application's style and the field's style sheet leave room for the icons; a
 /// host that gives the field a style sheet of its own has to leave that room itself.
 ///
-/// As with every QLineEdit, a slot that is connected to textChanged() must not delete the field at
-/// once but by deleteLater().
+/// The field may be deleted in a slot of the signals that it emits when it is erased with the
+/// mouse. As with every QLineEdit that does not hold for those that tell of typing.
 class OMBRIN_GUI_EXPORT OmSearchField : public QLineEdit
 {
     Q_OBJECT

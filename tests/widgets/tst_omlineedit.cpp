@@ -75,6 +75,8 @@ private Q_SLOTS:
     void contextMenuDoesNotCountAsLeaving();
     void propertyAndMappersNeverSeeTheMessage();
     void receiversOfTextChangedNeverSeeTheMessage();
+    void mayBeDeletedWhenTheHostShowsItsMessage_data();
+    void mayBeDeletedWhenTheHostShowsItsMessage();
     void completesWhatIsTyped();
     void readOnlyEditShowsItsMessageToo();
     void composedTextCountsOnceItIsCommitted();
@@ -279,6 +281,36 @@ void tst_OmLineEdit::receiversOfTextChangedNeverSeeTheMessage()
     form.other->setFocus();
     const QStringList nothing{QString(), QString(), QString()};
     QCOMPARE(seen, nothing);
+}
+
+void tst_OmLineEdit::mayBeDeletedWhenTheHostShowsItsMessage_data()
+{
+    QTest::addColumn<bool>("textSignal");
+    QTest::addColumn<bool>("update");
+    QTest::newRow("text, new message") << true << false;
+    QTest::newRow("text, update") << true << true;
+    QTest::newRow("cursor, new message") << false << false;
+    QTest::newRow("cursor, update") << false << true;
+}
+
+void tst_OmLineEdit::mayBeDeletedWhenTheHostShowsItsMessage()
+{
+    QFETCH(bool, textSignal);
+    QFETCH(bool, update);
+    Form form;
+    if (update)
+        form.edit->clear();
+    const QPointer<OmLineEdit> edit(form.edit);
+    const auto destroy = [edit] { delete edit; };
+    if (textSignal)
+        connect(edit, &QLineEdit::textChanged, this, destroy);
+    else
+        connect(edit, &QLineEdit::cursorPositionChanged, this, destroy);
+    if (update)
+        edit->updateFocusMessage();
+    else
+        edit->setNoFocusMessage(QStringLiteral("Somebody"));
+    QVERIFY(!edit);
 }
 
 void tst_OmLineEdit::completesWhatIsTyped()

@@ -65,10 +65,10 @@ QRect drawExpected(QImage *image, const OmLinkButton &button, const QString &tex
     painter.setFont(button.font());
     painter.setPen(color);
     const bool isMirrored = button.layoutDirection() == Qt::RightToLeft;
+    const int alignment = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
     QRect bounds;
     painter.drawText(QRect(2, 0, button.width() - 4, button.height()),
-                     (isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, text,
-                     &bounds);
+                     alignment | Qt::AlignVCenter, text, &bounds);
     const int y = bounds.bottom() + 1 - button.fontMetrics().descent();
     painter.fillRect(bounds.left(), y, bounds.width(), 1, color);
     return bounds;

@@ -88,6 +88,8 @@ private Q_SLOTS:
     void pressInTheStripErases_data();
     void pressInTheStripErases();
     void eraseIconGoesAtOnce();
+    void erasingTellsWhatAnyChangeTells();
+    void mayBeDeletedWhenItIsErased();
     void readOnlyFieldIsNotErased();
     void cursorTellsWhereItErases();
     void completesWhatIsTyped();
@@ -175,8 +177,8 @@ void tst_OmSearchField::drawsTheIconsOfItsState()
 
 void tst_OmSearchField::drawsTheDefaultTextWhileEmptyAndWithoutFocus()
 {
-    Shown<OmSearchField> test;
     Shown<BareField> bare;
+    Shown<OmSearchField> test; // the active one
     QVERIFY(test.isReady());
     const auto expectedPicture = [&](bool withText) {
         bare.field.setText(test.field.text());
@@ -278,6 +280,47 @@ void tst_OmSearchField::eraseIconGoesAtOnce()
     QVERIFY(test.field.hasFocus());
     test.other.setFocus();
     QCOMPARE(picture(&test.field), empty);
+}
+
+void tst_OmSearchField::erasingTellsWhatAnyChangeTells()
+{
+    const auto record = [](QLineEdit *edit, QStringList *log) {
+        connect(edit, &QLineEdit::textChanged, edit,
+                [=](const QString &text) { log->append(QStringLiteral("text \"%1\"").arg(text)); });
+        connect(edit, &QLineEdit::textEdited, edit, [=] { log->append(QStringLiteral("edited")); });
+        connect(edit, &QLineEdit::selectionChanged, edit,
+                [=] { log->append(QStringLiteral("selection")); });
+        connect(edit, &QLineEdit::cursorPositionChanged, edit, [=](int from, int to) {
+            log->append(QStringLiteral("cursor %1 %2").arg(from).arg(to));
+        });
+        edit->setText(QStringLiteral("Ada"));
+        edit->setSelection(0, 2);
+        log->clear();
+    };
+    QStringList expected;
+    QLineEdit plain;
+    record(&plain, &expected);
+    plain.clear();
+
+    QStringList log;
+    OmSearchField field;
+    field.resize(kSize);
+    record(&field, &log);
+    QTest::mousePress(&field, Qt::RightButton, Qt::NoModifier, QPoint(190, 10));
+    QCOMPARE(log, expected);
+    QVERIFY(field.isUndoAvailable());
+}
+
+void tst_OmSearchField::mayBeDeletedWhenItIsErased()
+{
+    QWidget window;
+    QPointer<OmSearchField> field(new OmSearchField(&window));
+    field->resize(kSize);
+    field->setText(QStringLiteral("Ada"));
+    window.show();
+    connect(field, &QLineEdit::textChanged, this, [field] { delete field; });
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
+    QVERIFY(!field);
 }
 
 void tst_OmSearchField::readOnlyFieldIsNotErased()

@@ -30,6 +30,8 @@ constexpr int kIconMargin = 2;
 constexpr QSize kCloseButtonSize(18, 18);
 constexpr int kLayoutMargin = 3;
 constexpr int kLayoutSpacing = 1;
+// Both labels round the height of their text up.
+constexpr int kMetricsSlack = 2;
 constexpr QRgb kBackground = 0xffffffde;
 constexpr int kLightestTextLightness = 127;
 
@@ -249,7 +251,7 @@ void OmBalloonTip::fitTexts(const QSize &room, bool showArrow)
     const QMargins outer = margins(ArrowCorner());
     const int frameWidth = outer.left() + outer.right() + 2 * kLayoutMargin;
     const int frameHeight = outer.top() + outer.bottom() + 2 * kLayoutMargin;
-    QSize space(room.width() - frameWidth, room.height() - frameHeight);
+    QSize space(room.width() - frameWidth, room.height() - frameHeight - kMetricsSlack);
 
     if (!m_titleLabel->isHidden()) {
         constexpr int beside = 2 * (kCloseButtonSize.width() + kLayoutSpacing);

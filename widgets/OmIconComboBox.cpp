@@ -8,6 +8,8 @@
 #include <QtWidgets/QStyleOptionComboBox>
 #include <QtWidgets/QStylePainter>
 
+#include <algorithm>
+
 namespace ombrin {
 
 OmIconComboBox::OmIconComboBox(QWidget *parent)
@@ -26,6 +28,19 @@ OmIconComboBox::OmIconComboBox(QWidget *parent)
 
 OmIconComboBox::~OmIconComboBox() = default;
 
+// Makes the list lower by \a spare pixels at the end that is away from the box. Some styles lay the
+// list over the box; it then still covers it.
+void OmIconComboBox::shrinkPopup(QWidget *popup, int spare) const
+{
+    const int boxTop = mapToGlobal(QPoint(0, 0)).y();
+    QRect geometry = popup->geometry();
+    const int lowestTop = geometry.top() + spare;
+    const bool isAbove = geometry.bottom() <= boxTop;
+    geometry.setHeight(geometry.height() - spare);
+    geometry.moveTop(isAbove ? lowestTop : std::clamp(boxTop, geometry.top(), lowestTop));
+    popup->setGeometry(geometry);
+}
+
 // QComboBox makes room for a row per item.
 void OmIconComboBox::showPopup()
 {
@@ -36,14 +51,8 @@ void OmIconComboBox::showPopup()
     view()->doItemsLayout();
     const QModelIndex last = model()->index(count() - 1, modelColumn(), rootModelIndex());
     const int spare = view()->viewport()->rect().bottom() - view()->visualRect(last).bottom();
-    if (spare <= 0)
-        return;
-    QRect geometry = popup->geometry();
-    if (geometry.bottom() <= mapToGlobal(QPoint(0, 0)).y())
-        geometry.setTop(geometry.top() + spare);
-    else
-        geometry.setBottom(geometry.bottom() - spare);
-    popup->setGeometry(geometry);
+    if (spare > 0)
+        shrinkPopup(popup, spare);
 }
 
 void OmIconComboBox::paintEvent(QPaintEvent *)

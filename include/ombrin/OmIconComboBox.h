@@ -34,6 +34,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    void shrinkPopup(QWidget *popup, int spare) const;
 };
 
 } // namespace ombrin

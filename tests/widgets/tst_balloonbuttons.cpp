@@ -5,9 +5,9 @@
 #include <ombrin/OmPushButton.h>
 #include <ombrin/OmToolButton.h>
 
+#include <QAction>
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtGui/QHelpEvent>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
 
 #include <memory>

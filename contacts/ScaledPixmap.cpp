@@ -4,7 +4,17 @@
 
 #include <QtGui/QPixmapCache>
 
+#include <map>
+#include <tuple>
+
 namespace ombrin {
+
+namespace {
+
+// A host that shows the same picture in ever new sizes makes no more than these.
+constexpr std::size_t kMaxKnownKeys = 256;
+
+} // namespace
 
 QPixmap scaledPixmap(const QPixmap &pixmap, const QSize &size, qreal devicePixelRatio)
 {
@@ -23,16 +33,18 @@ QPixmap scaledSkinPixmap(const QString &path, const QSize &size, qreal devicePix
     if (original.isNull())
         return original;
     // The picture's own key tells one skin from the next.
-    const QString key = QStringLiteral("ombrin_scaled_%1_%2_%3_%4")
-                                .arg(original.cacheKey())
-                                .arg(size.width())
-                                .arg(size.height())
-                                .arg(devicePixelRatio);
+    using Source = std::tuple<qint64, int, int, qreal>;
+    static std::map<Source, QPixmapCache::Key> keys;
+    const Source source(original.cacheKey(), size.width(), size.height(), devicePixelRatio);
     QPixmap scaled;
-    if (QPixmapCache::find(key, &scaled))
+    const auto found = keys.find(source);
+    if (found != keys.end() && QPixmapCache::find(found->second, &scaled))
         return scaled;
+
     scaled = scaledPixmap(original, size, devicePixelRatio);
-    QPixmapCache::insert(key, scaled);
+    if (keys.size() >= kMaxKnownKeys)
+        keys.clear();
+    keys[source] = QPixmapCache::insert(scaled);
     return scaled;
 }
 

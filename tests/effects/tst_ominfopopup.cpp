@@ -198,6 +198,7 @@ private Q_SLOTS:
 
         Host fading;
         fading.hover();
+        QVERIFY(fading.waitForFades());
         sendLeave(fading.icon);
         connect(fading.popup->findChildren<OmFaderWidget *>().last(), &OmFaderWidget::done,
                 &fading.window, [&] { delete fading.icon; });

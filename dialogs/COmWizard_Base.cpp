@@ -12,7 +12,11 @@ COmWizard_Base::COmWizard_Base()
     ombrin::whenLanguageChanges(this, [this] { OnMissionChanged(); });
 }
 
-COmWizard_Base::~COmWizard_Base() = default;
+COmWizard_Base::~COmWizard_Base()
+{
+    // Before the page, a child of the dialog, is destroyed: it may tell the mission of a change.
+    Set_Mission(nullptr);
+}
 
 void COmWizard_Base::Set_Mission(COmWizard_Mission_Base *mission)
 {

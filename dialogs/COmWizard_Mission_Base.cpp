@@ -97,7 +97,7 @@ bool COmWizard_Mission_Base::goTo(int index)
     if (index < 0 || index >= m_pages.size())
         return false;
     m_currentIndex = index;
-    forgetDeletedPages();
+    dropDeletedPages();
     Set_CurrentPage(m_pages.at(m_currentIndex));
     return true;
 }
@@ -162,14 +162,23 @@ void COmWizard_Mission_Base::watchPages(bool watch)
 {
     for (const QPointer<QWidget> &page : std::as_const(m_pages)) {
         if (watch)
-            connect(page, &QObject::destroyed, this, &COmWizard_Mission_Base::forgetDeletedPages);
+            connect(page, &QObject::destroyed, this, &COmWizard_Mission_Base::forgetPage);
         else if (page)
-            disconnect(page, &QObject::destroyed, this,
-                       &COmWizard_Mission_Base::forgetDeletedPages);
+            disconnect(page, &QObject::destroyed, this, &COmWizard_Mission_Base::forgetPage);
     }
 }
 
-void COmWizard_Mission_Base::forgetDeletedPages()
+/// \a page is being destroyed.
+void COmWizard_Mission_Base::forgetPage(const QObject *page)
+{
+    for (QPointer<QWidget> &known : m_pages) {
+        if (known == page)
+            known.clear(); // does not happen by itself before the widget is all gone
+    }
+    dropDeletedPages();
+}
+
+void COmWizard_Mission_Base::dropDeletedPages()
 {
     for (int index = static_cast<int>(m_pages.size()) - 1; index >= 0; --index) {
         // The place of the current page stays, so that the next one is still the next one.
@@ -206,9 +215,16 @@ bool COmWizard_Mission_Base::leaveCurrentPage()
 {
     const QPointer<COmWizard_Mission_Base> self(this);
     const QPointer<QWidget> oldPage(m_currentPage);
-    if (COmWizard_Page_Base *old = asPage(oldPage))
-        old->Deactivate();
-    if (!self || m_currentPage != oldPage)
+    COmWizard_Page_Base *leaving = asPage(oldPage);
+    // Not a second time when its Deactivate() deletes the mission or changes pages.
+    if (leaving && m_pageBeingLeft != oldPage) {
+        m_pageBeingLeft = oldPage;
+        leaving->Deactivate();
+        if (!self)
+            return false;
+        m_pageBeingLeft.clear();
+    }
+    if (m_currentPage != oldPage)
         return false;
     if (COmWizard_Page_Base *old = asPage(oldPage))
         old->m_mission = nullptr;

@@ -50,9 +50,9 @@ QLabel *textLabel(QWidget *parent)
 
 COmWizard_Standard::COmWizard_Standard()
     : m_buttons(std::make_unique<WizardButtons>(this))
-{
-    new ombrin::EventWatcher(this, [this](const QEvent *event) { watchEnterKey(event); });
-}
+    , m_enterWatcher(std::make_unique<ombrin::EventWatcher>(
+              this, [this](const QEvent *event) { watchEnterKey(event); }))
+{}
 
 COmWizard_Standard::~COmWizard_Standard() = default;
 

@@ -61,8 +61,8 @@ OmStatusBar *OmDialog2::statusBar()
 
 void OmDialog2::setWindowTitle(const QString &title)
 {
-    QDialog::setWindowTitle(title);
     m_frame->setTitle(title);
+    QDialog::setWindowTitle(title); // last: a slot of its signal may destroy the window
 }
 
 void OmDialog2::setWindowTitleOnly(const QString &title)

@@ -61,8 +61,8 @@ OmStatusBar *OmWindow::statusBar()
 
 void OmWindow::setWindowTitle(const QString &title)
 {
-    QWidget::setWindowTitle(title);
     m_frame->setTitle(title);
+    QWidget::setWindowTitle(title); // last: a slot of its signal may destroy the window
 }
 
 void OmWindow::setWindowTitleOnly(const QString &title)

@@ -155,9 +155,11 @@ private:
     bool goTo(int index);
     bool leaveCurrentPage();
     void watchPages(bool watch);
-    void forgetDeletedPages();
+    void forgetPage(const QObject *page);
+    void dropDeletedPages();
 
     QList<QPointer<QWidget>> m_pages;
     int m_currentIndex = 0;
     QPointer<QWidget> m_currentPage;
+    QPointer<QWidget> m_pageBeingLeft;
 };

@@ -13,6 +13,10 @@ class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
+namespace ombrin {
+class EventWatcher;
+}
+
 /// A wizard with a header (title and description of the page, picture of the mission), a sidebar
 /// picture, the current page and a row of buttons.
 ///
@@ -101,6 +105,7 @@ private:
     QLabel *m_titleLabel = nullptr;
     QLabel *m_descriptionLabel = nullptr;
     std::unique_ptr<ombrin::WizardButtons> m_buttons;
+    std::unique_ptr<ombrin::EventWatcher> m_enterWatcher;
     std::optional<QSize> m_fixedSize;
     bool m_titlebarVisible = true;
     bool m_enterWentElsewhere = false;

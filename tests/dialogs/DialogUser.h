@@ -2,6 +2,7 @@
 
 #include <ombrin/OmImageButton.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 #include <QtGui/QWindow>
@@ -40,10 +41,14 @@ void whenOpen(const std::function<void(Dialog *)> &action)
     timer->start();
 }
 
-/// Presses and releases a key as the window system tells of it: it goes to what has the focus.
+/// Presses and releases a key as the window system tells of it: it goes to what has the focus. The
+/// window may be gone before the key is released.
 inline void type(const QWidget *window, Qt::Key key)
 {
-    QTest::keyClick(window->windowHandle(), key);
+    const QPointer<QWindow> native(window->windowHandle());
+    QTest::keyPress(native, key);
+    if (native)
+        QTest::keyRelease(native, key);
 }
 
 inline void type(const QWidget *window, const QString &text)

@@ -1,0 +1,376 @@
+#include "dialogs/WizardParts.h"
+#include "support/TestCase.h"
+#include "windows/FlatSkin.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
+
+using namespace wizard_parts;
+
+namespace {
+
+enum Label { Picture, Title, Description, Sidebar };
+
+QLabel *label(const QWidget *wizard, Label which)
+{
+    return wizard->findChildren<QLabel *>().value(which);
+}
+
+QWidget *header(const QWidget *wizard)
+{
+    return label(wizard, Title)->parentWidget();
+}
+
+QWidget *pageArea(const QWidget *wizard)
+{
+    return label(wizard, Sidebar)->parentWidget()->parentWidget();
+}
+
+/// Where \a widget is in the window.
+QRect place(const QWidget *widget)
+{
+    return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
+}
+
+/// \a rect in a window of \a width pixels that is laid out from right to left.
+QRect mirrored(const QRect &rect, int width)
+{
+    return QRect(QPoint(width - rect.x() - rect.width(), rect.y()), rect.size());
+}
+
+} // namespace
+
+class tst_WizardLayout : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+
+    void standardHasItsBandsInPlace_data();
+    void standardHasItsBandsInPlace();
+    void headerHasTextsAndPictureInPlace();
+    void picturesTakeUpTheirLogicalSize_data();
+    void picturesTakeUpTheirLogicalSize();
+    void fixedSizeIsKeptWhateverPagesNeed();
+    void requestsBeforeTheFirstMissionAreKept();
+    void headerCanBeHidden();
+
+    void compactTakesTheSizeOfItsPage_data();
+    void compactTakesTheSizeOfItsPage();
+    void compactFollowsPageAndPicture();
+    void compactButtonsStandInARowAtTheRight_data();
+    void compactButtonsStandInARowAtTheRight();
+
+    void wizardsAreCentred_data() { forBothWizards(); }
+    void wizardsAreCentred();
+};
+
+void tst_WizardLayout::standardHasItsBandsInPlace_data()
+{
+    QTest::addColumn<bool>("hasSidebar");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    for (const bool hasSidebar : {true, false}) {
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
+            QTest::addRow("%s, %s", hasSidebar ? "sidebar" : "no sidebar",
+                          direction == Qt::LeftToRight ? "left to right" : "right to left")
+                    << hasSidebar << direction;
+    }
+}
+
+void tst_WizardLayout::standardHasItsBandsInPlace()
+{
+    QFETCH(bool, hasSidebar);
+    QFETCH(Qt::LayoutDirection, direction);
+    const Pages pages(2);
+    Mission mission(pages);
+    mission.possible = [](Action) { return true; };
+    if (hasSidebar)
+        mission.sidebar = picture(120, 200);
+    COmWizard_Standard wizard;
+    wizard.setLayoutDirection(direction);
+    wizard.Set_Mission(&mission);
+    wizard.FixSize(true, QSize(600, 420));
+    QVERIFY(show(&wizard));
+
+    const auto expectAt = [&](const QWidget *widget, const QRect &rect) {
+        QCOMPARE(place(widget), direction == Qt::LeftToRight ? rect : mirrored(rect, 600));
+    };
+    expectAt(header(&wizard), QRect(5, 30, 590, 75));
+    expectAt(pageArea(&wizard), QRect(5, 115, 590, 244));
+    const QWidget *buttonArea = button(&wizard, Cancel)->parentWidget();
+    expectAt(buttonArea, QRect(5, 359, 590, 56));
+    QVERIFY(label(&wizard, Sidebar)->parentWidget()->isHidden() != hasSidebar);
+    if (hasSidebar)
+        expectAt(label(&wizard, Sidebar), QRect(15, 137, 120, 200));
+    const int pageLeft = hasSidebar ? 145 : 25;
+    expectAt(pages[0], QRect(pageLeft, 115, 585 - pageLeft, 244));
+
+    int right = 585;
+    for (const Action action : {Cancel, Execute, Next, Previous}) {
+        const QPushButton *shown = button(&wizard, action);
+        QCOMPARE(shown->minimumSize(), QSize(96, 28));
+        const QSize size = shown->sizeHint().expandedTo(QSize(96, 28));
+        expectAt(shown, QRect(QPoint(right - size.width(), 359 + (56 - size.height()) / 2), size));
+        right -= size.width() + 2;
+    }
+}
+
+void tst_WizardLayout::headerHasTextsAndPictureInPlace()
+{
+    const Pages pages(1);
+    Mission mission(pages);
+    mission.text = QStringLiteral("Title");
+    mission.description = QStringLiteral("A description");
+    mission.picture = picture(48, 60);
+    COmWizard_Standard wizard;
+    wizard.Set_Mission(&mission);
+    wizard.FixSize(true, QSize(600, 420));
+    QVERIFY(show(&wizard));
+
+    const QLabel *title = label(&wizard, Title);
+    const QLabel *description = label(&wizard, Description);
+    QCOMPARE(title->font().weight(), int(QFont::Bold));
+    const int line = QFontMetrics(title->font()).height();
+    const int lines = 3 * QFontMetrics(description->font()).height();
+    const int textRight = 5 + 590 - 10 - 48 - 5;
+    QCOMPARE(place(title), QRect(15, 35, textRight - 15, line));
+    QCOMPARE(place(description), QRect(40, 40 + line, textRight - 40, lines));
+    QCOMPARE(place(label(&wizard, Picture)), QRect(537, 30 + (75 - 60) / 2, 48, 60));
+    QVERIFY(description->wordWrap());
+    for (const QLabel *text : {title, description})
+        QCOMPARE(text->alignment(), Qt::AlignLeft | Qt::AlignTop);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        QCOMPARE(header(&wizard)->palette().color(group, QPalette::Window), QColor(Qt::white));
+
+    mission.picture = QPixmap();
+    mission.DoOnChanged();
+    QVERIFY(label(&wizard, Picture)->isHidden());
+    QCOMPARE(label(&wizard, Picture)->minimumSize(), QSize(0, 0));
+    QCOMPARE(label(&wizard, Picture)->maximumSize(), QSize(16777215, 16777215));
+}
+
+void tst_WizardLayout::picturesTakeUpTheirLogicalSize_data()
+{
+    QTest::addColumn<qreal>("density");
+    QTest::newRow("1") << 1.0;
+    QTest::newRow("1.5") << 1.5;
+    QTest::newRow("2") << 2.0;
+}
+
+void tst_WizardLayout::picturesTakeUpTheirLogicalSize()
+{
+    QFETCH(qreal, density);
+    const Pages pages(1);
+    Mission mission(pages);
+    mission.sidebar = picture(120, 300, density);
+    mission.picture = picture(48, 40, density);
+    COmWizard_Standard wizard;
+    wizard.Set_Mission(&mission);
+    const QWidget *frame = label(&wizard, Sidebar)->parentWidget();
+    QCOMPARE(frame->minimumSize(), QSize(120, 300));
+    QCOMPARE(frame->maximumSize(), QSize(120, 300));
+    QCOMPARE(label(&wizard, Picture)->minimumSize(), QSize(48, 40));
+    QCOMPARE(label(&wizard, Picture)->maximumSize(), QSize(48, 40));
+
+    OmWizard_Standard2 compact;
+    compact.Set_Mission(&mission);
+    QVERIFY(show(&compact));
+    QCOMPARE(place(compact.findChild<QLabel *>()), QRect(15, 40, 120, 300));
+
+    mission.sidebar = QPixmap();
+    mission.DoOnChanged();
+    QVERIFY(frame->isHidden());
+    QCOMPARE(frame->maximumSize(), QSize(16777215, 16777215));
+}
+
+void tst_WizardLayout::fixedSizeIsKeptWhateverPagesNeed()
+{
+    const Pages pages(2);
+    pages[1]->setMinimumSize(700, 500);
+    Mission mission(pages);
+    COmWizard_Standard wizard;
+    wizard.Set_Mission(&mission);
+    wizard.FixSize(true, QSize(500, 400));
+    QVERIFY(show(&wizard));
+    QCOMPARE(wizard.size(), QSize(500, 400));
+    mission.NextPage();
+    QCoreApplication::processEvents();
+    QCOMPARE(wizard.size(), QSize(500, 400));
+
+    wizard.FixSize(false, QSize());
+    QCoreApplication::processEvents();
+    QVERIFY(wizard.width() >= 700 + 10 + 30 && wizard.height() >= 500 + 35 + 75 + 10 + 56);
+    QCOMPARE(wizard.minimumSize(), wizard.layout()->totalMinimumSize());
+}
+
+void tst_WizardLayout::requestsBeforeTheFirstMissionAreKept()
+{
+    const Pages pages(1);
+    Mission mission(pages);
+    COmWizard_Standard wizard;
+    QVERIFY(wizard.IsTitlebarVisible());
+    wizard.Set_IsTitlebarVisible(false);
+    QVERIFY(!wizard.IsTitlebarVisible());
+    wizard.FixSize(true, QSize(640, 480));
+    wizard.FixSize(true, QSize(500, 400));
+    wizard.Set_Mission(&mission);
+    QVERIFY(show(&wizard));
+    QCOMPARE(wizard.size(), QSize(500, 400));
+    QVERIFY(header(&wizard)->isHidden());
+
+    COmWizard_Standard free;
+    free.FixSize(true, QSize(500, 400));
+    free.FixSize(false, QSize());
+    free.Set_Mission(&mission);
+    QVERIFY(free.maximumWidth() > 500);
+}
+
+void tst_WizardLayout::headerCanBeHidden()
+{
+    const Pages pages(1);
+    Mission mission(pages);
+    COmWizard_Standard wizard;
+    wizard.Set_Mission(&mission);
+    wizard.FixSize(true, QSize(500, 400));
+    QVERIFY(show(&wizard));
+    QVERIFY(header(&wizard)->isVisible());
+    wizard.Set_IsTitlebarVisible(false);
+    QVERIFY(!wizard.IsTitlebarVisible());
+    QVERIFY(!header(&wizard)->isVisible());
+    mission.DoOnChanged(); // does not bring it back
+    QCoreApplication::processEvents();
+    QCOMPARE(place(pageArea(&wizard)).top(), 40);
+    wizard.Set_IsTitlebarVisible(true);
+    QVERIFY(header(&wizard)->isVisible());
+}
+
+void tst_WizardLayout::compactTakesTheSizeOfItsPage_data()
+{
+    QTest::addColumn<QSize>("sidebar");
+    QTest::addColumn<QSize>("page");
+    QTest::addColumn<QSize>("size"); // without the frame's margins
+    QTest::newRow("sidebar") << QSize(100, 300) << QSize(400, 250) << QSize(530, 358);
+    QTest::newRow("low sidebar") << QSize(100, 30) << QSize(400, 250) << QSize(530, 308);
+    QTest::newRow("no sidebar") << QSize() << QSize(400, 250) << QSize(420, 308);
+}
+
+void tst_WizardLayout::compactTakesTheSizeOfItsPage()
+{
+    QFETCH(QSize, sidebar);
+    QFETCH(QSize, page);
+    QFETCH(QSize, size);
+    for (const QMargins margins : {QMargins(), QMargins(5, 30, 5, 5), QMargins(1, 2, 3, 4)}) {
+        const Pages pages(1);
+        pages[0]->resize(page);
+        Mission mission(pages);
+        if (sidebar.isValid())
+            mission.sidebar = picture(sidebar.width(), sidebar.height());
+        OmWizard_Standard2 wizard;
+        wizard.setContentsMargins(margins);
+        wizard.Set_Mission(&mission);
+        QCOMPARE(wizard.size(), size.grownBy(margins)); // already before it is shown
+        QVERIFY(show(&wizard));
+        QCOMPARE(wizard.size(), size.grownBy(margins));
+        const auto *label = wizard.findChild<QLabel *>();
+        QCOMPARE(label->isVisible(), sidebar.isValid());
+        const QPoint corner(margins.left() + 10, margins.top() + 10);
+        const int pageX = corner.x() + (sidebar.isValid() ? sidebar.width() + 10 : 0);
+        QCOMPARE(pages[0]->geometry(), QRect(QPoint(pageX, corner.y()), page));
+        if (sidebar.isValid())
+            QCOMPARE(label->geometry(), QRect(corner, sidebar));
+    }
+}
+
+void tst_WizardLayout::compactFollowsPageAndPicture()
+{
+    const Pages pages(2);
+    pages[1]->resize(300, 200);
+    Mission mission(pages);
+    OmWizard_Standard2 wizard;
+    wizard.setContentsMargins(0, 0, 0, 0);
+    wizard.Set_Mission(&mission);
+    QVERIFY(show(&wizard));
+    mission.NextPage();
+    QCOMPARE(wizard.size(), QSize(320, 258));
+    mission.PrevPage();
+    QCOMPARE(wizard.size(), QSize(420, 308));
+
+    // What the user made of the window lasts until the next page.
+    wizard.resize(500, 400);
+    mission.DoOnChanged();
+    QCOMPARE(wizard.size(), QSize(500, 400));
+    mission.sidebar = picture(50, 50);
+    mission.DoOnChanged();
+    QCOMPARE(pages[0]->geometry(), QRect(70, 10, 400, 250));
+    QCOMPARE(wizard.size(), QSize(500, 400));
+    mission.NextPage();
+    QCOMPARE(wizard.size(), QSize(380, 258));
+    mission.Set_CurrentPage(nullptr);
+    QCOMPARE(wizard.size(), QSize(380, 258));
+}
+
+void tst_WizardLayout::compactButtonsStandInARowAtTheRight_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+void tst_WizardLayout::compactButtonsStandInARowAtTheRight()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    const Pages pages(1);
+    Mission mission(pages);
+    mission.sidebar = picture(80, 60);
+    OmWizard_Standard2 wizard;
+    wizard.Set_Mission(&mission);
+    QVERIFY(show(&wizard));
+    wizard.setLayoutDirection(direction); // while it is shown
+    const auto expectAt = [&](const QWidget *widget, const QRect &rect) {
+        QCOMPARE(widget->geometry(),
+                 direction == Qt::LeftToRight ? rect : mirrored(rect, wizard.width()));
+    };
+    for (const QSize size : {QSize(600, 400), QSize(450, 333)}) {
+        wizard.resize(size);
+        for (int bits = 0; bits < 16; ++bits) {
+            mission.possible = [bits](Action action) { return (bits & (1 << action)) != 0; };
+            mission.DoOnChanged();
+            // The frame leaves 5 pixels at the sides and below, the row 10 and one.
+            int right = size.width() - 5 - 11;
+            for (const Action action : {Cancel, Execute, Next, Previous}) {
+                if (!mission.possible(action))
+                    continue;
+                const int top = size.height() - 5 - 1 - 38;
+                expectAt(button(&wizard, action), QRect(right - 96, top, 96, 28));
+                right -= 96 + 5;
+            }
+        }
+        expectAt(wizard.findChild<QLabel *>(), QRect(15, 40, 80, 60));
+        expectAt(pages[0], QRect(105, 40, 400, 250));
+    }
+}
+
+void tst_WizardLayout::wizardsAreCentred()
+{
+    QFETCH(bool, compact);
+    const Pages pages(1);
+    Mission mission(pages);
+    const auto wizard = makeWizard(compact);
+    wizard->Set_Mission(&mission);
+    for (const QPoint start : {QPoint(3, 3), QPoint(90, 30)}) {
+        wizard->move(start);
+        QVERIFY(show(wizard.get()));
+        const QSize area = QGuiApplication::primaryScreen()->availableGeometry().size();
+        const QSize left = (area - wizard->size()) / 2;
+        QVERIFY(std::abs(wizard->x() - left.width()) <= 1);
+        QVERIFY(std::abs(wizard->y() - left.height()) <= 1);
+        wizard->hide();
+    }
+}
+
+OMBRIN_TEST_MAIN(tst_WizardLayout)
+#include "tst_wizardlayout.moc"

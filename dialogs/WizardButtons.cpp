@@ -13,14 +13,6 @@ constexpr QSize kMinimumSize(96, 28);
 
 } // namespace
 
-struct WizardButtons::Queries
-{
-    using Query = bool (COmWizard_Mission_Base::*)();
-
-    Query isPossible;
-    Query isAllowed;
-};
-
 WizardButtons::WizardButtons(COmWizard_Base *wizard)
     : m_wizard(wizard)
 {}

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <ombrin/OmGlobal.h>
+#include <ombrin/COmWizard_Mission_Base.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QString>
 
 class COmWizard_Base;
-class COmWizard_Mission_Base;
 class QCloseEvent;
 class QPushButton;
 class QWidget;
@@ -53,7 +52,14 @@ public:
     void close(QCloseEvent *event);
 
 private:
-    struct Queries;
+    using Query = bool (COmWizard_Mission_Base::*)();
+
+    /// What the mission is asked about an action.
+    struct Queries
+    {
+        Query isPossible;
+        Query isAllowed;
+    };
 
     static Queries queries(Action action);
     bool isPossibleAndAllowed(Action action) const;

@@ -1,0 +1,228 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>COmWizard_Mission_Base</name>
+    <message>
+        <source>Question</source>
+        <comment>title of question-dialog for standard-wizard</comment>
+        <translation>Frage</translation>
+    </message>
+    <message>
+        <source>Do you really want to cancel this wizard?</source>
+        <comment>question on cancel in standard-wizard</comment>
+        <translation>Möchten Sie diesen Assistenten wirklich abbrechen?</translation>
+    </message>
+</context>
+<context>
+    <name>COmWizard_Standard</name>
+    <message>
+        <source>Assistant</source>
+        <comment>windowtitle of a wizard who hasn&apos;t get one by the mission</comment>
+        <translation>Assistent</translation>
+    </message>
+    <message>
+        <source>&lt; &amp;Previous</source>
+        <comment>previous-button in standard-wizard</comment>
+        <translation>&lt; &amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <comment>next-button in standard-wizard</comment>
+        <translation>&amp;Weiter &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <comment>execute-button in standard-wizard</comment>
+        <translation>&amp;Fertigstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <comment>cancel-button in standard-wizard</comment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <comment>exit-button in standard-wizard</comment>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>OmWizard_Standard2</name>
+    <message>
+        <source>Assistant</source>
+        <comment>windowtitle of a wizard who hasn&apos;t get one by the mission</comment>
+        <translation>Assistent</translation>
+    </message>
+    <message>
+        <source>&lt; &amp;Previous</source>
+        <comment>previous-button in standard-wizard</comment>
+        <translation>&lt; &amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <comment>next-button in standard-wizard</comment>
+        <translation>&amp;Weiter &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <comment>execute-button in standard-wizard</comment>
+        <translation>&amp;Fertigstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <comment>cancel-button in standard-wizard</comment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <comment>exit-button in standard-wizard</comment>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmBalloonTip</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Closes the balloon</source>
+        <translation>Schließt die Sprechblase</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmCalendar</name>
+    <message>
+        <source>Choose a Date</source>
+        <translation>Datum auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmDialog2</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100&#xa0;%</translation>
+    </message>
+    <message>
+        <source>80%</source>
+        <translation>80&#xa0;%</translation>
+    </message>
+    <message>
+        <source>60%</source>
+        <translation>60&#xa0;%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50&#xa0;%</translation>
+    </message>
+    <message>
+        <source>40%</source>
+        <translation>40&#xa0;%</translation>
+    </message>
+    <message>
+        <source>20%</source>
+        <translation>20&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmInputDialog</name>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;Ok</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmMessageBox</name>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;Ok</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmTabWidget</name>
+    <message>
+        <source>Close tab</source>
+        <translation>Tab schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmWindow</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100&#xa0;%</translation>
+    </message>
+    <message>
+        <source>80%</source>
+        <translation>80&#xa0;%</translation>
+    </message>
+    <message>
+        <source>60%</source>
+        <translation>60&#xa0;%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50&#xa0;%</translation>
+    </message>
+    <message>
+        <source>40%</source>
+        <translation>40&#xa0;%</translation>
+    </message>
+    <message>
+        <source>20%</source>
+        <translation>20&#xa0;%</translation>
+    </message>
+</context>
+</TS>

@@ -90,7 +90,7 @@ private:
     {
         for (const int role :
              {int(Qt::AccessibleTextRole), int(Qt::DisplayRole), int(Qt::ToolTipRole)}) {
-            const QString text = box()->currentData(role).toString();
+            QString text = box()->currentData(role).toString();
             if (!text.isEmpty())
                 return text;
         }

@@ -58,13 +58,15 @@ public:
     void enableLink(bool enable);
     bool isLink() const;
 
-    /// Shows \a text, shortened if eliding is on.
-    void setText(const QString &text);
     /// The whole text last given to setText().
     QString text() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    /// Shows \a text, shortened if eliding is on.
+    void setText(const QString &text);
 
 Q_SIGNALS:
     /// The link was clicked.

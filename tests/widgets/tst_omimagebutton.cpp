@@ -1,8 +1,8 @@
 #include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmImageButton.h>
 
-#include <QtGui/QAccessible>
 #include <QtGui/QPainter>
 #include <QtGui/QWindow>
 
@@ -11,6 +11,7 @@
 #include <vector>
 
 using ombrin::OmImageButton;
+using namespace ombrin::test;
 
 namespace {
 
@@ -57,18 +58,10 @@ void setAllStatePictures(OmImageButton *button)
         QVERIFY(button->setProperty(picture.property, flatPixmap(picture.color)));
 }
 
-QImage painted(QWidget *widget)
-{
-    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
-
 // "pixmap" and the name of the state whose picture is shown, or "nothing".
 QString shownPicture(QWidget *button)
 {
-    const QRgb color = painted(button).pixel(kSize.width() / 2, kSize.height() / 2);
+    const QRgb color = paintedOnNothing(button).pixel(kSize.width() / 2, kSize.height() / 2);
     for (const StatePicture &picture : kPictures) {
         if (picture.color == color)
             return QString::fromLatin1(picture.property);
@@ -85,22 +78,6 @@ void recordSignals(OmImageButton *button, QStringList *log)
     });
     QObject::connect(button, &OmImageButton::released,
                      [log] { log->append(QStringLiteral("released")); });
-}
-
-void sendEnter(QWidget *widget)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-#else
-    QEvent event(QEvent::Enter);
-#endif
-    QCoreApplication::sendEvent(widget, &event);
-}
-
-void sendLeave(QWidget *widget)
-{
-    QEvent event(QEvent::Leave);
-    QCoreApplication::sendEvent(widget, &event);
 }
 
 // One step of a user's dealings with a button.
@@ -315,7 +292,7 @@ void tst_OmImageButton::nullPicturesShowNothingButADisabledButtonShowsDown()
 void tst_OmImageButton::pictureShiftsByTheOffsetWhileDownOrDisabled()
 {
     const auto topLeftOfPicture = [](OmImageButton *button) {
-        const QImage image = painted(button);
+        const QImage image = paintedOnNothing(button);
         for (int i = 0; i < image.width(); ++i) {
             if (qAlpha(image.pixel(i, i)) != 0 && (i == 0 || qAlpha(image.pixel(i, i - 1)) == 0))
                 return i;
@@ -350,12 +327,12 @@ void tst_OmImageButton::pictureIsDrawnUnscaledAtItsLogicalSize()
         button.setPixmapUp(picture);
         expected.fill(Qt::transparent);
         QPainter(&expected).fillRect(QRect(0, 0, 8, 5), QColor::fromRgba(color));
-        QCOMPARE(painted(&button), expected);
+        QCOMPARE(paintedOnNothing(&button), expected);
     }
     // Larger than the button: cut, not scaled.
     button.setPixmapUp(flatPixmap(color, kSize * 2));
     expected.fill(color);
-    QCOMPARE(painted(&button), expected);
+    QCOMPARE(paintedOnNothing(&button), expected);
 }
 
 void tst_OmImageButton::writingRepaintsWhereItMust_data()

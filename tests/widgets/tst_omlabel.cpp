@@ -46,7 +46,7 @@ class tst_OmLabel : public ombrin::test::TestCase
 
 private Q_SLOTS:
     void startsAsAPlainLabel();
-    void propertiesGiveTheWholeText();
+    void metaObjectKnowsTheWholeText();
     void showsWhatFitsAtEveryWidth_data();
     void showsWhatFitsAtEveryWidth();
     void settersShowNothingBeforeTheNextTextOrSize();
@@ -74,12 +74,15 @@ void tst_OmLabel::startsAsAPlainLabel()
     QVERIFY(OmLabel(true, nullptr).isElided());
 }
 
-void tst_OmLabel::propertiesGiveTheWholeText()
+void tst_OmLabel::metaObjectKnowsTheWholeText()
 {
     ShownLabel test;
     QVERIFY(test.label->setProperty("text", kText));
     QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
     QCOMPARE(test.label->property("text").toString(), kText);
+    QVERIFY(QMetaObject::invokeMethod(test.label, "setText",
+                                      Q_ARG(QString, kText + QLatin1Char('!'))));
+    QCOMPARE(test.label->text(), kText + QLatin1Char('!'));
     QVERIFY(test.label->setProperty("elide", false) && test.label->setProperty("link", true));
     QVERIFY(!test.label->isElided() && test.label->isLink());
     QVERIFY(!test.label->property("elide").toBool() && test.label->property("link").toBool());

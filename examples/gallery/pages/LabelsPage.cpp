@@ -63,7 +63,7 @@ public:
         setText(text);
         pinHovered(this);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-        ombrin::EnterEvent event(QPointF(), QPointF(), QPointF());
+        ombrin::EnterEvent event{QPointF(), QPointF(), QPointF()};
 #else
         ombrin::EnterEvent event(QEvent::Enter);
 #endif

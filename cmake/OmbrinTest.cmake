@@ -65,10 +65,6 @@ function(ombrin_add_test name)
   endif()
   list(APPEND environment
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
-  if(launcher)
-    # A plug-in of X11 leaks and is unloaded before the report, which therefore cannot name it.
-    list(APPEND environment "ASAN_OPTIONS=detect_leaks=0")
-  endif()
 
   foreach(factor IN ITEMS 1 LISTS arg_SCALE_FACTORS)
     set(test_name ${name})

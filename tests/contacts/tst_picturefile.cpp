@@ -6,7 +6,6 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
-#include <QtCore/QtEndian>
 #include <QtGui/QImage>
 
 #ifdef Q_OS_UNIX
@@ -26,12 +25,20 @@ QByteArray encoded(const QSize &size, const char *format)
     return buffer.data();
 }
 
+QByteArray bigEndian(quint32 value)
+{
+    QByteArray bytes;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        bytes.append(static_cast<char>(value >> shift & 0xff));
+    return bytes;
+}
+
 // A picture of some bytes that claims to have \a size.
 QByteArray hugePng(const QSize &size)
 {
     QByteArray png = encoded(QSize(1, 1), "png");
-    qToBigEndian(qint32(size.width()), png.data() + 16);
-    qToBigEndian(qint32(size.height()), png.data() + 20);
+    png.replace(16, 4, bigEndian(quint32(size.width())));
+    png.replace(20, 4, bigEndian(quint32(size.height())));
     // The checksum of the header has to be right, or its size is not told.
     quint32 sum = 0xffffffff;
     for (int at = 12; at < 29; ++at) {
@@ -39,7 +46,7 @@ QByteArray hugePng(const QSize &size)
         for (int bit = 0; bit < 8; ++bit)
             sum = sum >> 1 ^ (sum & 1 ? 0xedb88320 : 0);
     }
-    qToBigEndian(quint32(~sum), png.data() + 29);
+    png.replace(29, 4, bigEndian(~sum));
     return png;
 }
 

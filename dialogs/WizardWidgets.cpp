@@ -12,13 +12,18 @@ QPixmap pixmapOf(const QLabel *label)
     return label->pixmap(Qt::ReturnByValue);
 }
 
-/// The last one of \a widget and the widgets on it in the tab order.
+bool takesFocus(const QWidget *widget)
+{
+    return widget->focusPolicy() != Qt::NoFocus;
+}
+
+/// The last one of \a widget and the widgets on it that is in the tab order, or null.
 QWidget *lastInTabOrder(QWidget *widget)
 {
-    QWidget *last = widget;
+    QWidget *last = takesFocus(widget) ? widget : nullptr;
     for (QWidget *next = widget->nextInFocusChain(); next != widget;
          next = next->nextInFocusChain()) {
-        if (widget->isAncestorOf(next))
+        if (takesFocus(next) && widget->isAncestorOf(next))
             last = next;
     }
     return last;

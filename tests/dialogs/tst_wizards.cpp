@@ -482,6 +482,7 @@ void tst_Wizards::tabOrderStartsOnThePage()
     for (const int index : {0, 1}) {
         for (const char *name : {"first", "second"})
             (new QLineEdit(pages[index]))->setObjectName(QLatin1String(name));
+        new QLabel(pages[index]);
     }
     Mission mission(pages);
     const auto wizard = makeWizard(compact);
@@ -489,6 +490,8 @@ void tst_Wizards::tabOrderStartsOnThePage()
     QVERIFY(show(wizard.get()));
     if (compact)
         QVERIFY(pages[0]->hasFocus());
+    else
+        QCOMPARE(wizard->focusWidget()->objectName(), QStringLiteral("first"));
     const auto nextStops = [&](int count) {
         QStringList stops;
         for (int stop = 0; stop < count; ++stop) {

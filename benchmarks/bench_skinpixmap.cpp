@@ -7,8 +7,8 @@ using namespace ombrin::bench;
 
 namespace {
 
-// The rule is "at most a microsecond or 1/50 of the first load, whichever is larger". Asked for here
-// is 1/50, also of pictures that load so fast that a microsecond would be more.
+// The rule is "at most a microsecond or 1/50 of the first load, whichever is larger". Asked for
+// here is 1/50, also of pictures that load so fast that a microsecond would be more.
 constexpr double kTarget = 1.0 / 50;
 
 RatioCase compareLoads(const char *name, const char *picture, double density)

@@ -148,6 +148,10 @@ void OmStyle2::drawControl(ControlElement element, const QStyleOption *option, Q
         if (isA(widget, "QToolBox"))
             proxy()->drawControl(CE_ToolBoxTabLabel, option, painter, widget);
         break;
+    case CE_ToolBoxTabShape:
+        // What a style sheet on top asks for in place of the whole tab.
+        drawToolBoxTab(painter, option);
+        break;
     case CE_ToolBar:
         drawToolBar(painter, option);
         break;

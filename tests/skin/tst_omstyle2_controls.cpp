@@ -193,6 +193,8 @@ private Q_SLOTS:
             painter->drawRect(tab.rect);
         };
         QCOMPARE(drawn(QStyle::CE_ToolBoxTab, tab), painted(draw, kGround));
+        QCOMPARE(drawn(QStyle::CE_ToolBoxTabShape, tab),
+                 painted(draw, kGround)); // under a style sheet
     }
 
     void toolBarShadesDown()

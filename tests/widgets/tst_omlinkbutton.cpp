@@ -67,8 +67,8 @@ QRect drawExpected(QImage *image, const OmLinkButton &button, const QString &tex
     const bool isMirrored = button.layoutDirection() == Qt::RightToLeft;
     const int alignment = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
     QRect bounds;
-    painter.drawText(QRect(2, 0, button.width() - 4, button.height()),
-                     alignment | Qt::AlignVCenter, text, &bounds);
+    painter.drawText(QRect(2, 0, button.width() - 4, button.height()), alignment | Qt::AlignVCenter,
+                     text, &bounds);
     const int y = bounds.bottom() + 1 - button.fontMetrics().descent();
     painter.fillRect(bounds.left(), y, bounds.width(), 1, color);
     return bounds;

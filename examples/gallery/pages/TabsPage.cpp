@@ -24,7 +24,7 @@ OmTabBar *letterBar(const QString &letters, QChar dragged)
     bar->setDrawBase(false);
     for (const QChar letter : letters)
         bar->addTab(QString(letter));
-    bar->setCurrentIndex(letters.indexOf(dragged));
+    bar->setCurrentIndex(static_cast<int>(letters.indexOf(dragged)));
     pinState(bar);
     return bar;
 }

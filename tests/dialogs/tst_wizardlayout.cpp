@@ -203,7 +203,9 @@ void tst_WizardLayout::fixedSizeIsKeptWhateverPagesNeed()
 
     wizard.FixSize(false, QSize());
     QCoreApplication::processEvents();
-    QVERIFY(wizard.width() >= 700 + 10 + 30 && wizard.height() >= 500 + 35 + 75 + 10 + 56);
+    // Page, frame, header and margins; the height of the buttons is the style's.
+    QVERIFY(wizard.width() >= 700 + 10 + 30);
+    QVERIFY(wizard.height() > 500 + 35 + 75 + 10);
     QCOMPARE(wizard.minimumSize(), wizard.layout()->totalMinimumSize());
 }
 

@@ -6,6 +6,9 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleFactory>
 
+#include <algorithm>
+#include <iterator>
+
 namespace ombrin::test {
 
 namespace {
@@ -14,11 +17,25 @@ QtMessageHandler g_previousHandler = nullptr;
 QMutex g_warningsMutex;
 QStringList g_warnings;
 
+// What platform plug-ins say of their own limits, and not of the program.
+bool isOfPlatform(const QString &message)
+{
+    static const QLatin1String beginnings[] = {
+            // offscreen, of every frameless window and every mask
+            QLatin1String("This plugin does not support"),
+            // windows, of framed windows smaller than the system lets them be
+            QLatin1String("setGeometry: Unable to set geometry"),
+            // windows under Wine, of the system's own icons
+            QLatin1String("QPixmap::fromWinHICON(), failed to GetIconInfo()"),
+    };
+    return std::any_of(
+            std::begin(beginnings), std::end(beginnings),
+            [&message](QLatin1String beginning) { return message.startsWith(beginning); });
+}
+
 void recordWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    // The offscreen platform says so of every frameless window and every mask.
-    const bool isOfPlatform = message.startsWith(QLatin1String("This plugin does not support"));
-    if ((type == QtWarningMsg || type == QtCriticalMsg) && !isOfPlatform) {
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && !isOfPlatform(message)) {
         const QMutexLocker locker(&g_warningsMutex);
         g_warnings.append(message);
     }

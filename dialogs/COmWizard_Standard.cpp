@@ -155,6 +155,7 @@ void COmWizard_Standard::createHeader()
     texts->addStretch();
 
     auto *row = plainLayout(new QHBoxLayout(m_header), QLayout::SetMinimumSize);
+    row->addStrut(kHeaderHeight); // the layout sets the minimum height, in small fonts to less
     row->addSpacing(kGap);
     row->addLayout(texts);
     row->addSpacing(kTextGap);
@@ -194,6 +195,7 @@ void COmWizard_Standard::applySize()
     setMinimumSize(0, 0);
     setMaximumSize(kUnlimited);
     m_mainLayout->setSizeConstraint(QLayout::SetMinAndMaxSize);
+    m_mainLayout->activate(); // Qt 6 would wait for the next change of the layout
 }
 
 void COmWizard_Standard::Set_IsTitlebarVisible(bool visible)

@@ -80,8 +80,8 @@ QWidget *SmallDialogsPage::createTryCard()
 
     body->addWidget(caption(tr("OmMessageBox")));
     addCall(body, tr("Information"), tr("One button; there is one answer"), [this] {
-        OmMessageBox::information(window(), tr("Online"),
-                                  tr("You are online now,\nand so are three others."));
+        OmMessageBox::information(window(), tr("Info"),
+                                  tr("You are online now,\nand so are three contacts."));
         return tr("Ok");
     });
     addCall(body, tr("Question"), tr("Enter says yes, Escape says no"), [this] {
@@ -132,7 +132,7 @@ QWidget *SmallDialogsPage::messageBox(bool isQuestion, const QString &text)
 {
     auto *stage = new QWidget;
     auto *box = new EmbeddedFrame<OmMessageBox>(stage);
-    box->setWindowTitle(isQuestion ? tr("Block Max") : tr("Online"));
+    box->setWindowTitle(isQuestion ? tr("Block Max") : tr("Info"));
     // A box that is not one of the static calls has neither picture nor text.
     const auto labels = box->findChildren<QLabel *>();
     labels.value(0)->setPixmap(skinPicture(QStringLiteral("chat-32")));
@@ -154,7 +154,7 @@ QWidget *SmallDialogsPage::createMessageCard()
     row->addStretch();
     row->addWidget(messageBox(true, tr("Do you want to block Max?")));
     row->addStretch();
-    row->addWidget(messageBox(false, tr("You are online now,\nand so are three others.")));
+    row->addWidget(messageBox(false, tr("You are online now,\nand so are three contacts.")));
     row->addStretch();
     auto *card = new Card(tr("Message box: a question and an information"));
     card->body()->addLayout(row);

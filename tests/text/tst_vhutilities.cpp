@@ -1,0 +1,355 @@
+#include "support/TestCase.h"
+
+#include <ombrin/vhutilities.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QScreen>
+#include <QtWidgets/QComboBox>
+
+#include <atomic>
+#include <thread>
+
+using namespace ombrin::vhutilities;
+
+namespace {
+
+const char *const kPhoneNumbers[] = {
+        // seven digits among letters, blanks and , # / . ( ) - + *
+        "555-123-4567", "(212) 555-0123", "+44 20 7946 0958", "+49 (0)30 / 123 456-78",
+        "030/123456", "01 23 45 67 89", "044 668 18 00", "+91-98765-43210", "03-1234-5678",
+        "(02) 9876 5432", "call 555 1234", "1-800-FLOWERS 123", "*123*4567#", "2026-11-23",
+        "192.168.1.1", "12 34 56 7",
+        // three digits, and further ones behind one or two separators
+        "112", "(123)", "1234", "1-(123)", "1 123", "1/123", "123-", "123--", "123\\45", "118 118",
+        "116-117", "0049 30", "123\t456\t7890", "555-1234\n", "\u0660\u0661\u0662",
+        // groups of three digits, underscores between them
+        "+123456", "123_456", "+490_301", "_123__456_",
+        // parts in brackets, tabs, further ways
+        "(123\n456\n7890", "(1 2) 3 4", "(1 2) 3 4-5", "(1\t2)\t3\t4",
+        "\u0660\u0661\u0662\u0663\u0664", "\uff11\uff12\uff13\uff14\uff15\uff16\uff17",
+        "\t123-4567", "\t(123) 456-7890 x12\t", "\t12\t34\t56\t78"};
+
+const char *const kNoPhoneNumbers[] = {
+        "", " ", "+", "1", "12", "12-34", "12-345", "22 33", "12 34 56", "+1", "+123", "+12345",
+        "+49 30 1", "(12)", "()", "1 . 123", "123---", "123x45", "12_345", "(1 2) 3", "(1) 2 3",
+        "abc", "1.5", "3.14159", "12:30", "10:30-11:45", "10.0.0.1", "100%", "\u20ac100", "#31#",
+        "*100#", "555-CALL", "1-800-FLOWERS", "0800 FLOWERS", "555-1234;ext=5", "tel:+4930123456",
+        "\t(123)456-7890", "5551234567\n\n", "\u0660\u0661",
+        // taken only by a pattern whose repetition QRegExp cannot parse
+        "12-(123)-"};
+
+struct Address
+{
+    const char *text;
+    bool strict;
+    bool loose;
+};
+
+const Address kAddresses[] = {
+        {"john@example.com", true, true},
+        {"john_doe@example.com", true, true},
+        {"john%20doe@example.com", true, true},
+        {"john%ZZdoe@example.com", true, true}, // the range "A-f" holds every capital letter
+        {"john:secret@example.com", true, true},
+        {"mailto:john@example.com", true, true}, // read as user and password
+        {"a@bc.de", true, true},
+        {"x@example.COM", true, true},
+        {"john@exa_mple.com", true, true},
+        {"john@ex--ample.com", true, true},
+        {"john@sub.example.co.uk", true, true},
+        {"john@192.168.10.20", true, true},
+        {"j\u00f6hn@ex\u00e4mple.de", true, true},
+        {"\u7528\u6237@\u4f8b\u5b50.\u516c\u53f8", true, true},
+        {"example.com", true, true},
+        {"//example.com", true, true},
+        {"http://example.com", true, true},
+        {"http://example.com:8080", true, true},
+        {"http://example.com/a/b.c?x=1&y=2#top", true, true},
+        {"john.doe@example.com", false, true},
+        {"john-doe@example.com", false, true},
+        {"john+tag@example.com", false, true},
+        {"john%2@example.com", false, true},
+        {"john%zzdoe@example.com", false, true},
+        {"a@b.co", false, true},
+        {"x@example.museum", false, true},
+        {"x@@example.com", false, true},
+        {"john@-example.com", false, true},
+        {"john@example-.com", false, true},
+        {"john@example..com", false, true},
+        {"john @example.com", false, true},
+        {" john@example.com", false, true},
+        {"\"john doe\"@example.com", false, true},
+        {"", false, false},
+        {"@", false, false},
+        {"a@b", false, false},
+        {"localhost", false, false},
+        {"x@example.c", false, false},
+        {"x@EXAMPLE.MUSEUM", false, false},
+        {"@example.com", false, false},
+        {"x@.com", false, false},
+        {"john@10.0.0.1", false, false},
+        {"john@[127.0.0.1]", false, false},
+        {"john@example.com ", false, false},
+        {"john@example.com.", false, false},
+        {"john@example.com\n", false, false},
+        {"http:/example.com", false, false},
+        {"http://example.com:port", false, false},
+};
+
+const char *const kCardNumbers[] = {"4111111111111111",
+                                    "4111 1111 1111 1111",
+                                    "4111-1111-1111-1111",
+                                    " 4111 -1111 1111- 1111 ",
+                                    "4012888888881881",
+                                    "4222222222222",
+                                    "5555555555554444",
+                                    "5105105105105100",
+                                    "378282246310005",
+                                    "371449635398431",
+                                    "6011111111111117",
+                                    "6011000990139424",
+                                    "30569309025904",
+                                    "38520000023237",
+                                    "3530111333300000",
+                                    "3566002020360505",
+                                    "79927398713",
+                                    "00000000",
+                                    "00000018",
+                                    "00000000000000000091",
+                                    "00000000000000000000"};
+
+const char *const kNoCardNumbers[] = {"",
+                                      "--------",
+                                      "        ",
+                                      "18",
+                                      "0000000",
+                                      "1234567",
+                                      "000000000000000000000",
+                                      "4111 1111 1111 1112",
+                                      "79927398710",
+                                      "00000019",
+                                      "4111111111111111a",
+                                      "4111.1111.1111.1111",
+                                      "+4111111111111111",
+                                      "4111\t1111\t1111\t1111",
+                                      "\uff14111111111111111"};
+
+QString repeated(const char *text, int length)
+{
+    const QString unit = QString::fromUtf8(text);
+    return unit.repeated(length / static_cast<int>(unit.size()) + 1).left(length);
+}
+
+template <std::size_t Count, typename Recogniser>
+QStringList answeredOtherThan(bool expected, const char *const (&texts)[Count],
+                              Recogniser recognise)
+{
+    QStringList wrong;
+    for (const char *text : texts) {
+        if (recognise(QString::fromUtf8(text)) != expected)
+            wrong.append(QString::fromUtf8(text));
+    }
+    return wrong;
+}
+
+} // namespace
+
+class tst_VhUtilities : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recognisesPhoneAndCardNumbers()
+    {
+        QCOMPARE(answeredOtherThan(true, kPhoneNumbers, IsPossiblePhoneNumber), QStringList());
+        QCOMPARE(answeredOtherThan(false, kNoPhoneNumbers, IsPossiblePhoneNumber), QStringList());
+        QCOMPARE(answeredOtherThan(true, kCardNumbers, IsPossibleCreditCardNumber), QStringList());
+        QCOMPARE(answeredOtherThan(false, kNoCardNumbers, IsPossibleCreditCardNumber),
+                 QStringList());
+    }
+
+    void recognisesAddresses()
+    {
+        for (const Address &address : kAddresses) {
+            const QString text = QString::fromUtf8(address.text);
+            QVERIFY2(IsPossibleEMailAddress(text, true) == address.strict, address.text);
+            QVERIFY2(IsPossibleEMailAddress(text, false) == address.loose, address.text);
+        }
+        const QString end = QStringLiteral(".com");
+        QVERIFY(IsPossibleEMailAddress(QStringLiteral("x@") + repeated("a", 255) + end, true));
+        QVERIFY(!IsPossibleEMailAddress(QStringLiteral("x@") + repeated("a", 256) + end, true));
+    }
+
+    void takesTextsOfAnyLength_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isNumber");
+        QTest::addColumn<bool>("isAddress");
+
+        constexpr int kLength = 100 * 1024;
+        QTest::newRow("digits") << repeated("1", kLength) << true << false;
+        QTest::newRow("letters") << repeated("a", kLength) << false << false;
+        QTest::newRow("blanks") << QStringLiteral("(123)") + repeated(" ", kLength) << true
+                                << false;
+        QTest::newRow("hyphens") << repeated("12-", kLength) << true << false;
+        QTest::newRow("labels") << repeated("aa.", kLength) << false << false;
+        QTest::newRow("host") << repeated("aa.", 3 * 34000) + QStringLiteral("com") << false
+                              << true;
+        QTest::newRow("ats") << repeated("a@", kLength) << false << false;
+        QTest::newRow("escapes") << repeated("%aa", kLength) << false << false;
+    }
+    void takesTextsOfAnyLength()
+    {
+        QFETCH(QString, text);
+        QTEST(IsPossiblePhoneNumber(text), "isNumber");
+        QTEST(IsPossibleEMailAddress(text, false), "isAddress");
+        QVERIFY(!IsPossibleCreditCardNumber(text));
+    }
+
+    void recognisesInSeveralThreadsAtOnce()
+    {
+        std::atomic<int> wrong{0};
+        std::vector<std::thread> threads;
+        for (int thread = 0; thread < 4; ++thread) {
+            threads.emplace_back([&wrong] {
+                for (int round = 0; round < 100; ++round) {
+                    wrong += IsPossiblePhoneNumber(QStringLiteral("555-123-4567")) ? 0 : 1;
+                    wrong += IsPossiblePhoneNumber(QStringLiteral("12-34")) ? 1 : 0;
+                    wrong += IsPossibleEMailAddress(QStringLiteral("a@bc.de"), true) ? 0 : 1;
+                }
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(wrong.load(), 0);
+    }
+
+    void matchesWholeTextsWithAnyPattern_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<bool>("matches");
+
+        const auto row = [](const char *text, const char *pattern, bool matches) {
+            QTest::addRow("%s | %s", text, pattern)
+                    << QString::fromLatin1(text) << QString::fromLatin1(pattern) << matches;
+        };
+        row("abc", "^abc$", true);
+        row("abc", "b", false);
+        row("abc", "a.*", true);
+        row("ABC", "abc", false);
+        row("", "", true);
+        row("", "^$", true);
+        row("x", "", false);
+        row("^a", "^^a", false); // an anchor is left
+        row("(", "(", false);
+        row("", "a{", false);
+        row("aa", "(a)\\1", true);
+    }
+    void matchesWholeTextsWithAnyPattern()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, pattern);
+        QTEST(IsStringMatchingWithRegularExpression(text, pattern), "matches");
+    }
+
+    void ageGrowsOnTheBirthday_data()
+    {
+        QTest::addColumn<QDate>("birthday");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<int>("age");
+
+        const QDate leapDay(2000, 2, 29);
+        QTest::newRow("before a leap day") << leapDay << QDate(2007, 2, 28) << 6;
+        QTest::newRow("after a leap day") << leapDay << QDate(2007, 3, 1) << 7;
+        QTest::newRow("birthday") << QDate(2000, 6, 1) << QDate(2007, 6, 1) << 7;
+        QTest::newRow("born today") << leapDay << leapDay << 0;
+        QTest::newRow("not born yet") << QDate(2010, 1, 1) << QDate(2007, 1, 1) << -3;
+        QTest::newRow("no birthday") << QDate() << QDate(2007, 1, 1) << 0;
+        QTest::newRow("no day") << leapDay << QDate() << 0;
+    }
+    void ageGrowsOnTheBirthday()
+    {
+        QFETCH(QDate, birthday);
+        QFETCH(QDate, day);
+        QTEST(AgeInYears(birthday, day), "age");
+        QCOMPARE(AgeInYears(birthday), AgeInYears(birthday, QDate::currentDate()));
+    }
+
+    void emptyFilesAreCreatedOnlyWhereFilesCanBe()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("file"));
+        QVERIFY(CreateEmptyFile(path));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+        file.close();
+        QVERIFY(CreateEmptyFile(path));
+        QCOMPARE(QFileInfo(path).size(), 0);
+
+        QVERIFY(!CreateEmptyFile(folder.path()));
+        QVERIFY(!CreateEmptyFile(folder.filePath(QStringLiteral("missing/file"))));
+        QVERIFY(!CreateEmptyFile(QString()));
+#ifdef Q_OS_UNIX
+        const QString pipe = folder.filePath(QStringLiteral("pipe"));
+        QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {pipe}), 0);
+        QVERIFY(!CreateEmptyFile(pipe)); // and does not wait for a reader
+#endif
+    }
+
+    void comboBoxItemsStayInOrder()
+    {
+        QComboBox box;
+        int data = 0;
+        for (const char *text : {"c", "a", "b", "B", "\u00e4", "b", "z", ""})
+            InsertItemInComboboxLocaleAwareSorted(box, QString::fromUtf8(text), data++);
+        for (int i = 1; i < box.count(); ++i)
+            QVERIFY(box.itemText(i - 1).localeAwareCompare(box.itemText(i)) <= 0);
+        QCOMPARE(box.count(), data);
+        const int first = box.findData(2);
+        QCOMPARE(box.itemText(first), QStringLiteral("b"));
+        QVERIFY(box.findData(5) > first); // behind its equal
+    }
+
+    void areasAreMovedOntoTheDesktop_data()
+    {
+        QTest::addColumn<QRect>("area");
+        QTest::addColumn<QRect>("expected");
+
+        const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
+        const QRect small(desktop.topLeft() + QPoint(7, 9), QSize(100, 50));
+        const int most = std::numeric_limits<int>::max();
+        const QRect rightmost(desktop.right() - 99, desktop.top(), 100, 50);
+        QTest::newRow("inside") << small << small;
+        QTest::newRow("larger") << desktop.adjusted(-50, -10, 70, 30) << desktop;
+        QTest::newRow("left and above")
+                << small.translated(-300, -300) << QRect(desktop.topLeft(), small.size());
+        QTest::newRow("right") << rightmost.translated(500, 0) << rightmost;
+        QTest::newRow("below") << QRect(desktop.left(), desktop.bottom() + 5, 10, 20)
+                               << QRect(desktop.left(), desktop.bottom() - 19, 10, 20);
+        QTest::newRow("everything") << QRect(QPoint(-most, -most), QPoint(most, most)) << desktop;
+        QTest::newRow("far off") << QRect(QPoint(most - 9, most - 9), QPoint(most, most))
+                                 << QRect(desktop.bottomRight() - QPoint(9, 9), QSize(10, 10));
+    }
+    void areasAreMovedOntoTheDesktop()
+    {
+        QFETCH(QRect, area);
+        QTEST(ensureVisibilityOfArea(area), "expected");
+    }
+
+    void rectanglesAreCentred()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        const QSize odd(101, 51);
+        const QPoint corner((screen.width() - 101) / 2, (screen.height() - 51) / 2);
+        QCOMPARE(centerRectOnPrimaryScreen(QRect(QPoint(-5000, 70), odd)),
+                 QRect(screen.topLeft() + corner, odd));
+        const QSize large = screen.size() + QSize(3, 5); // halves are rounded toward zero
+        QCOMPARE(centerRectOnPrimaryScreen(QRect(QPoint(), large)),
+                 QRect(screen.topLeft() - QPoint(1, 2), large));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_VhUtilities)
+#include "tst_vhutilities.moc"

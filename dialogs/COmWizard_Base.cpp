@@ -1,6 +1,7 @@
 #include <ombrin/COmWizard_Base.h>
 
 #include "dialogs/EventWatcher.h"
+#include "dialogs/WizardWidgets.h"
 
 #include <ombrin/OmDesktop.h>
 
@@ -49,11 +50,17 @@ COmWizard_Mission_Base *COmWizard_Base::Mission()
 void COmWizard_Base::showEvent(QShowEvent *event)
 {
     const QPointer<COmWizard_Base> self(this);
+    ombrin::settleLayouts(this);
     ombrin::OmDesktop::setCentered(this);
+    const QSize centredSize = size();
     if (m_mission)
         RefreshDialog();
-    if (self)
-        OmDialog2::showEvent(event);
+    if (!self)
+        return;
+    ombrin::settleLayouts(this);
+    if (size() != centredSize)
+        ombrin::OmDesktop::setCentered(this);
+    OmDialog2::showEvent(event);
 }
 
 void COmWizard_Base::refreshWindowIcon()

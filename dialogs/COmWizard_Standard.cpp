@@ -1,6 +1,6 @@
 #include <ombrin/COmWizard_Standard.h>
 
-#include "dialogs/EventWatcher.h"
+#include "dialogs/EnterKeyWatcher.h"
 #include "dialogs/WizardButtons.h"
 #include "dialogs/WizardWidgets.h"
 
@@ -50,8 +50,7 @@ QLabel *textLabel(QWidget *parent)
 
 COmWizard_Standard::COmWizard_Standard()
     : m_buttons(std::make_unique<WizardButtons>(this))
-    , m_enterWatcher(std::make_unique<ombrin::EventWatcher>(
-              this, [this](const QEvent *event) { watchEnterKey(event); }))
+    , m_enterKey(std::make_unique<ombrin::EnterKeyWatcher>(this))
 {}
 
 COmWizard_Standard::~COmWizard_Standard() = default;
@@ -339,23 +338,10 @@ void COmWizard_Standard::refreshTabOrder()
 void COmWizard_Standard::keyReleaseEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Enter && !event->isAutoRepeat();
-    if (Mission() && isEnter && !m_enterWentElsewhere && m_buttons->executeOrGoOn())
+    if (Mission() && isEnter && !m_enterKey->wasPressedElsewhere() && m_buttons->executeOrGoOn())
         event->accept();
     else
         QWidget::keyReleaseEvent(event);
-}
-
-// An Enter that closed another window, such as the question whether to cancel, is released over the
-// wizard. It was not meant for it.
-void COmWizard_Standard::watchEnterKey(const QEvent *event)
-{
-    if (event->type() == QEvent::WindowDeactivate) {
-        m_enterWentElsewhere = true;
-    } else if (event->type() == QEvent::KeyPress) {
-        const auto *press = static_cast<const QKeyEvent *>(event);
-        if (press->key() == Qt::Key_Enter && !press->isAutoRepeat())
-            m_enterWentElsewhere = false;
-    }
 }
 
 void COmWizard_Standard::closeEvent(QCloseEvent *event)

@@ -1,10 +1,16 @@
 #include "dialogs/DialogParts.h"
 
 #include "skin/SkinPixmap.h"
+#include "windows/FramePainter.h"
 
+#include <ombrin/OmDialog2.h>
+
+#include <QtGui/QScreen>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+
+#include <algorithm>
 
 namespace ombrin {
 
@@ -46,6 +52,17 @@ QHBoxLayout *createButtonRow(std::initializer_list<QPushButton *> buttons)
         row->addWidget(button);
     addSpacer(row);
     return row;
+}
+
+void makeRoomForTitle(OmDialog2 *dialog)
+{
+    auto *column = qobject_cast<QBoxLayout *>(dialog->layout());
+    if (!column)
+        return;
+    const int width = std::min(frameWidthForTitle(dialog->windowTitleOnly(), dialog->font()),
+                               dialog->screen()->availableGeometry().width() / 2);
+    const QMargins margins = dialog->contentsMargins() + column->contentsMargins();
+    column->addStrut(width - margins.left() - margins.right());
 }
 
 } // namespace ombrin

@@ -12,6 +12,8 @@ class QWidget;
 
 namespace ombrin {
 
+class OmDialog2;
+
 /// The empty place, 48 x 48, of the picture at the left of \a dialog.
 QLabel *createIconLabel(QWidget *dialog);
 /// Puts the picture of the library's dialogs there.
@@ -21,5 +23,9 @@ void showDialogIcon(QLabel *iconLabel);
 QPushButton *createDialogButton(QWidget *dialog);
 /// A row with \a buttons in its middle.
 QHBoxLayout *createButtonRow(std::initializer_list<QPushButton *> buttons);
+
+/// Lets \a dialog, which has a box layout from top to bottom, be no narrower than its title. A
+/// title that would fill more than half of the screen is shortened instead.
+void makeRoomForTitle(OmDialog2 *dialog);
 
 } // namespace ombrin

@@ -18,8 +18,12 @@ public:
 
     Dialog *operator->() const { return m_dialog; }
 
-    /// Whether the dialog was accepted and is still there to be asked.
-    bool exec() { return m_dialog->exec() == Dialog::Accepted && m_dialog; }
+    /// Runs the dialog. Its result, or Dialog::Rejected when it is gone and cannot be asked.
+    int exec()
+    {
+        const int result = m_dialog ? m_dialog->exec() : Dialog::Rejected;
+        return m_dialog ? result : Dialog::Rejected;
+    }
 
 private:
     QPointer<Dialog> m_dialog;

@@ -44,7 +44,7 @@ QDate OmCalendar::selectDate(const QDate &date, QWidget *parent)
 {
     ModalDialog<OmCalendar> dialog(new OmCalendar(parent));
     dialog->m_calendar->setSelectedDate(date);
-    return dialog.exec() ? dialog->m_calendar->selectedDate() : date;
+    return dialog.exec() == Accepted ? dialog->m_calendar->selectedDate() : date;
 }
 
 void OmCalendar::changeEvent(QEvent *event)

@@ -76,9 +76,10 @@ QString OmInputDialog::ask(QWidget *parent, const QString &title, const QString 
     const QPointer<Input> input = new Input(dialog.operator->());
     dialog->addInput(input, label);
     prepare(input.data());
+    makeRoomForTitle(dialog.operator->());
     dialog->resize(dialog->minimumSizeHint());
 
-    const bool isAccepted = dialog.exec() && input;
+    const bool isAccepted = dialog.exec() != Rejected && input;
     if (ok)
         *ok = isAccepted;
     if (!isAccepted)

@@ -51,8 +51,9 @@ int OmMessageBox::ask(Kind kind, QWidget *parent, const QString &title, const QS
     showDialogIcon(box->m_iconLabel);
     box->m_textLabel->setText(text);
     box->become(kind);
+    makeRoomForTitle(box.operator->());
     box->resize(box->minimumSizeHint());
-    return box.exec() ? Accepted : Rejected;
+    return box.exec();
 }
 
 void OmMessageBox::setTexts()

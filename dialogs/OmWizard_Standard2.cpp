@@ -68,8 +68,8 @@ void OmWizard_Standard2::RefreshDialog()
     ombrin::refreshStepByStep<OmWizard_Standard2>(
             this, {&OmWizard_Standard2::refreshWindowIcon, &OmWizard_Standard2::refreshTitle,
                    &OmWizard_Standard2::refreshPicture, &OmWizard_Standard2::refreshButtons,
-                   &OmWizard_Standard2::refreshPage, &OmWizard_Standard2::refreshTabOrder,
-                   &OmWizard_Standard2::refreshLayout});
+                   &OmWizard_Standard2::refreshPage, &OmWizard_Standard2::refreshDefaultButton,
+                   &OmWizard_Standard2::refreshTabOrder, &OmWizard_Standard2::refreshLayout});
 }
 
 void OmWizard_Standard2::refreshTitle()
@@ -127,6 +127,19 @@ bool OmWizard_Standard2::replacePage(QWidget *page)
     if (newPage)
         newPage->setFocus(Qt::OtherFocusReason);
     return self;
+}
+
+// What Return does is decided when it is pressed; this only shows it.
+void OmWizard_Standard2::refreshDefaultButton()
+{
+    QPushButton *button = m_buttons->mainButton();
+    if (button == m_defaultButton)
+        return;
+    if (m_defaultButton)
+        m_defaultButton->setDefault(false);
+    if (button)
+        button->setDefault(true);
+    m_defaultButton = button;
 }
 
 void OmWizard_Standard2::refreshTabOrder()

@@ -138,6 +138,17 @@ bool WizardButtons::executeOrGoOn()
     return false;
 }
 
+QPushButton *WizardButtons::mainButton() const
+{
+    QPushButton *main = nullptr;
+    for (QPushButton *button : {button(Next), button(Execute)}) {
+        const bool isBetter = !main || !main->isEnabled() || (button && button->isEnabled());
+        if (button && !button->isHidden() && isBetter)
+            main = button;
+    }
+    return main;
+}
+
 void WizardButtons::turnPage(Action action)
 {
     const QPointer<COmWizard_Base> wizard(m_wizard);

@@ -48,6 +48,9 @@ public:
     /// Executes the mission where that is possible and allowed, or else goes to the next page where
     /// that is. Returns whether one of them was.
     bool executeOrGoOn();
+    /// The button of what executeOrGoOn() does, or would do if it were allowed; null for none. As
+    /// of the last refresh.
+    QPushButton *mainButton() const;
     /// Lets a wizard that is asked to close do what its cancel button would.
     void close(QCloseEvent *event);
 

@@ -2,6 +2,9 @@
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
+
+#include <algorithm>
 
 namespace ombrin {
 
@@ -58,6 +61,13 @@ void releasePage(QWidget *page)
     page->hide();
     if (guard)
         guard->setParent(nullptr);
+}
+
+void settleLayouts(QWidget *window)
+{
+    // From the inside out: an inner layout sets the size limits that an outer one goes by.
+    const auto layouts = window->findChildren<QLayout *>();
+    std::for_each(layouts.rbegin(), layouts.rend(), [](QLayout *layout) { layout->activate(); });
 }
 
 void refreshPageTabOrder(QWidget *page, std::initializer_list<QWidget *> buttons)

@@ -26,6 +26,9 @@ QSize pixmapSize(const QLabel *label);
 /// that runs meanwhile may destroy it.
 void releasePage(QWidget *page);
 
+/// Lays out \a window with everything in it at once, so that it has the size it will keep.
+void settleLayouts(QWidget *window);
+
 /// Puts \a page with everything on it, and then those of \a buttons that are not hidden, into the
 /// tab order one after the other. \a page may be null.
 void refreshPageTabOrder(QWidget *page, std::initializer_list<QWidget *> buttons);

@@ -156,6 +156,24 @@ QRegion frameShape(const QSize &size)
     return shape;
 }
 
+QFont frameTitleFont(const QFont &windowFont)
+{
+    QFont font = windowFont;
+    font.setWeight(QFont::Bold);
+    if (font.pixelSize() > 0)
+        font.setPixelSize(font.pixelSize() + 2);
+    else
+        font.setPointSizeF(font.pointSizeF() + 1);
+    return font;
+}
+
+int frameWidthForTitle(const QString &title, const QFont &windowFont)
+{
+    const int around = kTitleLeft + kTitleRightDistance - 1;
+    const int width = QFontMetrics(frameTitleFont(windowFont)).horizontalAdvance(title);
+    return title.isEmpty() ? kMinimumWidth : around + width + 1; // rounding may hide a fraction
+}
+
 void FramePainter::paintBorder(QPainter *painter, const QSize &size, bool active,
                                const QRegion &exposed)
 {

@@ -28,6 +28,11 @@ constexpr int kTitleRightDistance = 92; ///< from the window's right edge to the
 /// The shape of a frame of \a size: its rectangle without three pixels at each corner.
 OMBRIN_AUTOTEST_EXPORT QRegion frameShape(const QSize &size);
 
+/// The font of the title in a window of \a windowFont: bold and a little larger.
+QFont frameTitleFont(const QFont &windowFont);
+/// How wide a frame must be to show the whole of \a title; the narrowest frame without a title.
+OMBRIN_AUTOTEST_EXPORT int frameWidthForTitle(const QString &title, const QFont &windowFont);
+
 /// Paints a skinned frame: border and title. The inside is left alone.
 class OMBRIN_AUTOTEST_EXPORT FramePainter
 {

@@ -238,18 +238,8 @@ void SkinFrame::paint(QPaintEvent *event)
     painter.setClipping(true);
     FramePainter::paintBorder(&painter, m_window->size(), m_active, event->region());
     if (!m_title.isEmpty())
-        m_painter.paintTitle(&painter, m_window->size(), m_active, m_title, titleFont());
-}
-
-QFont SkinFrame::titleFont() const
-{
-    QFont font = m_window->font();
-    font.setWeight(QFont::Bold);
-    if (font.pixelSize() > 0)
-        font.setPixelSize(font.pixelSize() + 2);
-    else
-        font.setPointSizeF(font.pointSizeF() + 1);
-    return font;
+        m_painter.paintTitle(&painter, m_window->size(), m_active, m_title,
+                             frameTitleFont(m_window->font()));
 }
 
 void SkinFrame::setTitle(const QString &title)

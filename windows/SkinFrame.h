@@ -76,7 +76,6 @@ public:
 private:
     void restoreNativeStyle();
     void followScreen();
-    QFont titleFont() const;
     void insertMenuBar();
 
     QWidget *m_window;

@@ -14,7 +14,7 @@ class QPushButton;
 class QVBoxLayout;
 
 namespace ombrin {
-class EventWatcher;
+class EnterKeyWatcher;
 }
 
 /// A wizard with a header (title and description of the page, picture of the mission), a sidebar
@@ -36,9 +36,10 @@ class EventWatcher;
 ///
 /// The Enter key of the keypad executes the mission where it may, or else goes to the next page.
 /// The Return key does neither, and none of the wizard's buttons is a default button; Space presses
-/// the one that has the focus. An Enter key that is held counts once, and one that closed another
-/// window before it is released over the wizard does not count. A push button on a page is a
-/// default button of the dialog unless it is told otherwise: call its setAutoDefault(false).
+/// the one that has the focus. An Enter key that is held counts once, and one that something else
+/// took when it was pressed does not count: the list of a combo box, a text that takes line breaks,
+/// another window. A push button on a page is a default button of the dialog unless it is told
+/// otherwise: call its setAutoDefault(false).
 ///
 /// That the mission was executed is remembered until it is executed again and fails, also when the
 /// mission is replaced.
@@ -90,8 +91,6 @@ private:
     void refreshTabOrder();
     bool releaseOtherPages(const QWidget *page);
 
-    void watchEnterKey(const QEvent *event);
-
     QWidget *m_header = nullptr;
     QWidget *m_pageArea = nullptr;
     QWidget *m_buttonArea = nullptr;
@@ -105,8 +104,7 @@ private:
     QLabel *m_titleLabel = nullptr;
     QLabel *m_descriptionLabel = nullptr;
     std::unique_ptr<ombrin::WizardButtons> m_buttons;
-    std::unique_ptr<ombrin::EventWatcher> m_enterWatcher;
+    std::unique_ptr<ombrin::EnterKeyWatcher> m_enterKey;
     std::optional<QSize> m_fixedSize;
     bool m_titlebarVisible = true;
-    bool m_enterWentElsewhere = false;
 };

@@ -7,6 +7,7 @@
 #include <memory>
 
 class QLabel;
+class QPushButton;
 
 /// A compact wizard: the sidebar picture, the current page and a row of buttons, in a dialog that
 /// takes the size of its page.
@@ -23,8 +24,9 @@ class QLabel;
 /// it. The page gets the keyboard focus when it is shown; make its first field its focus proxy.
 ///
 /// The dialog ends as COmWizard_Standard does, but Escape asks the mission like "Cancel" does.
-/// Return and Enter execute the mission where they may, or else go to the next page; over a button
-/// that has the focus they press it. A key that is held counts once.
+/// Return and Enter execute the mission where they may, or else go to the next page, and the button
+/// that would do the same is drawn as the default one; over a button that has the focus they press
+/// it. A key that is held counts once.
 class OMBRIN_GUI_EXPORT OmWizard_Standard2 : public COmWizard_Base
 {
     Q_OBJECT
@@ -52,6 +54,7 @@ private:
     void refreshPicture();
     void refreshButtons();
     void refreshPage();
+    void refreshDefaultButton();
     void refreshTabOrder();
     bool replacePage(QWidget *page);
 
@@ -63,4 +66,5 @@ private:
     QLabel *m_pictureLabel = nullptr;
     std::unique_ptr<ombrin::WizardButtons> m_buttons;
     QPointer<QWidget> m_shownPage;
+    QPointer<QPushButton> m_defaultButton;
 };

@@ -2,10 +2,11 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QRegExp>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtWidgets/QComboBox>
+
+#include <QRegExp> // of QtCore in Qt 5, of Core5Compat in Qt 6
 
 #include <algorithm>
 #include <limits>

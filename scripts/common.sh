@@ -11,6 +11,7 @@ packages_build=(
   g++ cmake ninja-build pkg-config librsvg2-bin
   qtbase5-dev qtbase5-dev-tools qt5-style-plugins
   fonts-dejavu-core
+  libhunspell-dev hunspell-en-us hunspell-de-de
 )
 # What the tests need beyond that.
 packages_test=(
@@ -20,7 +21,7 @@ packages_test=(
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev)
 packages_clang=(clang)
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb x11-utils xz-utils)
-packages_benchmark=(libbenchmark-dev)
+packages_benchmark=(libbenchmark-dev hunspell-fr)
 
 # install_packages PACKAGE...: installs what is missing, with apt-get.
 install_packages() {

@@ -5,8 +5,9 @@
 /// \file
 /// Export macros of the two libraries.
 ///
-/// \c OMBRIN_AUTOTEST_EXPORT marks what is not part of the interface and what only the library's
-/// own tests and benchmarks link to: it is exported in builds with those and hidden in all others.
+/// \c OMBRIN_AUTOTEST_EXPORT, and \c OMBRIN_CORE_AUTOTEST_EXPORT in the core library, mark what is not
+/// part of the interface and what only the library's own tests and benchmarks link to: it is
+/// exported in builds with those and hidden in all others.
 
 #ifdef OMBRIN_BUILD_CORE
 #define OMBRIN_CORE_EXPORT Q_DECL_EXPORT
@@ -22,8 +23,10 @@
 
 #ifdef OMBRIN_AUTOTEST
 #define OMBRIN_AUTOTEST_EXPORT OMBRIN_GUI_EXPORT
+#define OMBRIN_CORE_AUTOTEST_EXPORT OMBRIN_CORE_EXPORT
 #else
 #define OMBRIN_AUTOTEST_EXPORT
+#define OMBRIN_CORE_AUTOTEST_EXPORT
 #endif
 
 /// The library's namespace.

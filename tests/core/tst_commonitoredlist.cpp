@@ -1,0 +1,593 @@
+#include "support/TestCase.h"
+
+#include <ombrin/COmMonitoredList.h>
+
+#include <QtCore/QRandomGenerator>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <numeric>
+#include <thread>
+#include <vector>
+
+namespace {
+
+struct Element
+{
+    int number;
+};
+
+using List = COmMonitoredList<Element *>;
+
+constexpr int kElements = 16;
+
+Element *element(int number)
+{
+    static std::array<Element, kElements> all = [] {
+        std::array<Element, kElements> made{};
+        for (int i = 0; i < kElements; ++i)
+            made.at(static_cast<std::size_t>(i)).number = i;
+        return made;
+    }();
+    return &all.at(static_cast<std::size_t>(number));
+}
+
+// The letters of the elements, the first being 'a'.
+template <typename AnyList>
+QString letters(const AnyList &list)
+{
+    QString text;
+    for (const Element *item : list)
+        text += item ? QChar(QLatin1Char(static_cast<char>('a' + item->number))) : QLatin1Char('0');
+    return text;
+}
+
+template <typename AnyList>
+void fill(AnyList *list, const char *text)
+{
+    for (; *text; ++text)
+        list->append(element(*text - 'a'));
+}
+
+// A list that tells in a text what its hooks saw: + and - before, and * and / after adding and
+// removing, ! for a change. Rules turn hooks into those of a host.
+class Watched : public List
+{
+public:
+    using List::IgnoreChanges;
+    using List::m_addHooksSuppressed;
+    using List::m_deleteHooksSuppressed;
+
+    Watched() = default;
+    explicit Watched(const char *text)
+    {
+        fill(this, text);
+        log.clear();
+    }
+    using List::operator=;
+
+    void Override_ChangesHappened() override
+    {
+        log += QLatin1Char('!');
+        if (onChange)
+            onChange();
+    }
+    bool Override_BeforeItemAdded(Element *&item) override
+    {
+        return tell('+', item) && (!beforeAdded || beforeAdded(item));
+    }
+    bool Override_BeforeItemDeleted(Element *&item) override
+    {
+        return tell('-', item) && (!beforeDeleted || beforeDeleted(item));
+    }
+    void Override_AfterItemAdded(Element *&item) override { tell('*', item); }
+    void Override_AfterItemDeleted(Element *&item) override { tell('/', item); }
+
+    QString log;
+    std::function<bool(Element *&)> beforeAdded;
+    std::function<bool(Element *&)> beforeDeleted;
+    std::function<void()> onChange;
+
+private:
+    bool tell(char sign, const Element *item)
+    {
+        log += QLatin1Char(sign) + letters(std::vector<const Element *>{item});
+        return true;
+    }
+};
+
+// What an operation is told to do; the first three are indexes into the list.
+struct Draw
+{
+    int inside; // of an element, if there is one
+    int from;   // up to the end
+    int to;     // from there up to the end
+    int anywhere;
+    Element *item;
+};
+
+template <typename L, typename It>
+qint64 place(L &list, It it)
+{
+    return it - list.begin();
+}
+
+// The operations, the same for both kinds of list; those from kFirstForElements on need an element.
+constexpr int kFirstForElements = 25;
+template <typename L>
+constexpr qint64 (*kOperations[])(L &, L &, Draw) = {
+        [](L &l, L &, Draw d) { return l.append(d.item), qint64(0); },
+        [](L &l, L &, Draw d) { return l.prepend(d.item), qint64(0); },
+        [](L &l, L &, Draw d) { return l.insert(d.from, d.item), qint64(0); },
+        [](L &l, L &, Draw d) { return place(l, l.insert(l.begin() + d.to, d.item)); },
+        [](L &l, L &, Draw d) { return qint64(((l += d.item) << d.item).size()); },
+        [](L &l, L &, Draw d) { return l.push_back(d.item), l.push_front(d.item), qint64(0); },
+        [](L &l, L &o, Draw) { return qint64((l += o).size()); },
+        [](L &l, L &o, Draw) { return qint64((l << l << o).size()); },
+        [](L &l, L &o, Draw) { return l = o, qint64(0); },
+        [](L &l, L &o, Draw d) { return o = l, o.append(d.item), qint64(0); },
+        [](L &l, L &o, Draw) { return l = o + l, qint64(0); },
+        [](L &l, L &, Draw d) { return l = l.mid(d.anywhere, d.to - 3), qint64(0); },
+        [](L &l, L &, Draw) { return qint64(l.mid(0) == l); },
+        [](L &l, L &, Draw d) { return place(l, l.erase(l.begin() + d.from, l.begin() + d.to)); },
+        [](L &l, L &, Draw d) { return qint64(l.removeAll(d.item)); },
+        [](L &l, L &, Draw d) { return d.anywhere % 8 ? void() : l.clear(), qint64(0); },
+        [](L &l, L &, Draw d) { return qint64(l.indexOf(d.item, d.anywhere)); },
+        [](L &l, L &, Draw d) { return qint64(l.lastIndexOf(d.item, d.anywhere)); },
+        [](L &l, L &, Draw d) { return l.count(d.item) + 100LL * l.contains(d.item); },
+        [](L &l, L &o, Draw) { return (l == o) + 2LL * (l != o) + 4 * l.isEmpty() + l.empty(); },
+        [](L &l, L &, Draw d) { return qint64(l.value(d.anywhere) == d.item); },
+        [](L &l, L &, Draw d) { return qint64(l.value(d.anywhere, d.item) == d.item); },
+        [](L &l, L &, Draw) { return std::sort(l.begin(), l.end()), qint64(0); },
+        [](L &l, L &, Draw) { return std::reverse(l.begin(), l.end()), qint64(0); },
+        [](L &l, L &, Draw) {
+            return std::accumulate(l.constBegin(), l.constEnd(), qint64(0),
+                                   [](qint64 sum, Element *e) { return 3 * sum + e->number; });
+        },
+        [](L &l, L &, Draw d) { return l.removeAt(d.inside), qint64(0); },
+        [](L &l, L &, Draw d) { return qint64(l.takeAt(d.inside)->number); },
+        [](L &l, L &, Draw) { return qint64(l.takeFirst()->number); },
+        [](L &l, L &, Draw) { return qint64(l.takeLast()->number); },
+        [](L &l, L &, Draw) { return l.removeFirst(), l.isEmpty() ? 0LL : (l.pop_back(), 1LL); },
+        [](L &l, L &, Draw) { return l.removeLast(), l.isEmpty() ? 0LL : (l.pop_front(), 1LL); },
+        [](L &l, L &, Draw d) { return l.replace(d.inside, d.item), qint64(0); },
+        [](L &l, L &, Draw d) { return l.move(d.inside, d.from % int(l.size())), qint64(0); },
+        [](L &l, L &, Draw d) { return place(l, l.erase(l.begin() + d.inside)); },
+        [](L &l, L &, Draw d) { return l[d.inside] = d.item, qint64(0); },
+        [](L &l, L &, Draw d) { return l.first() = l.last(), l.back() = l.at(d.inside), 0LL; },
+        [](L &l, L &, Draw d) { return l.append(l.at(d.inside)), l.prepend(l.last()), 0LL; },
+        [](L &l, L &, Draw d) {
+            return l.insert(d.from, l[d.inside]), l.replace(0, l.at(d.inside)), 0LL;
+        },
+        [](L &l, L &, Draw d) { return qint64(l.removeAll(l.at(d.inside))); },
+        [](L &l, L &, Draw d) { return std::swap(l.end()[-1], l.begin()[d.inside]), 0LL; },
+};
+
+template <typename L>
+qint64 apply(int operation, quint32 chance, L &list, L &other)
+{
+    const int size = static_cast<int>(list.size());
+    if (size == 0 && operation >= kFirstForElements)
+        return -1;
+    const auto bounded = [&chance](int limit) {
+        chance = chance * 1664525u + 1013904223u;
+        return static_cast<int>((chance >> 8) % static_cast<quint32>(limit));
+    };
+    const int from = bounded(size + 1);
+    const Draw draw{bounded(std::max(size, 1)), from, from + bounded(size + 1 - from),
+                    bounded(60) - 30, element(bounded(kElements))};
+    return kOperations<L>[operation](list, other, draw);
+}
+
+} // namespace
+
+class tst_COmMonitoredList : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Three lists of each kind, which share their elements now and then.
+    void aMillionOperationsMatchQList()
+    {
+        QRandomGenerator random(20240607);
+        std::array<List, 3> ours;
+        std::array<QList<Element *>, 3> theirs;
+        constexpr int operations = static_cast<int>(std::size(kOperations<List>));
+        for (int step = 0; step < 1000000; ++step) {
+            const int operation = random.bounded(operations);
+            const quint32 chance = random.generate();
+            const std::size_t here = chance % 3;
+            const std::size_t there = chance / 3 % 3;
+            bool same = apply(operation, chance, ours[here], ours[there])
+                        == apply(operation, chance, theirs[here], theirs[there]);
+            for (std::size_t list = 0; list < ours.size(); ++list) {
+                same = same
+                       && std::equal(ours[list].constBegin(), ours[list].constEnd(),
+                                     theirs[list].constBegin(), theirs[list].constEnd());
+                if (ours[list].size() > 24) {
+                    ours[list].clear();
+                    theirs[list].clear();
+                }
+            }
+            QVERIFY2(same, qPrintable(QStringLiteral("%1: %2").arg(step).arg(operation)));
+        }
+    }
+
+    // Long lists, so that blocks grow, slide and shrink at both ends.
+    void longListsMatchQList()
+    {
+        constexpr int favourites[] = {0, 1, 2, 27, 28};
+        QRandomGenerator random(7);
+        List ours;
+        QList<Element *> theirs;
+        for (int phase = 0; phase < 60; ++phase) {
+            const int repeats = random.bounded(2000);
+            for (int n = 0; n < repeats; ++n) {
+                const int operation = favourites[phase % 2 ? phase / 2 % 5 : random.bounded(5)];
+                const quint32 chance = random.generate();
+                QCOMPARE(apply(operation, chance, ours, ours),
+                         apply(operation, chance, theirs, theirs));
+            }
+            QVERIFY(std::equal(ours.begin(), ours.end(), theirs.begin(), theirs.end()));
+        }
+    }
+
+    // Hooks that refuse, replace and are suppressed, against what the description of each
+    // operation makes of them.
+    void hooksMatchASimpleModel()
+    {
+        QRandomGenerator random(99);
+        Watched list;
+        list.beforeAdded = [](Element *&item) {
+            if (item->number % 4 == 1)
+                item = element((item->number + 1) % kElements);
+            return item->number % 5 != 0;
+        };
+        list.beforeDeleted = [](Element *&item) { return item->number % 7 != 3; };
+
+        std::vector<Element *> model;
+        QString log;
+        int ignored = 0;
+        const auto notify = [&] { log += ignored == 0 ? QStringLiteral("!") : QString(); };
+        const auto tell = [&](char sign, Element *item, int suppressed) {
+            if (suppressed == 0)
+                log += QLatin1Char(sign) + letters(std::vector<Element *>{item});
+            return suppressed == 0;
+        };
+        const auto mayAdd = [&](Element *&item) {
+            return !tell('+', item, list.m_addHooksSuppressed) || list.beforeAdded(item);
+        };
+        const auto mayRemove = [&](Element *item) {
+            return !tell('-', item, list.m_deleteHooksSuppressed) || list.beforeDeleted(item);
+        };
+        const auto insert = [&](int i, Element *item) {
+            if (!mayAdd(item))
+                return;
+            model.insert(model.begin() + i, item);
+            tell('*', item, list.m_addHooksSuppressed);
+            notify();
+        };
+        const auto remove = [&](int i) {
+            Element *const item = *(model.begin() + i);
+            if (!mayRemove(item))
+                return false;
+            model.erase(model.begin() + i);
+            tell('/', item, list.m_deleteHooksSuppressed);
+            notify();
+            return true;
+        };
+        const auto replace = [&](int i, Element *item) {
+            Element *const old = *(model.begin() + i);
+            if (!mayAdd(item) || !mayRemove(old))
+                return;
+            *(model.begin() + i) = item;
+            tell('/', old, list.m_deleteHooksSuppressed);
+            tell('*', item, list.m_addHooksSuppressed);
+            notify();
+        };
+        const auto batch = [&](const std::function<void()> &work) {
+            const auto before = model.size();
+            ++ignored;
+            work();
+            --ignored;
+            if (model.size() != before)
+                notify();
+        };
+        const auto removeRange = [&](int i, int j) {
+            while (j-- > i)
+                remove(j);
+        };
+
+        for (int step = 0; step < 200000; ++step) {
+            Element *const item = element(random.bounded(kElements));
+            Element *argument = item; // which the hooks change
+            const int size = static_cast<int>(model.size());
+            const int i = random.bounded(size + 1);
+            const int j = random.bounded(i, size + 1);
+            const int operation = random.bounded(size > 30 ? 3 : 14);
+            if (operation == 0) {
+                list.clear();
+                batch([&] { removeRange(0, size); });
+            } else if (operation <= 2) {
+                list.erase(list.begin() + i, list.begin() + j);
+                batch([&] { removeRange(i, j); });
+            } else if (operation == 3) {
+                list.removeAll(item);
+                batch([&] {
+                    for (int n = 0; n < static_cast<int>(model.size());)
+                        n += *(model.begin() + n) != item || !remove(n) ? 1 : 0;
+                });
+            } else if (operation == 4) {
+                const List other(list);
+                list += other;
+                batch([&] {
+                    for (Element *const added : other)
+                        insert(static_cast<int>(model.size()), added);
+                });
+            } else if (operation == 5 && i < size) {
+                list.replace(i, argument);
+                replace(i, item);
+            } else if (operation == 6 && i < size) {
+                list.erase(list.begin() + i);
+                remove(i);
+            } else if (operation == 7 && i < size) {
+                list.takeAt(i);
+                remove(i);
+            } else if (operation == 8) {
+                const bool more = random.bounded(2);
+                ignored = std::max(ignored + (more ? 1 : -1), 0);
+                list.IgnoreChanges(more);
+            } else if (operation == 9) {
+                list.m_addHooksSuppressed = random.bounded(3) == 0;
+                list.m_deleteHooksSuppressed = random.bounded(3) == 0;
+            } else if (operation == 10) {
+                list.prepend(argument);
+                insert(0, item);
+            } else if (operation == 11) {
+                list.insert(list.begin() + i, argument);
+                insert(i, item);
+            } else {
+                list.append(argument);
+                insert(size, item);
+            }
+            QVERIFY(std::equal(list.begin(), list.end(), model.begin(), model.end()));
+            QCOMPARE(list.log, log);
+            list.log.clear();
+            log.clear();
+        }
+    }
+
+    void operationsTellTheirHooks_data()
+    {
+        QTest::addColumn<std::function<void(Watched &)>>("operation");
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<QString>("log");
+        const auto row = [](const char *name, const char *left, const char *log,
+                            const std::function<void(Watched &)> &operation) {
+            QTest::newRow(name) << operation << QString::fromLatin1(left)
+                                << QString::fromLatin1(log);
+        };
+        row("clear", "", "-c/c-b/b-a/a!", [](Watched &list) { list.clear(); });
+        row("clear nothing", "", "-c/c-b/b-a/a!", [](Watched &list) {
+            list.clear();
+            list.clear();
+        });
+        row("remove what is not there", "abc", "",
+            [](Watched &list) { QCOMPARE(list.removeAll(element(9)), 0); });
+        row("move and swap in place", "abc", "!", [](Watched &list) {
+            list.move(2, 2);
+            list.swap(1, 1);
+        });
+        row("move and swap", "cab", "!!", [](Watched &list) {
+            list.move(0, 1);
+            list.swap(0, 2);
+            list.detach();
+        });
+        row("assign", "hi", "-c/c-b/b-a/a+h*h+i*i!", [](Watched &list) {
+            List other;
+            fill(&other, "hi");
+            list = other;
+        });
+        row("assign itself or a copy", "abc", "", [](Watched &list) {
+            const List copy(list);
+            list = copy;
+            list = *&list;
+        });
+        row("append itself", "abcabc", "+a*a+b*b+c*c!", [](Watched &list) { list += list; });
+        row("add its own element, replaced", "abcdd", "+a*d!+a*d!", [](Watched &list) {
+            list.beforeAdded = [](Element *&item) {
+                item = element(3);
+                return true;
+            };
+            list.append(list.at(0));
+            list.push_back(list.first());
+        });
+        row("erase a range", "ac", "-b/b!", [](Watched &list) {
+            QCOMPARE((*list.erase(list.begin() + 1, list.begin() + 2))->number, 2);
+        });
+        row("bad indexes", "abc", "", [](Watched &list) {
+            for (const int i : {-1, 3, 99}) {
+                list.removeAt(i);
+                QVERIFY(!list.takeAt(i));
+                QVERIFY(!list.value(i));
+                list.replace(i, element(0));
+                list.move(i, 0);
+                list.swap(1, i);
+            }
+            list.erase(list.end());
+            list.erase(List::iterator(), list.end());
+        });
+        row("empty list", "", "-c/c-b/b-a/a!", [](Watched &list) {
+            list.clear();
+            list.removeFirst();
+            list.removeLast();
+            QVERIFY(!list.takeFirst() && !list.takeLast());
+        });
+        row("refused: copies are returned as the hooks left them", "abc", "-a-a",
+            [](Watched &list) {
+                list.beforeDeleted = [](Element *&item) {
+                    item = element(4);
+                    return false;
+                };
+                QCOMPARE(list.takeAt(0), element(4));
+                QCOMPARE(list.takeFirst(), element(0));
+            });
+        row("hook removes the element itself", "ac", "-b-b/b!", [](Watched &list) {
+            list.beforeDeleted = [&list, inside = false](Element *&item) mutable {
+                if (!inside) {
+                    inside = true;
+                    list.removeAll(item);
+                }
+                return true;
+            };
+            list.removeAt(1);
+        });
+        row("hook empties the list", "d", "+d-c/c-b/b-a/a!*d!", [](Watched &list) {
+            list.beforeAdded = [&list](Element *&) {
+                list.clear();
+                return true;
+            };
+            list.insert(2, element(3));
+        });
+        row("hook adds before the element", "dac", "-b+d*d!/b!", [](Watched &list) {
+            list.beforeDeleted = [&list](Element *&) {
+                list.prepend(element(3));
+                return true;
+            };
+            QCOMPARE((*list.erase(list.begin() + 1))->number, 2);
+        });
+        row("hook puts back what is removed", "bca", "-a+a*a/a!", [](Watched &list) {
+            list.beforeDeleted = [&list](Element *&item) {
+                list.IgnoreChanges(true);
+                list.append(item);
+                list.IgnoreChanges(false);
+                return true;
+            };
+            QCOMPARE(list.removeAll(element(0)), 1);
+        });
+    }
+
+    void operationsTellTheirHooks()
+    {
+        QFETCH(std::function<void(Watched &)>, operation);
+        Watched list("abc");
+        operation(list);
+        QTEST(letters(list), "left");
+        QTEST(list.log, "log");
+    }
+
+    void copiesHaveNoHooksAndShareUntilTheyAreWritten()
+    {
+        Watched list("abcde");
+        list.IgnoreChanges(true);
+        list.m_addHooksSuppressed = 1;
+        List copy(list);
+        QVERIFY(!list.isDetached() && !list.mid(0).isDetached());
+        QVERIFY(list.mid(1).isDetached());
+        copy.append(element(5));
+        list.removeAt(0);
+        QCOMPARE(letters(copy), QStringLiteral("abcdef"));
+        QCOMPARE(letters(list), QStringLiteral("bcde"));
+        QCOMPARE(list.log, QStringLiteral("-a/a"));
+
+        list.setSharable(false);
+        QVERIFY(List(list).isDetached() && list.isDetached());
+        list.setSharable(true);
+        QVERIFY(!List(list).isDetached());
+        List never;
+        never.setSharable(false);
+        QVERIFY(never.isDetached() && !List().isDetached());
+    }
+
+    // An iterator is taken, then the list is copied: what the iterator changes is not the copy.
+    void erasingThroughAnIteratorLeavesCopiesAlone()
+    {
+        List list;
+        fill(&list, "abcdef");
+        List::iterator it = list.begin() + 1;
+        const List copy(list);
+        it = list.erase(it);
+        QCOMPARE(list.IndexOfIterator(it), 1);
+        QCOMPARE(letters(list) + letters(copy), QStringLiteral("acdefabcdef"));
+        it = list.erase(it, it + 2);
+        QCOMPARE(letters(list), QStringLiteral("aef"));
+        QCOMPARE(list.IndexOfIterator(List::const_iterator(it)), 1);
+        QCOMPARE(list.IndexOfIterator(list.end()), -1);
+        QCOMPARE(list.IndexOfIterator(copy.begin()), -1);
+        QCOMPARE(List().IndexOfIterator(List::iterator()), -1);
+    }
+
+    void loopsAndConversionsSeeAllElements()
+    {
+        List list;
+        fill(&list, "cabca");
+        QString seen;
+        Q_FOREACH (const Element *item, list)
+            seen += QString::number(item->number);
+        QCOMPARE(seen, QStringLiteral("20120"));
+        QCOMPARE(list.toSet(), (QSet<Element *>{element(0), element(1), element(2)}));
+        QVERIFY(List::fromStdList(list.toStdList()) == list);
+        const List::const_iterator second = list.begin() + 1;
+        QVERIFY(second > list.begin() && list.end() - second == 4 && second[1] == list[2]);
+    }
+
+    // Nothing of the list is touched after it has told of a change.
+    void hostMayDeleteTheListAsItChanges()
+    {
+        const std::function<void(Watched *)> changes[] = {
+                [](Watched *list) { list->append(element(0)); },
+                [](Watched *list) { list->insert(list->begin(), element(0)); },
+                [](Watched *list) { list->erase(list->begin()); },
+                [](Watched *list) { list->erase(list->begin(), list->end()); },
+                [](Watched *list) { list->takeAt(1); },
+                [](Watched *list) { list->takeLast(); },
+                [](Watched *list) { list->removeAll(element(0)); },
+                [](Watched *list) { list->clear(); },
+                [](Watched *list) { *list += *list; },
+                [](Watched *list) { *list = List(); },
+                [](Watched *list) { list->replace(0, element(2)); },
+        };
+        for (const auto &change : changes) {
+            auto list = std::make_unique<Watched>("ab");
+            Watched *const watched = list.get();
+            watched->onChange = [&list] { list.reset(); };
+            change(watched);
+            QVERIFY(!list);
+        }
+    }
+
+    // To be run with the thread sanitizer, too.
+    void copiesMayLiveInDifferentThreads()
+    {
+        List list;
+        fill(&list, "abcdefgh");
+        std::vector<std::thread> threads;
+        std::array<List, 4> results;
+        for (List &result : results) {
+            threads.emplace_back([list, &result]() mutable {
+                for (int n = 0; n < 2000; ++n) {
+                    List copy(list);
+                    List empty;
+                    copy.takeFirst();
+                    copy.prepend(element(n % kElements));
+                    empty.append(copy.last());
+                    if (n % 3 == 0)
+                        list = copy + empty.mid(1);
+                }
+                result = list;
+            });
+        }
+        for (int n = 0; n < 2000; ++n)
+            list.swap(0, n % 8);
+        for (std::thread &thread : threads)
+            thread.join();
+        for (const List &result : results)
+            QCOMPARE(letters(result), QStringLiteral("obcdefgh"));
+    }
+};
+
+Q_DECLARE_METATYPE(std::function<void(Watched &)>)
+
+OMBRIN_TEST_MAIN(tst_COmMonitoredList)
+#include "tst_commonitoredlist.moc"

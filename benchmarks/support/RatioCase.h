@@ -9,6 +9,10 @@ namespace ombrin::bench {
 /// The body of one side of a comparison: an ordinary Google Benchmark function.
 using Body = std::function<void(benchmark::State &)>;
 
+/// The counter that a body sets when it is to be judged by that figure, for example a number of
+/// bytes, and not by its time.
+constexpr const char *kFigure = "figure";
+
 /// Registers a comparison: \a ours is measured beside \a alternative in the same run and may take
 /// at most \a target times as long. \a name is unique and reads like a table row.
 ///

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+#include <functional>
+
+namespace ombrin {
+
+/// The widget in which the cards of a contact card list stand.
+class ContactColumn : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using ForgetChild = std::function<void(const QObject *child)>;
+
+    /// \a forget is called with each child that goes, by then maybe no more than a QObject. It is
+    /// not called for those that go with the column.
+    explicit ContactColumn(ForgetChild forget);
+
+protected:
+    void childEvent(QChildEvent *event) override;
+
+private:
+    ForgetChild m_forget;
+};
+
+} // namespace ombrin

@@ -1,0 +1,160 @@
+#include <ombrin/OmContactCardList.h>
+
+#include "contacts/AddContactBar.h"
+#include "contacts/ContactColumn.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace ombrin {
+
+namespace {
+
+constexpr int kClickDelayMs = 20;
+// The row of the button that adds contacts, and the empty end.
+constexpr int kItemsBehindCards = 2;
+
+} // namespace
+
+OmContactCardList::OmContactCardList(QWidget *parent)
+    : QScrollArea(parent)
+{
+    auto *column = new ContactColumn([this](const QObject *child) { forget(child); });
+    m_layout = new QVBoxLayout(column);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    setWidget(column);
+    setWidgetResizable(true);
+    setFrameStyle(QFrame::NoFrame);
+
+    m_addContactBar = new AddContactBar(column);
+    connect(m_addContactBar, &AddContactBar::clicked, this, &OmContactCardList::addContact);
+    m_layout->addWidget(m_addContactBar);
+    m_addContactBar->hide();
+    m_layout->addItem(new QSpacerItem(1, 1, QSizePolicy::Minimum, QSizePolicy::Expanding));
+}
+
+OmContactCardList::~OmContactCardList() = default;
+
+void OmContactCardList::addCard(OmContactCard *card)
+{
+    // Most new cards come from elsewhere: then there is no need to look for them.
+    if (!card || (card->parentWidget() == widget() && m_cards.contains(card)))
+        return;
+    card->setBig(m_cards.isEmpty());
+    m_layout->insertWidget(m_layout->count() - kItemsBehindCards, card);
+    connect(card, &OmContactCard::clicked, this, &OmContactCardList::slotClicked);
+    connect(card, &OmContactCard::actionId, this, &OmContactCardList::slotAction);
+    m_cards.append(card);
+    Q_EMIT added(card);
+}
+
+void OmContactCardList::removeCard(OmContactCard *card)
+{
+    const int index = m_cards.indexOf(card);
+    if (index < 0)
+        return;
+    const bool wasCurrent = card == currentCard();
+    m_layout->removeWidget(card);
+    m_cards.removeAt(index);
+    if (m_currentCard == card)
+        m_currentCard = nullptr;
+
+    const QPointer<OmContactCardList> guard(this);
+    delete card;
+    if (!guard || !wasCurrent || m_cards.isEmpty())
+        return;
+    OmContactCard *const next = m_cards.at(qMin(index, size() - 1));
+    next->setBig(true);
+    scrollTo(next);
+}
+
+int OmContactCardList::size() const
+{
+    return static_cast<int>(m_cards.size());
+}
+
+OmContactCard *OmContactCardList::card(int index) const
+{
+    return m_cards.value(index);
+}
+
+OmContactCard *OmContactCardList::currentCard() const
+{
+    return m_currentCard ? m_currentCard : card(0);
+}
+
+void OmContactCardList::enableAddContact(bool enable)
+{
+    m_addContactBar->setVisible(enable);
+}
+
+void OmContactCardList::slotClickedTimer()
+{
+    const QPointer<OmContactCard> card = sendingCard();
+    if (!card)
+        return;
+    m_currentCard = card;
+    QTimer::singleShot(kClickDelayMs, this, [this, card] {
+        if (m_cards.contains(card))
+            makeOnlyBig(card);
+    });
+}
+
+void OmContactCardList::slotClicked()
+{
+    if (OmContactCard *const card = sendingCard())
+        makeOnlyBig(card);
+}
+
+void OmContactCardList::slotAction(const QString &id)
+{
+    if (const OmContactCard *const card = sendingCard())
+        Q_EMIT actionId(id, card->ombrinId());
+}
+
+OmContactCard *OmContactCardList::sendingCard() const
+{
+    auto *const card = qobject_cast<OmContactCard *>(sender());
+    return card && card->parentWidget() == widget() ? card : nullptr;
+}
+
+void OmContactCardList::forget(const QObject *card)
+{
+    const auto gone = std::find(m_cards.begin(), m_cards.end(), card);
+    if (gone == m_cards.end())
+        return;
+    m_cards.erase(gone);
+    if (m_currentCard == card)
+        m_currentCard = nullptr;
+    disconnect(card, nullptr, this, nullptr);
+}
+
+void OmContactCardList::makeOnlyBig(OmContactCard *card)
+{
+    for (OmContactCard *other : std::as_const(m_cards)) {
+        // Most are small already, and nothing is to be done for those.
+        if (other != card && other->isBig())
+            other->setBig(false);
+    }
+    card->setBig(true);
+    scrollTo(card);
+}
+
+// Once the layout has made room for the card.
+void OmContactCardList::scrollTo(OmContactCard *card)
+{
+    QMetaObject::invokeMethod(
+            this,
+            [this, guard = QPointer<OmContactCard>(card)] {
+                if (guard && guard->isBig())
+                    ensureWidgetVisible(guard, 0, 0);
+            },
+            Qt::QueuedConnection);
+}
+
+} // namespace ombrin

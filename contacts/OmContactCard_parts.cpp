@@ -1,0 +1,201 @@
+// The widgets that a contact card is made of, made when they are needed.
+
+#include <ombrin/OmContactCard.h>
+
+#include "contacts/ContactActions.h"
+#include "skin/SkinPixmap.h"
+
+#include <ombrin/OmAvatarSmall.h>
+#include <ombrin/OmLabel.h>
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QToolBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace ombrin {
+
+namespace {
+
+constexpr int kSmallHeight = 48;
+constexpr int kBigHeight = 72;
+constexpr int kSmallAvatar = 32;
+constexpr int kBigAvatar = 50;
+constexpr int kMargin = 3;
+constexpr QSize kIndicatorSize(18, 18);
+constexpr QSize kActionIconSize(12, 12);
+
+template <typename Layout>
+Layout *createTightLayout()
+{
+    auto *layout = new Layout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    return layout;
+}
+
+// The text may come from other people.
+OmLabel *createTextLabel(QWidget *parent)
+{
+    auto *label = new OmLabel(true, parent);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+bool breaksLine(QChar c)
+{
+    const QChar::Category category = c.category();
+    return category == QChar::Other_Control || category == QChar::Separator_Line
+           || category == QChar::Separator_Paragraph;
+}
+
+} // namespace
+
+void OmContactCard::createFace()
+{
+    if (m_avatar)
+        return;
+    m_avatar = new OmAvatarSmall(this);
+    connect(m_avatar, &OmAvatarSmall::clicked, this, &OmContactCard::avatarClicked);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    row->setSpacing(kMargin);
+    row->addItem(new QSpacerItem(1, 1, QSizePolicy::Fixed, QSizePolicy::Minimum));
+    row->addWidget(m_avatar);
+    row->addLayout(createTextColumn());
+
+    resizeParts();
+    m_avatar->setAvatar(m_pendingPicture, m_pendingHover);
+    m_pendingPicture = QPixmap();
+    showAlias();
+    showStatus();
+    indicate(m_indication);
+    showFace();
+}
+
+QLayout *OmContactCard::createTextColumn()
+{
+    m_aliasLabel = createTextLabel(this);
+    m_statusLabel = createTextLabel(this);
+    m_indicatorLabel = new QLabel(this);
+    m_indicatorLabel->setFixedSize(kIndicatorSize);
+    m_toolRow = createTightLayout<QHBoxLayout>();
+
+    auto *texts = createTightLayout<QVBoxLayout>();
+    texts->addWidget(m_aliasLabel);
+    texts->addWidget(m_statusLabel);
+    auto *upper = createTightLayout<QHBoxLayout>();
+    upper->addLayout(texts);
+    upper->addWidget(m_indicatorLabel);
+    upper->addItem(new QSpacerItem(8, 1, QSizePolicy::Fixed, QSizePolicy::Minimum));
+
+    auto *column = createTightLayout<QVBoxLayout>();
+    column->addItem(new QSpacerItem(1, 2, QSizePolicy::Minimum, QSizePolicy::Fixed));
+    column->addLayout(upper);
+    column->addLayout(m_toolRow);
+    column->addItem(new QSpacerItem(1, 1, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    return column;
+}
+
+// A card that is being painted paints its new parts right afterwards.
+void OmContactCard::showFace()
+{
+    if (!isVisible())
+        return;
+    for (QWidget *part :
+         {static_cast<QWidget *>(m_avatar), static_cast<QWidget *>(m_aliasLabel),
+          static_cast<QWidget *>(m_statusLabel), static_cast<QWidget *>(m_indicatorLabel)})
+        part->show();
+    layout()->activate();
+}
+
+void OmContactCard::createTools()
+{
+    if (m_toolBar)
+        return;
+    m_toolBar = new QToolBar(this);
+    m_toolBar->setObjectName(QStringLiteral("actionToolBar"));
+    m_toolBar->setIconSize(kActionIconSize);
+    m_toolBar->hide();
+    m_toolRow->addWidget(m_toolBar);
+    // Its own actions report themselves, as they do when they are chosen in the menu.
+    connect(m_toolBar, &QToolBar::actionTriggered, this, [this](QAction *action) {
+        if (!m_actions.contains(action))
+            slotAction(action);
+    });
+    for (std::size_t index = 0; index < kContactActionCount; ++index) {
+        auto *action = new QAction(m_toolBar);
+        connect(action, &QAction::triggered, this, [this, action] { slotAction(action); });
+        m_actions.append(action);
+        showAction(static_cast<int>(index));
+    }
+}
+
+void OmContactCard::showAction(int index)
+{
+    const ContactActionLook &look = contactActionLook(static_cast<ContactAction>(index), m_blocked);
+    QAction *const action = m_actions.at(index);
+    action->setIcon(skinPixmap(QLatin1String(look.icon)));
+    action->setText(tr(look.text));
+    action->setObjectName(QLatin1String(look.id));
+    action->setToolTip(tr(look.toolTip));
+}
+
+void OmContactCard::fillToolBar()
+{
+    for (QAction *action : std::as_const(m_actions))
+        m_toolBar->removeAction(action);
+    if (const ClientActions *const client = clientActions(m_generalApp)) {
+        for (const ContactAction action : *client)
+            m_toolBar->addAction(m_actions.at(static_cast<int>(action)));
+    }
+}
+
+void OmContactCard::resizeParts()
+{
+    setFixedHeight(m_big ? kBigHeight : kSmallHeight);
+    if (!m_avatar)
+        return;
+    const int extent = m_big ? kBigAvatar : kSmallAvatar;
+    m_avatar->setFixedSize(extent, extent);
+}
+
+void OmContactCard::showAlias()
+{
+    if (!m_aliasLabel)
+        return;
+    QString line = m_alias;
+    std::replace_if(line.begin(), line.end(), breaksLine, QLatin1Char(' '));
+    m_aliasLabel->setText(line);
+}
+
+void OmContactCard::showStatus()
+{
+    if (m_statusLabel)
+        m_statusLabel->setText(statusName());
+}
+
+void OmContactCard::indicate(Indication indication)
+{
+    m_indication = indication;
+    if (!m_indicatorLabel)
+        return;
+    QPixmap picture;
+    if (indication == Indication::Typing)
+        picture = skinPixmap(QStringLiteral(":/is_typing-16"), devicePixelRatioF());
+    else if (indication == Indication::Talking)
+        picture = skinPixmap(QStringLiteral(":/is_talking-16"), devicePixelRatioF());
+    m_indicatorLabel->setPixmap(picture);
+}
+
+void OmContactCard::setBlocked(bool blocked)
+{
+    m_blocked = blocked;
+    if (!m_actions.isEmpty())
+        showAction(static_cast<int>(ContactAction::Block));
+}
+
+} // namespace ombrin

@@ -60,7 +60,7 @@ void makeRoomForTitle(OmDialog2 *dialog)
     if (!column)
         return;
     const int width = std::min(frameWidthForTitle(dialog->windowTitleOnly(), dialog->font()),
-                               dialog->screen()->availableGeometry().width() / 2);
+                               dialog->screen()->availableGeometry().width() * 3 / 4);
     const QMargins margins = dialog->contentsMargins() + column->contentsMargins();
     column->addStrut(width - margins.left() - margins.right());
 }

@@ -25,7 +25,7 @@ QPushButton *createDialogButton(QWidget *dialog);
 QHBoxLayout *createButtonRow(std::initializer_list<QPushButton *> buttons);
 
 /// Lets \a dialog, which has a box layout from top to bottom, be no narrower than its title. A
-/// title that would fill more than half of the screen is shortened instead.
+/// title that would fill more than three quarters of the screen is shortened instead.
 void makeRoomForTitle(OmDialog2 *dialog);
 
 } // namespace ombrin

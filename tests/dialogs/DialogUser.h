@@ -15,6 +15,11 @@
 /// A user who answers dialogs while they run their own event loop.
 namespace dialog_user {
 
+inline QString operator""_q(const char *text, std::size_t length)
+{
+    return QString::fromUtf8(text, static_cast<int>(length));
+}
+
 /// As soon as a \a Dialog is open and active, calls \a action with it, once. A dialog that stays
 /// open afterwards fails the test, by the warning, instead of running for ever.
 template <typename Dialog>
@@ -26,16 +31,16 @@ void whenOpen(const std::function<void(Dialog *)> &action)
         const QWidgetList widgets = QApplication::topLevelWidgets();
         for (QWidget *widget : widgets) {
             auto *dialog = qobject_cast<Dialog *>(widget);
-            if (dialog && dialog->isVisible() && dialog->isActiveWindow()) {
-                timer->stop();
-                timer->deleteLater();
-                QTimer::singleShot(5000, dialog, [dialog] {
-                    qWarning("%s stays open", dialog->metaObject()->className());
-                    dialog->hide();
-                });
-                action(dialog);
-                return;
-            }
+            if (!dialog || !dialog->isVisible() || !dialog->isActiveWindow())
+                continue;
+            timer->stop();
+            timer->deleteLater();
+            QTimer::singleShot(5000, dialog, [dialog] {
+                qWarning("%s stays open", dialog->metaObject()->className());
+                dialog->hide();
+            });
+            action(dialog);
+            return;
         }
     });
     timer->start();
@@ -64,6 +69,18 @@ inline void click(const QWidget *widget)
                       widget->mapTo(widget->window(), widget->rect().center()));
 }
 
+/// The texts of the buttons that the user sees.
+inline QString captions(const QWidget *dialog)
+{
+    QStringList texts;
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (const QPushButton *button : buttons) {
+        if (button->isVisibleTo(dialog))
+            texts.append(button->text());
+    }
+    return texts.join(QLatin1Char(' '));
+}
+
 /// The button with \a text that the user sees, or null.
 inline QPushButton *button(const QWidget *dialog, const char *text)
 {
@@ -86,14 +103,22 @@ inline ombrin::OmImageButton *closeButton(const QWidget *dialog)
 class TaggedLanguage : public QTranslator
 {
 public:
-    TaggedLanguage() { QCoreApplication::installTranslator(this); }
-    ~TaggedLanguage() override { QCoreApplication::removeTranslator(this); }
+    TaggedLanguage()
+    {
+        QCoreApplication::installTranslator(this);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+    }
+    ~TaggedLanguage() override
+    {
+        QCoreApplication::removeTranslator(this);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+    }
 
     QString translate(const char *context, const char *text, const char *comment,
                       int) const override
     {
-        return QStringLiteral("%1|%2|%3")
-                .arg(QLatin1String(context), QLatin1String(text), QLatin1String(comment));
+        return "%1|%2|%3"_q.arg(QLatin1String(context), QLatin1String(text),
+                                QLatin1String(comment));
     }
     bool isEmpty() const override { return false; }
 };

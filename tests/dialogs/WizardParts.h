@@ -1,36 +1,42 @@
 #pragma once
 
-#include <ombrin/COmWizard_Base.h>
+#include "dialogs/DialogUser.h"
+
 #include <ombrin/COmWizard_Mission_Base.h>
 #include <ombrin/COmWizard_Page_Base.h>
 #include <ombrin/COmWizard_Standard.h>
 #include <ombrin/OmWizard_Standard2.h>
 
-#include <QtCore/QStringList>
-#include <QtTest/QtTest>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QWidget>
-
-#include <functional>
 #include <memory>
+#include <optional>
 
 /// Pages and missions that tell what is done to them and do what they are told.
 namespace wizard_parts {
 
-using Hook = std::function<void()>;
+using dialog_user::operator""_q;
 
-// A hook may destroy its owner.
-inline void call(const Hook &member)
+/// Hears of everything. What it does then may destroy whoever told it.
+struct Log : public QObject
 {
-    const Hook hook = member;
-    if (hook)
-        hook();
-}
+    void tell(const QString &what)
+    {
+        if (!what.contains(QLatin1Char('?'))) // questions are not written down
+            entries.append(what);
+        const auto function = heard;
+        if (function)
+            function(what);
+    }
+    /// What was written down since the last call.
+    QString take() { return std::exchange(entries, {}).join(QLatin1Char(' ')); }
+
+    QStringList entries;
+    std::function<void(const QString &)> heard;
+};
 
 class Page : public QWidget, public COmWizard_Page_Base
 {
 public:
-    explicit Page(const QString &name = QString(), QStringList *log = nullptr)
+    explicit Page(const QString &name, Log *log = nullptr)
         : m_log(log)
     {
         setObjectName(name);
@@ -39,48 +45,53 @@ public:
 
     COmWizard_Mission_Base *mission() const { return Mission(); }
 
-    Hook onActivate;
-    Hook onDeactivate;
-    Hook onRefresh;
-
 protected:
     void Activate() override
     {
-        record(QStringLiteral("Activate"));
-        COmWizard_Page_Base::Activate();
-        call(onActivate);
+        if (tell("Activate"))
+            COmWizard_Page_Base::Activate();
     }
     void Deactivate() override
     {
-        record(QStringLiteral("Deactivate"));
-        COmWizard_Page_Base::Deactivate();
-        call(onDeactivate);
+        if (tell("Deactivate"))
+            COmWizard_Page_Base::Deactivate();
     }
-    void RefreshPage() override
+    void RefreshPage() override { tell("RefreshPage"); }
+    bool event(QEvent *event) override
     {
-        record(QStringLiteral("RefreshPage"));
-        call(onRefresh);
+        switch (event->type()) {
+        case QEvent::Show:
+        case QEvent::Hide:
+        case QEvent::ParentChange:
+        case QEvent::FocusIn:
+            return tell("event?") && QWidget::event(event);
+        default:
+            return QWidget::event(event);
+        }
     }
 
 private:
-    void record(const QString &what) const
+    /// Returns whether this page survived it.
+    bool tell(const char *what)
     {
-        const QString state = Mission() ? QString() : QStringLiteral(" without mission");
+        const QPointer<Page> self(this);
         if (m_log)
-            m_log->append(objectName() + QLatin1Char('.') + what + state);
+            m_log->tell(objectName() + QLatin1Char('.') + QLatin1String(what)
+                        + QLatin1String(Mission() ? "" : "?without mission"));
+        return self;
     }
 
-    QStringList *m_log;
+    QPointer<Log> m_log;
 };
 
 /// Owns pages as far as no wizard took them along.
 class Pages
 {
 public:
-    explicit Pages(int count, QStringList *log = nullptr)
+    explicit Pages(int count, Log *log = nullptr)
     {
         for (int index = 0; index < count; ++index)
-            m_pages.append(new Page(QString(QLatin1Char(char('A' + index % 26))), log));
+            m_pages.append(new Page(QString(QLatin1Char(char('A' + index))), log));
     }
     ~Pages()
     {
@@ -90,109 +101,82 @@ public:
     Q_DISABLE_COPY(Pages)
 
     Page *operator[](int index) const { return m_pages.at(index); }
-
-    QList<QWidget *> widgets() const
-    {
-        QList<QWidget *> list;
-        for (const QPointer<Page> &page : m_pages)
-            list.append(page);
-        return list;
-    }
+    QList<QWidget *> widgets() const { return QList<QWidget *>(m_pages.begin(), m_pages.end()); }
 
 private:
     QList<QPointer<Page>> m_pages;
 };
 
 enum Action { Previous, Next, Execute, Cancel };
+constexpr Action kActions[] = {Previous, Next, Execute, Cancel};
 
 class Mission : public COmWizard_Mission_Base
 {
 public:
     using Base = COmWizard_Mission_Base;
+    using Answers = std::optional<int>; ///< a bit for each action; none: as the base class has it
 
-    explicit Mission(const Pages &pages) { UseStaticPages(pages.widgets()); }
-    Mission() = default;
+    explicit Mission(Log *log = nullptr)
+        : m_log(log)
+    {}
+    explicit Mission(const Pages &pages, Log *log = nullptr)
+        : m_log(log)
+    {
+        UseStaticPages(pages.widgets());
+    }
 
     using Base::CurrentPage;
     using Base::DoOnChanged;
     using Base::Set_CurrentPage;
     using Base::UseStaticPages;
 
-    bool IsPrevPageAllowed() override
-    {
-        return answer(allowed, Previous, Base::IsPrevPageAllowed());
-    }
-    bool IsNextPageAllowed() override { return answer(allowed, Next, Base::IsNextPageAllowed()); }
+    bool IsPrevPageAllowed() override { return may(allowed, Previous, Base::IsPrevPageAllowed()); }
+    bool IsNextPageAllowed() override { return may(allowed, Next, Base::IsNextPageAllowed()); }
     bool IsCancelWizardAllowed() override
     {
-        return answer(allowed, Cancel, Base::IsCancelWizardAllowed());
+        return may(allowed, Cancel, Base::IsCancelWizardAllowed());
     }
     bool IsExecuteMissionAllowed() override
     {
-        return answer(allowed, Execute, Base::IsExecuteMissionAllowed());
+        return may(allowed, Execute, Base::IsExecuteMissionAllowed());
     }
     bool IsPrevPagePossible() override
     {
-        return answer(possible, Previous, Base::IsPrevPagePossible());
+        return may(possible, Previous, Base::IsPrevPagePossible());
     }
-    bool IsNextPagePossible() override
-    {
-        return answer(possible, Next, Base::IsNextPagePossible());
-    }
+    bool IsNextPagePossible() override { return may(possible, Next, Base::IsNextPagePossible()); }
     bool IsCancelWizardPossible() override
     {
-        return answer(possible, Cancel, Base::IsCancelWizardPossible());
+        return may(possible, Cancel, Base::IsCancelWizardPossible());
     }
     bool IsExecuteMissionPossible() override
     {
-        return answer(possible, Execute, Base::IsExecuteMissionPossible());
+        return may(possible, Execute, Base::IsExecuteMissionPossible());
     }
-
-    bool PrevPage() override
-    {
-        calls.append(QStringLiteral("PrevPage"));
-        call(onStep);
-        return Base::PrevPage();
-    }
-    bool NextPage() override
-    {
-        calls.append(QStringLiteral("NextPage"));
-        const QPointer<Mission> self(this);
-        call(onStep);
-        return self && Base::NextPage();
-    }
+    bool PrevPage() override { return told("PrevPage", true) && Base::PrevPage(); }
+    bool NextPage() override { return told("NextPage", true) && Base::NextPage(); }
     bool CancelWizard() override
     {
-        calls.append(QStringLiteral("CancelWizard"));
-        const bool asks = !confirms.has_value();
-        const bool confirmed = confirms.value_or(false);
-        const QPointer<Mission> self(this);
-        call(onCancel);
-        return asks && self ? Base::CancelWizard() : confirmed;
+        const bool asks = !confirms;
+        return told("CancelWizard", asks || *confirms) && (!asks || Base::CancelWizard());
     }
     bool ExecuteMission() override
     {
-        calls.append(QStringLiteral("ExecuteMission"));
         const bool result = succeeds;
-        call(onExecute);
+        told("ExecuteMission", true);
         return result;
     }
+    QString MissionName() override { return told("?", name); }
+    QIcon MissionIcon() override { return told("?", icon); }
+    QPixmap MissionPicture() override { return told("?", picture); }
+    QPixmap MissionSidebar() override { return told("?", sidebar); }
+    QString PageText() override { return told("?", text); }
+    QString PageDescription() override { return told("?", description); }
 
-    QString MissionName() override { return name; }
-    QIcon MissionIcon() override { return icon; }
-    QPixmap MissionPicture() override { return picture; }
-    QPixmap MissionSidebar() override { return sidebar; }
-    QString PageText() override { return text; }
-    QString PageDescription() override { return description; }
-
-    QStringList calls;
-    std::function<bool(Action)> possible; ///< null: as the base class has it
-    std::function<bool(Action)> allowed;
+    Answers possible;
+    Answers allowed;
     std::optional<bool> confirms; ///< none: asks the user
     bool succeeds = true;
-    Hook onStep;
-    Hook onCancel;
-    Hook onExecute;
     QString name;
     QIcon icon;
     QPixmap picture;
@@ -201,18 +185,22 @@ public:
     QString description;
 
 private:
-    static bool answer(const std::function<bool(Action)> &function, Action action, bool otherwise)
+    bool may(const Answers &answers, Action action, bool otherwise)
     {
-        return function ? function(action) : otherwise;
+        return told("?", answers ? ((*answers >> action) & 1) != 0 : otherwise);
     }
-};
+    /// Returns \a answer, or nothing when this mission did not survive it.
+    template <typename Answer>
+    Answer told(const char *what, Answer answer)
+    {
+        const QPointer<Mission> self(this);
+        if (m_log)
+            m_log->tell(QLatin1String(what));
+        return self ? answer : Answer();
+    }
 
-inline std::unique_ptr<COmWizard_Base> makeWizard(bool compact)
-{
-    if (compact)
-        return std::make_unique<OmWizard_Standard2>();
-    return std::make_unique<COmWizard_Standard>();
-}
+    QPointer<Log> m_log;
+};
 
 /// Adds a row for each of the two wizards.
 inline void forBothWizards()
@@ -220,6 +208,17 @@ inline void forBothWizards()
     QTest::addColumn<bool>("compact");
     QTest::newRow("COmWizard_Standard") << false;
     QTest::newRow("OmWizard_Standard2") << true;
+}
+
+inline std::unique_ptr<COmWizard_Base> makeWizard(bool compact, COmWizard_Mission_Base *mission)
+{
+    std::unique_ptr<COmWizard_Base> wizard;
+    if (compact)
+        wizard = std::make_unique<OmWizard_Standard2>();
+    else
+        wizard = std::make_unique<COmWizard_Standard>();
+    wizard->Set_Mission(mission);
+    return wizard;
 }
 
 /// Shows \a wizard and waits until it has the keyboard.
@@ -233,27 +232,18 @@ inline bool show(QWidget *wizard)
 /// The button of \a action, visible or not.
 inline QPushButton *button(const QWidget *wizard, Action action)
 {
-    const bool compact = qobject_cast<const OmWizard_Standard2 *>(wizard) != nullptr;
-    const auto buttons = wizard->findChildren<QPushButton *>();
     QList<QPushButton *> own; // in the order in which they were made
-    for (QPushButton *candidate : buttons) {
-        if (candidate->minimumSize() == QSize(96, 28))
-            own.append(candidate);
-    }
-    if (compact)
-        return own.value(action == Execute ? 3 : action == Cancel ? 2 : action);
-    return own.value(1 + action); // after the help button
+    const auto buttons = wizard->findChildren<QPushButton *>();
+    std::copy_if(buttons.begin(), buttons.end(), std::back_inserter(own),
+                 [](const QWidget *widget) { return widget->minimumSize() == QSize(96, 28); });
+    if (qobject_cast<const COmWizard_Standard *>(wizard))
+        return own.value(1 + action); // after the help button
+    return own.value(action == Execute ? 3 : action == Cancel ? 2 : action);
 }
 
-/// The caption without its short cut.
-inline QString caption(const QWidget *wizard, Action action)
+inline QPixmap picture(const QSize &size, qreal density = 1)
 {
-    return button(wizard, action)->text().remove(QLatin1Char('&'));
-}
-
-inline QPixmap picture(int width, int height, qreal density = 1)
-{
-    QPixmap pixmap((QSizeF(width, height) * density).toSize());
+    QPixmap pixmap((QSizeF(size) * density).toSize());
     pixmap.fill(Qt::darkCyan);
     pixmap.setDevicePixelRatio(density);
     return pixmap;

@@ -50,14 +50,10 @@ class tst_WizardLayout : public ombrin::test::TestCase
 private Q_SLOTS:
     void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
 
-    void standardHasItsBandsInPlace_data();
-    void standardHasItsBandsInPlace();
-    void headerHasTextsAndPictureInPlace();
-    void picturesTakeUpTheirLogicalSize_data();
-    void picturesTakeUpTheirLogicalSize();
-    void fixedSizeIsKeptWhateverPagesNeed();
-    void requestsBeforeTheFirstMissionAreKept();
-    void headerCanBeHidden();
+    void standardHasItsPiecesInPlace_data();
+    void standardHasItsPiecesInPlace();
+    void fixedSizeAndHiddenHeaderAreKept_data();
+    void fixedSizeAndHiddenHeaderAreKept();
 
     void compactTakesTheSizeOfItsPage_data();
     void compactTakesTheSizeOfItsPage();
@@ -69,36 +65,43 @@ private Q_SLOTS:
     void wizardsAreCentred();
 };
 
-void tst_WizardLayout::standardHasItsBandsInPlace_data()
+void tst_WizardLayout::standardHasItsPiecesInPlace_data()
 {
-    QTest::addColumn<bool>("hasSidebar");
+    QTest::addColumn<bool>("hasPictures");
+    QTest::addColumn<qreal>("density");
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    for (const bool hasSidebar : {true, false}) {
-        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})
-            QTest::addRow("%s, %s", hasSidebar ? "sidebar" : "no sidebar",
-                          direction == Qt::LeftToRight ? "left to right" : "right to left")
-                    << hasSidebar << direction;
-    }
+    QTest::newRow("no pictures, small font") << false << 1.0 << Qt::LeftToRight;
+    QTest::newRow("pictures") << true << 1.0 << Qt::LeftToRight;
+    QTest::newRow("dense pictures, right to left") << true << 2.0 << Qt::RightToLeft;
+    QTest::newRow("pictures of 1.5, right to left") << true << 1.5 << Qt::RightToLeft;
 }
 
-void tst_WizardLayout::standardHasItsBandsInPlace()
+void tst_WizardLayout::standardHasItsPiecesInPlace()
 {
-    QFETCH(bool, hasSidebar);
+    QFETCH(bool, hasPictures);
+    QFETCH(qreal, density);
     QFETCH(Qt::LayoutDirection, direction);
-    const Pages pages(2);
+    const Pages pages(1);
     Mission mission(pages);
-    mission.possible = [](Action) { return true; };
-    if (hasSidebar)
-        mission.sidebar = picture(120, 200);
+    mission.possible = 15;
+    mission.sidebar = picture({120, 200}, density);
+    mission.picture = picture({48, 60}, density);
     COmWizard_Standard wizard;
     wizard.setLayoutDirection(direction);
-    if (!hasSidebar) { // nor does the size of the font matter
+    if (!hasPictures) { // nor does the size of the font matter
         QFont small = wizard.font();
         small.setPixelSize(8);
         wizard.setFont(small);
     }
     wizard.Set_Mission(&mission);
     wizard.FixSize(true, QSize(600, 420));
+    if (!hasPictures) { // they leave nothing behind
+        mission.sidebar = mission.picture = QPixmap();
+        mission.DoOnChanged();
+        QCOMPARE(label(&wizard, Sidebar)->parentWidget()->maximumSize(), QSize(16777215, 16777215));
+        QCOMPARE(label(&wizard, Picture)->minimumSize(), QSize(0, 0));
+        QCOMPARE(label(&wizard, Picture)->maximumSize(), QSize(16777215, 16777215));
+    }
     QVERIFY(show(&wizard));
 
     const auto expectAt = [&](const QWidget *widget, const QRect &rect) {
@@ -106,119 +109,55 @@ void tst_WizardLayout::standardHasItsBandsInPlace()
     };
     expectAt(header(&wizard), QRect(5, 30, 590, 75));
     expectAt(pageArea(&wizard), QRect(5, 115, 590, 244));
-    const QWidget *buttonArea = button(&wizard, Cancel)->parentWidget();
-    expectAt(buttonArea, QRect(5, 359, 590, 56));
-    QVERIFY(label(&wizard, Sidebar)->parentWidget()->isHidden() != hasSidebar);
-    if (hasSidebar)
+    expectAt(button(&wizard, Cancel)->parentWidget(), QRect(5, 359, 590, 56));
+    QCOMPARE(label(&wizard, Sidebar)->isVisible(), hasPictures);
+    QCOMPARE(label(&wizard, Picture)->isVisible(), hasPictures);
+    if (hasPictures) {
         expectAt(label(&wizard, Sidebar), QRect(15, 137, 120, 200));
-    const int pageLeft = hasSidebar ? 145 : 25;
-    expectAt(pages[0], QRect(pageLeft, 115, 585 - pageLeft, 244));
-
-    int right = 585;
-    for (const Action action : {Cancel, Execute, Next, Previous}) {
-        const QPushButton *shown = button(&wizard, action);
-        QCOMPARE(shown->minimumSize(), QSize(96, 28));
-        const QSize size = shown->sizeHint().expandedTo(QSize(96, 28));
-        expectAt(shown, QRect(QPoint(right - size.width(), 359 + (56 - size.height()) / 2), size));
-        right -= size.width() + 2;
+        expectAt(label(&wizard, Picture), QRect(537, 30 + (75 - 60) / 2, 48, 60));
     }
-}
-
-void tst_WizardLayout::headerHasTextsAndPictureInPlace()
-{
-    const Pages pages(1);
-    Mission mission(pages);
-    mission.text = QStringLiteral("Title");
-    mission.description = QStringLiteral("A description");
-    mission.picture = picture(48, 60);
-    COmWizard_Standard wizard;
-    wizard.Set_Mission(&mission);
-    wizard.FixSize(true, QSize(600, 420));
-    QVERIFY(show(&wizard));
+    const int pageLeft = hasPictures ? 145 : 25;
+    expectAt(pages[0], QRect(pageLeft, 115, 585 - pageLeft, 244));
 
     const QLabel *title = label(&wizard, Title);
     const QLabel *description = label(&wizard, Description);
-    QCOMPARE(title->font().weight(), int(QFont::Bold));
     const int line = QFontMetrics(title->font()).height();
     const int lines = 3 * QFontMetrics(description->font()).height();
-    const int textRight = 5 + 590 - 10 - 48 - 5;
-    QCOMPARE(place(title), QRect(15, 35, textRight - 15, line));
-    QCOMPARE(place(description), QRect(40, 40 + line, textRight - 40, lines));
-    QCOMPARE(place(label(&wizard, Picture)), QRect(537, 30 + (75 - 60) / 2, 48, 60));
+    const int textRight = hasPictures ? 532 : 580;
+    expectAt(title, QRect(15, 35, textRight - 15, line));
+    expectAt(description, QRect(40, 40 + line, textRight - 40, lines));
+    QCOMPARE(title->font().weight(), int(QFont::Bold));
     QVERIFY(description->wordWrap());
     for (const QLabel *text : {title, description})
         QCOMPARE(text->alignment(), Qt::AlignLeft | Qt::AlignTop);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         QCOMPARE(header(&wizard)->palette().color(group, QPalette::Window), QColor(Qt::white));
 
-    mission.picture = QPixmap();
-    mission.DoOnChanged();
-    QVERIFY(label(&wizard, Picture)->isHidden());
-    QCOMPARE(label(&wizard, Picture)->minimumSize(), QSize(0, 0));
-    QCOMPARE(label(&wizard, Picture)->maximumSize(), QSize(16777215, 16777215));
+    int right = 585;
+    for (const Action action : {Cancel, Execute, Next, Previous}) {
+        const QPushButton *shown = button(&wizard, action);
+        const QSize size = shown->sizeHint().expandedTo(QSize(96, 28));
+        expectAt(shown, QRect(QPoint(right - size.width(), 359 + (56 - size.height()) / 2), size));
+        right -= size.width() + 2;
+    }
 }
 
-void tst_WizardLayout::picturesTakeUpTheirLogicalSize_data()
+void tst_WizardLayout::fixedSizeAndHiddenHeaderAreKept_data()
 {
-    QTest::addColumn<qreal>("density");
-    QTest::newRow("1") << 1.0;
-    QTest::newRow("1.5") << 1.5;
-    QTest::newRow("2") << 2.0;
+    QTest::addColumn<bool>("beforeTheMission");
+    QTest::newRow("before the first mission") << true;
+    QTest::newRow("afterwards") << false;
 }
 
-void tst_WizardLayout::picturesTakeUpTheirLogicalSize()
+void tst_WizardLayout::fixedSizeAndHiddenHeaderAreKept()
 {
-    QFETCH(qreal, density);
-    const Pages pages(1);
-    Mission mission(pages);
-    mission.sidebar = picture(120, 300, density);
-    mission.picture = picture(48, 40, density);
-    COmWizard_Standard wizard;
-    wizard.Set_Mission(&mission);
-    const QWidget *frame = label(&wizard, Sidebar)->parentWidget();
-    QCOMPARE(frame->minimumSize(), QSize(120, 300));
-    QCOMPARE(frame->maximumSize(), QSize(120, 300));
-    QCOMPARE(label(&wizard, Picture)->minimumSize(), QSize(48, 40));
-    QCOMPARE(label(&wizard, Picture)->maximumSize(), QSize(48, 40));
-
-    OmWizard_Standard2 compact;
-    compact.Set_Mission(&mission);
-    QVERIFY(show(&compact));
-    QCOMPARE(place(compact.findChild<QLabel *>()), QRect(15, 40, 120, 300));
-
-    mission.sidebar = QPixmap();
-    mission.DoOnChanged();
-    QVERIFY(frame->isHidden());
-    QCOMPARE(frame->maximumSize(), QSize(16777215, 16777215));
-}
-
-void tst_WizardLayout::fixedSizeIsKeptWhateverPagesNeed()
-{
+    QFETCH(bool, beforeTheMission);
     const Pages pages(2);
     pages[1]->setMinimumSize(700, 500);
     Mission mission(pages);
     COmWizard_Standard wizard;
-    wizard.Set_Mission(&mission);
-    wizard.FixSize(true, QSize(500, 400));
-    QVERIFY(show(&wizard));
-    QCOMPARE(wizard.size(), QSize(500, 400));
-    mission.NextPage();
-    QCoreApplication::processEvents();
-    QCOMPARE(wizard.size(), QSize(500, 400));
-
-    wizard.FixSize(false, QSize());
-    QCoreApplication::processEvents();
-    // Page, frame, header and margins; the height of the buttons is the style's.
-    QVERIFY(wizard.width() >= 700 + 10 + 30);
-    QVERIFY(wizard.height() > 500 + 35 + 75 + 10);
-    QCOMPARE(wizard.minimumSize(), wizard.layout()->totalMinimumSize());
-}
-
-void tst_WizardLayout::requestsBeforeTheFirstMissionAreKept()
-{
-    const Pages pages(1);
-    Mission mission(pages);
-    COmWizard_Standard wizard;
+    if (!beforeTheMission)
+        wizard.Set_Mission(&mission);
     QVERIFY(wizard.IsTitlebarVisible());
     wizard.Set_IsTitlebarVisible(false);
     QVERIFY(!wizard.IsTitlebarVisible());
@@ -227,32 +166,20 @@ void tst_WizardLayout::requestsBeforeTheFirstMissionAreKept()
     wizard.Set_Mission(&mission);
     QVERIFY(show(&wizard));
     QCOMPARE(wizard.size(), QSize(500, 400));
-    QVERIFY(header(&wizard)->isHidden());
-
-    COmWizard_Standard free;
-    free.FixSize(true, QSize(500, 400));
-    free.FixSize(false, QSize());
-    free.Set_Mission(&mission);
-    QVERIFY(free.maximumWidth() > 500);
-}
-
-void tst_WizardLayout::headerCanBeHidden()
-{
-    const Pages pages(1);
-    Mission mission(pages);
-    COmWizard_Standard wizard;
-    wizard.Set_Mission(&mission);
-    wizard.FixSize(true, QSize(500, 400));
-    QVERIFY(show(&wizard));
-    QVERIFY(header(&wizard)->isVisible());
-    wizard.Set_IsTitlebarVisible(false);
-    QVERIFY(!wizard.IsTitlebarVisible());
-    QVERIFY(!header(&wizard)->isVisible());
-    mission.DoOnChanged(); // does not bring it back
+    mission.NextPage();
     QCoreApplication::processEvents();
+    QCOMPARE(wizard.size(), QSize(500, 400));
+    QVERIFY(header(&wizard)->isHidden());
     QCOMPARE(place(pageArea(&wizard)).top(), 40);
     wizard.Set_IsTitlebarVisible(true);
     QVERIFY(header(&wizard)->isVisible());
+
+    wizard.FixSize(false, QSize());
+    QCoreApplication::processEvents();
+    // Page, frame, header and margins; the height of the buttons is the style's.
+    QVERIFY(wizard.width() >= 700 + 10 + 30);
+    QVERIFY(wizard.height() > 500 + 35 + 75 + 10);
+    QCOMPARE(wizard.minimumSize(), wizard.layout()->totalMinimumSize());
 }
 
 void tst_WizardLayout::compactTakesTheSizeOfItsPage_data()
@@ -275,7 +202,7 @@ void tst_WizardLayout::compactTakesTheSizeOfItsPage()
         pages[0]->resize(page);
         Mission mission(pages);
         if (sidebar.isValid())
-            mission.sidebar = picture(sidebar.width(), sidebar.height());
+            mission.sidebar = picture(sidebar);
         OmWizard_Standard2 wizard;
         wizard.setContentsMargins(margins);
         wizard.Set_Mission(&mission);
@@ -310,7 +237,7 @@ void tst_WizardLayout::compactFollowsPageAndPicture()
     wizard.resize(500, 400);
     mission.DoOnChanged();
     QCOMPARE(wizard.size(), QSize(500, 400));
-    mission.sidebar = picture(50, 50);
+    mission.sidebar = picture({50, 50});
     mission.DoOnChanged();
     QCOMPARE(pages[0]->geometry(), QRect(70, 10, 400, 250));
     QCOMPARE(wizard.size(), QSize(500, 400));
@@ -332,7 +259,7 @@ void tst_WizardLayout::compactButtonsStandInARowAtTheRight()
     QFETCH(Qt::LayoutDirection, direction);
     const Pages pages(1);
     Mission mission(pages);
-    mission.sidebar = picture(80, 60);
+    mission.sidebar = picture({80, 60});
     OmWizard_Standard2 wizard;
     wizard.Set_Mission(&mission);
     QVERIFY(show(&wizard));
@@ -344,12 +271,12 @@ void tst_WizardLayout::compactButtonsStandInARowAtTheRight()
     for (const QSize size : {QSize(600, 400), QSize(450, 333)}) {
         wizard.resize(size);
         for (int bits = 0; bits < 16; ++bits) {
-            mission.possible = [bits](Action action) { return (bits & (1 << action)) != 0; };
+            mission.possible = bits;
             mission.DoOnChanged();
             // The frame leaves 5 pixels at the sides and below, the row 10 and one.
             int right = size.width() - 5 - 11;
             for (const Action action : {Cancel, Execute, Next, Previous}) {
-                if (!mission.possible(action))
+                if ((bits & 1 << action) == 0)
                     continue;
                 const int top = size.height() - 5 - 1 - 38;
                 expectAt(button(&wizard, action), QRect(right - 96, top, 96, 28));
@@ -366,8 +293,7 @@ void tst_WizardLayout::wizardsAreCentred()
     QFETCH(bool, compact);
     const Pages pages(1);
     Mission mission(pages);
-    const auto wizard = makeWizard(compact);
-    wizard->Set_Mission(&mission);
+    const auto wizard = makeWizard(compact, &mission);
     for (const QPoint start : {QPoint(3, 3), QPoint(90, 30)}) {
         wizard->move(start);
         QVERIFY(show(wizard.get()));

@@ -45,6 +45,6 @@ SpellingBackendFactory spellingBackendFactory();
 OMBRIN_CORE_AUTOTEST_EXPORT void setSpellingBackendFactory(const SpellingBackendFactory &factory);
 
 /// The dictionaries in all folders that are searched, by their names.
-QHash<QString, SpellingFiles> installedDictionaries();
+OMBRIN_CORE_AUTOTEST_EXPORT QHash<QString, SpellingFiles> installedDictionaries();
 
 } // namespace ombrin

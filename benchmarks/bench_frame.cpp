@@ -89,19 +89,13 @@ void shapeFromBitmap(benchmark::State &state)
         bitmap.fill(Qt::color1);
         QPainter painter(&bitmap);
         painter.setPen(Qt::color0);
-        const QPoint points[] = {{0, 0},
-                                 {1, 0},
-                                 {0, 1},
-                                 {right, 0},
-                                 {right - 1, 0},
-                                 {right, 1},
-                                 {0, bottom},
-                                 {1, bottom},
-                                 {0, bottom - 1},
-                                 {right, bottom},
-                                 {right - 1, bottom},
-                                 {right, bottom - 1}};
-        painter.drawPoints(points, static_cast<int>(std::size(points)));
+        for (const int x : {0, right}) {
+            for (const int y : {0, bottom}) {
+                painter.drawPoint(x, y);
+                painter.drawPoint(x == 0 ? 1 : right - 1, y);
+                painter.drawPoint(x, y == 0 ? 1 : bottom - 1);
+            }
+        }
         painter.end();
         benchmark::DoNotOptimize(QRegion(bitmap));
     }

@@ -128,22 +128,10 @@ QRegion frameShape(const QSize &size)
     const int height = size.height();
     if (width < 5 || height < 5) {
         QRegion shape(QRect(QPoint(0, 0), size));
-        const int right = width - 1;
-        const int bottom = height - 1;
-        const QPoint missing[] = {{0, 0},
-                                  {1, 0},
-                                  {0, 1},
-                                  {right, 0},
-                                  {right - 1, 0},
-                                  {right, 1},
-                                  {0, bottom},
-                                  {1, bottom},
-                                  {0, bottom - 1},
-                                  {right, bottom},
-                                  {right - 1, bottom},
-                                  {right, bottom - 1}};
-        for (const QPoint &point : missing)
-            shape -= QRect(point, QSize(1, 1));
+        for (const int y : {0, height - 1})
+            shape -= QRegion(0, y, 2, 1) + QRegion(width - 2, y, 2, 1);
+        for (const int y : {0, height - 2})
+            shape -= QRegion(0, y, 1, 2) + QRegion(width - 1, y, 1, 2);
         return shape;
     }
     const QRect rows[] = {{2, 0, width - 4, 1},

@@ -1,10 +1,7 @@
-#include "platform/NativeHandle.h"
 #include "platform/NativeWindow_win.h"
-#include "support/TestCase.h"
+#include "platform/PlainWindow.h"
 
 #include <ombrin/OmQtCompat.h>
-
-#include <QtWidgets/QWidget>
 
 namespace NativeWindow = ombrin::NativeWindow;
 using NativeWindow::Handle;
@@ -14,20 +11,9 @@ namespace {
 constexpr LONG systemBoxes = 0xB0000;
 constexpr LONG maximizeBox = 0x10000;
 
-// A frameless window as the library's frames are.
-class Window : public QWidget
+class Window : public ombrin::test::PlainWindow
 {
 public:
-    Window()
-    {
-        setWindowFlags(Qt::FramelessWindowHint);
-        setGeometry(100, 100, 300, 200);
-    }
-    Handle handle()
-    {
-        winId(); // creates it
-        return NativeWindow::handleOf(this);
-    }
     HWND native() { return reinterpret_cast<HWND>(handle()); }
     LONG style() { return GetWindowLongW(native(), GWL_STYLE); }
     bool isTopmost() { return (GetWindowLongW(native(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
@@ -84,8 +70,6 @@ private Q_SLOTS:
         NativeWindow::addSystemBoxes(window.handle());
         window.showAndWait();
         const LONG with = window.style();
-        NativeWindow::setMaximizeBox(window.handle(), false);
-        QCOMPARE(window.style(), with & ~maximizeBox);
         NativeWindow::setMaximizeBox(window.handle(), false);
         QCOMPARE(window.style(), with & ~maximizeBox);
         NativeWindow::setMaximizeBox(window.handle(), true);
@@ -173,38 +157,19 @@ private Q_SLOTS:
         message.lParam = 0;
         QVERIFY(!NativeWindow::answerMaximumSize(&message, 800, 600));
         QVERIFY(!NativeWindow::answerMaximumSize(nullptr, 800, 600));
-    }
 
-    void maximumSizeIsWhatTheSystemHears()
-    {
-        Window window;
+        Window window; // what the system hears
         window.maximumSize = QSize(777, 555);
-        MINMAXINFO limits = {};
         SendMessageW(window.native(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
         QCOMPARE(limits.ptMaxSize.x, LONG(777));
         QCOMPARE(limits.ptMaxSize.y, LONG(555));
     }
 
-    void strangeHandlesAreHarmless_data()
-    {
-        QTest::addColumn<Handle>("handle");
-        Handle stale = 0;
-        {
-            Window window;
-            stale = window.handle();
-        }
-        QTest::newRow("none") << Handle(0);
-        QTest::newRow("window that is gone") << stale;
-        QTest::newRow("never a window") << Handle(-1);
-    }
+    void strangeHandlesAreHarmless_data() { ombrin::test::addStrangeHandles(); }
     void strangeHandlesAreHarmless()
     {
         QFETCH(Handle, handle);
-        NativeWindow::addSystemBoxes(handle);
-        NativeWindow::setMaximizeBox(handle, true);
-        NativeWindow::setStayOnTop(handle, true);
-        NativeWindow::bringToFront(handle);
-        NativeWindow::flash(handle);
+        ombrin::test::callEverythingOn(handle);
         QVERIFY(!IsWindow(reinterpret_cast<HWND>(handle)));
     }
 };

@@ -1,37 +1,22 @@
-#include "platform/NativeHandle.h"
-#include "support/TestCase.h"
+#include "platform/PlainWindow.h"
+#include "support/XUser.h"
 
 #include <ombrin/OmDesktop.h>
 
-#include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtGui/QWindow>
-#include <QtWidgets/QWidget>
 
 namespace NativeWindow = ombrin::NativeWindow;
 using NativeWindow::Handle;
+using namespace ombrin::test;
 using ombrin::OmDesktop;
 
 namespace {
 
-// Runs a program in the event loop, as other clients run beside the host.
-QString outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    QEventLoop loop;
-    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
-                     &QEventLoop::quit);
-    process.start(program, arguments);
-    if (!process.waitForStarted())
-        return program + QStringLiteral(" is not installed");
-    loop.exec();
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
-}
-
 QString xProperty(Handle window, const char *name)
 {
-    return outputOf(QStringLiteral("xprop"), {QStringLiteral("-id"), QString::number(window),
-                                              QStringLiteral("-notype"), QLatin1String(name)});
+    return runBeside(QStringLiteral("xprop"), {QStringLiteral("-id"), QString::number(window),
+                                               QStringLiteral("-notype"), QLatin1String(name)});
 }
 
 bool isKeptAbove(Handle window)
@@ -46,15 +31,15 @@ bool demandsAttention(Handle window)
 
 bool isMapped(Handle window)
 {
-    return outputOf(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::number(window)})
+    return runBeside(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::number(window)})
             .contains(QLatin1String("IsViewable"));
 }
 
 QVector<Handle> rootWindows(const char *name)
 {
     const QString list =
-            outputOf(QStringLiteral("xprop"),
-                     {QStringLiteral("-root"), QStringLiteral("-notype"), QLatin1String(name)});
+            runBeside(QStringLiteral("xprop"),
+                      {QStringLiteral("-root"), QStringLiteral("-notype"), QLatin1String(name)});
     QVector<Handle> windows;
     QRegularExpressionMatchIterator match =
             QRegularExpression(QStringLiteral("0x([0-9a-f]+)")).globalMatch(list);
@@ -74,25 +59,14 @@ Handle active()
     return rootWindows("_NET_ACTIVE_WINDOW").value(0);
 }
 
-// A frameless window as the library's frames are.
-class Window : public QWidget
+class Window : public PlainWindow
 {
 public:
-    Window()
-    {
-        setWindowFlags(Qt::FramelessWindowHint);
-        setGeometry(100, 100, 300, 200);
-    }
-    Handle handle()
-    {
-        winId(); // creates it
-        return NativeWindow::handleOf(this);
-    }
     void showAndWait()
     {
         show();
         QVERIFY(QTest::qWaitForWindowActive(this));
-        QVERIFY(ombrin::test::TestCase::waitFor([this] { return active() == handle(); }));
+        QVERIFY(TestCase::waitFor([this] { return active() == handle(); }));
     }
 };
 
@@ -106,7 +80,7 @@ public:
         m_process.setStandardOutputFile(QProcess::nullDevice());
         m_process.start(QStringLiteral("xev"),
                         {QStringLiteral("-geometry"), QStringLiteral("400x300+50+50")});
-        const bool isThere = ombrin::test::TestCase::waitFor([this, &before] {
+        const bool isThere = TestCase::waitFor([this, &before] {
             const QVector<Handle> now = rootWindows("_NET_CLIENT_LIST");
             m_window = now.size() > before.size() ? now.last() : 0;
             return m_window != 0 && active() == m_window && !QGuiApplication::focusWindow();
@@ -128,7 +102,7 @@ private:
 
 } // namespace
 
-class tst_NativeWindow_x11 : public ombrin::test::TestCase
+class tst_NativeWindow_x11 : public TestCase
 {
     Q_OBJECT
 
@@ -156,16 +130,7 @@ private Q_SLOTS:
         QVERIFY(other.window());
         QCOMPARE(topmost(), window.handle());
 
-        NativeWindow::setStayOnTop(window.handle(), false);
-        QVERIFY(waitFor([&window] { return !isKeptAbove(window.handle()); }));
-    }
-
-    void hiddenAndShownAgainTheWindowIsStillReached()
-    {
-        Window window;
-        window.showAndWait();
-        NativeWindow::setStayOnTop(window.handle(), true);
-        QVERIFY(waitFor([&window] { return isKeptAbove(window.handle()); }));
+        // Hidden and shown again the window is still reached.
         window.hide();
         window.showAndWait();
         QVERIFY(waitFor([&window] { return isKeptAbove(window.handle()); }));
@@ -229,9 +194,9 @@ private Q_SLOTS:
         // No X event arrives while the observer sleeps.
         QTimer::singleShot(300, &window, [&child] { OmDesktop::flashWindow(&child, true); });
         const QString state =
-                outputOf(QStringLiteral("sh"),
-                         {QStringLiteral("-c"),
-                          QStringLiteral("sleep 1.5; xprop -id %1 _NET_WM_STATE").arg(handle)});
+                runBeside(QStringLiteral("sh"),
+                          {QStringLiteral("-c"),
+                           QStringLiteral("sleep 1.5; xprop -id %1 _NET_WM_STATE").arg(handle)});
         QVERIFY2(state.contains(QLatin1String("DEMANDS_ATTENTION")), qPrintable(state));
 
         window.activateWindow();
@@ -297,39 +262,19 @@ private Q_SLOTS:
     {
         Window window;
         NativeWindow::bringToFront(window.handle());
-        QVERIFY(!window.isVisible());
-        QVERIFY(!isMapped(window.handle()));
+        QVERIFY(!window.isVisible() && !isMapped(window.handle()));
     }
 
-    void strangeHandlesAreHarmless_data()
-    {
-        QTest::addColumn<Handle>("handle");
-        Handle stale = 0;
-        {
-            Window window;
-            stale = window.handle();
-        }
-        QTest::newRow("none") << Handle(0);
-        QTest::newRow("window that is gone") << stale;
-        QTest::newRow("never a window") << Handle(-1);
-    }
+    void strangeHandlesAreHarmless_data() { addStrangeHandles(); }
     void strangeHandlesAreHarmless()
     {
         QFETCH(Handle, handle);
         Window notCreated;
         const auto windows = QGuiApplication::allWindows().size();
-        NativeWindow::addSystemBoxes(handle);
-        NativeWindow::setMaximizeBox(handle, true);
-        NativeWindow::setStayOnTop(handle, true);
-        NativeWindow::bringToFront(handle);
-        NativeWindow::flash(handle);
+        callEverythingOn(handle);
         QCOMPARE(QGuiApplication::allWindows().size(), windows);
         QVERIFY(!notCreated.testAttribute(Qt::WA_WState_Created));
-    }
-
-    void noMessageAsksForTheMaximumSize()
-    {
-        QVERIFY(!NativeWindow::answerMaximumSize(nullptr, 800, 600));
+        QVERIFY(!NativeWindow::answerMaximumSize(nullptr, 800, 600)); // only Windows asks
     }
 };
 

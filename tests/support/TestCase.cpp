@@ -1,5 +1,6 @@
 #include "support/TestCase.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtCore/QMutex>
 #include <QtCore/QMutexLocker>
 #include <QtGui/QFontDatabase>
@@ -100,6 +101,19 @@ void TestCase::cleanup()
     }
     QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join(QLatin1Char('\n'))));
     QVERIFY2(leftovers.isEmpty(), qPrintable(leftovers.join(QLatin1Char('\n'))));
+}
+
+QStringList words(const char *text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char(' '));
+}
+
+QStringList methodsOf(const QMetaObject &metaObject)
+{
+    QStringList signatures;
+    for (int index = metaObject.methodOffset(); index < metaObject.methodCount(); ++index)
+        signatures.append(QString::fromLatin1(metaObject.method(index).methodSignature()));
+    return signatures;
 }
 
 void prepareApplication()

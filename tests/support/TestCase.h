@@ -47,6 +47,12 @@ private:
 /// animated effects, settings and data folders in a place of their own.
 void prepareApplication();
 
+/// The words of \a text, which are separated by spaces.
+QStringList words(const char *text);
+
+/// The signatures of the signals and slots that \a metaObject itself declares, in its order.
+QStringList methodsOf(const QMetaObject &metaObject);
+
 template <typename Test>
 int run(int argc, char *argv[])
 {

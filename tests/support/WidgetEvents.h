@@ -5,6 +5,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QAccessible>
 #include <QtGui/QImage>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
 
 /// What tests do to single widgets, on screen or not, and what they see of them.
@@ -23,6 +24,15 @@ inline void sendEnter(QWidget *widget)
 inline void sendLeave(QWidget *widget)
 {
     QEvent event(QEvent::Leave);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+/// Moves the mouse to \a position in \a widget while \a buttons are held.
+inline void sendMouseMove(QWidget *widget, const QPoint &position,
+                          Qt::MouseButtons buttons = Qt::NoButton)
+{
+    QMouseEvent event(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton,
+                      buttons, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &event);
 }
 

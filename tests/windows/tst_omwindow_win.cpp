@@ -120,19 +120,6 @@ private Q_SLOTS:
         QCOMPARE(frame.rect(), QRect(200, 150, 400, 300)); // and has no native border
     }
 
-    void fixedWindowLosesItsMaximiseBox_data() { bothFrames(); }
-    void fixedWindowLosesItsMaximiseBox()
-    {
-        QFETCH(bool, isDialog);
-        const Frame frame = makeFrame(isDialog);
-        frame.showAndWait();
-        frame.setFixed(true);
-        frame.setFixed(true);
-        QCOMPARE(frame.boxes(), systemBoxes & ~maximizeBox);
-        frame.setFixed(false);
-        QCOMPARE(frame.boxes(), systemBoxes);
-    }
-
     void stayOnTopIsSwitchedThroughTheSlotsName()
     {
         const Frame frame = makeFrame(false);

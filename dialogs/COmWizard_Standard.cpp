@@ -60,7 +60,6 @@ COmWizard_Standard::~COmWizard_Standard() = default;
 void COmWizard_Standard::InitializeWidgets()
 {
     m_header = new QWidget(this);
-    m_header->setFixedHeight(kHeaderHeight);
     m_pageArea = new QWidget(this);
     m_pageArea->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_buttonArea = new QWidget(this);
@@ -160,6 +159,7 @@ void COmWizard_Standard::createHeader()
     row->addSpacing(kTextGap);
     row->addWidget(m_pictureLabel);
     row->addSpacing(kGap);
+    m_header->setFixedHeight(row->minimumSize().height()); // more in large fonts
 }
 
 void COmWizard_Standard::connectButtons()

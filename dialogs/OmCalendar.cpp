@@ -1,5 +1,6 @@
 #include <ombrin/OmCalendar.h>
 
+#include "dialogs/DialogParts.h"
 #include "dialogs/ModalDialog.h"
 
 #include <QtCore/QEvent>
@@ -44,6 +45,9 @@ QDate OmCalendar::selectDate(const QDate &date, QWidget *parent)
 {
     ModalDialog<OmCalendar> dialog(new OmCalendar(parent));
     dialog->m_calendar->setSelectedDate(date);
+    // In a large font a month needs more room, and so does its title.
+    makeRoomForTitle(dialog.operator->());
+    dialog->resize(dialog->size().expandedTo(dialog->minimumSizeHint()));
     return dialog.exec() == Accepted ? dialog->m_calendar->selectedDate() : date;
 }
 

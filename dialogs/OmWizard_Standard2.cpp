@@ -6,6 +6,7 @@
 
 #include <ombrin/OmDesktop.h>
 
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -256,7 +257,18 @@ void OmWizard_Standard2::showEvent(QShowEvent *event)
         return;
     resizeToCurrentPage();
     ombrin::OmDesktop::setCentered(this);
+    keepFocus();
     QDialog::showEvent(event);
+}
+
+/// QDialog, when it has been shown, moves the focus from a page that takes none of its own to the
+/// default button.
+void OmWizard_Standard2::keepFocus()
+{
+    QTimer::singleShot(0, this, [this, focus = QPointer<QWidget>(focusWidget())] {
+        if (focus && focus == m_shownPage && focusWidget() == m_defaultButton)
+            focus->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 // Slots

@@ -57,6 +57,7 @@ private:
     void refreshDefaultButton();
     void refreshTabOrder();
     bool replacePage(QWidget *page);
+    void keepFocus();
 
     void resizeToCurrentPage();
     void refreshLayout();

@@ -322,6 +322,7 @@ void tst_SmallDialogs::languageChangeReachesOpenDialogs()
     OmCalendar calendar;
     QCOMPARE(calendar.windowTitle(), "Choose a Date"_q);
     QCOMPARE(calendar.layout()->contentsMargins(), QMargins());
+    QCOMPARE(calendar.size(), QSize(250, 200));
     check(&calendar);
     whenOpen<OmDialog2>(check);
     text()(nullptr, nullptr);

@@ -267,6 +267,8 @@ void tst_Wizards::keysDoWhatEachWizardSays()
             connect(wizard.get(), &QDialog::rejected, &log, [&] { log.tell("closed"_q); });
             QVERIFY(show(wizard.get()));
             QWidget *page = mission.CurrentPage();
+            if (isCompact && page)
+                QTRY_VERIFY(page->hasFocus());
             (page ? page : wizard.get())->setFocus(); // a button with the focus would be pressed
             log.take();
             type(wizard.get(), Qt::Key(key));

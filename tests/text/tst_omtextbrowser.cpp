@@ -1,0 +1,430 @@
+#include "support/TestCase.h"
+
+#include <ombrin/OmDir.h>
+#include <ombrin/OmSettings.h>
+#include <ombrin/OmTextBrowser.h>
+
+#include <QtCore/QBuffer>
+#include <QtCore/QPointer>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QClipboard>
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolTip>
+
+#include <functional>
+
+using ombrin::OmTextBrowser;
+
+namespace {
+
+constexpr QSize kSize(300, 200);
+const QColor kColor(10, 200, 30);
+
+QByteArray picture(const QSize &size = QSize(40, 30), const char *format = "png")
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(kColor);
+    QByteArray data;
+    QBuffer buffer(&data);
+    return image.save(&buffer, format) ? data : QByteArray();
+}
+
+// The header of a picture of \a extent x \a extent pixels, without much in it.
+QByteArray hugePicture(int extent)
+{
+    QByteArray data = picture();
+    for (int i = 0; i < 4; ++i)
+        data[16 + i] = data[20 + i] = static_cast<char>(extent >> (24 - 8 * i));
+    const quint32 crc = [&data] {
+        quint32 value = 0xffffffff;
+        for (int i = 12; i < 29; ++i) {
+            value ^= static_cast<uchar>(data.at(i));
+            for (int bit = 0; bit < 8; ++bit)
+                value = (value >> 1) ^ ((value & 1) != 0 ? 0xedb88320 : 0);
+        }
+        return ~value;
+    }();
+    for (int i = 0; i < 4; ++i)
+        data[29 + i] = static_cast<char>(crc >> (24 - 8 * i));
+    return data;
+}
+
+void write(const QString &path, const QByteArray &data)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
+}
+
+QStringList entries(const QMenu *menu)
+{
+    QStringList texts;
+    for (const QAction *action : menu->actions()) {
+        const QString state = action->isEnabled() ? QString() : QStringLiteral(" (off)");
+        texts.append(action->isSeparator() ? QStringLiteral("-") : action->text() + state);
+    }
+    return texts;
+}
+
+} // namespace
+
+class tst_OmTextBrowser : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_received = m_folder->filePath(QStringLiteral("a smile&y#1.png"));
+        write(m_received, picture());
+        ombrin::OmSettings::instance().setFile(m_folder->filePath(QStringLiteral("settings.ini")));
+        QDir(ombrin::OmDir::smileysPath(false)).removeRecursively();
+        m_browser = new OmTextBrowser;
+        m_browser->QWidget::resize(kSize);
+    }
+    void tearDown() override
+    {
+        delete m_browser;
+        ombrin::OmSettings::instance().setFile(QString());
+        QDir(ombrin::OmDir::smileysPath(false)).removeRecursively();
+    }
+
+private:
+    void show()
+    {
+        m_browser->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_browser));
+    }
+    void insertPicture(const QString &name) { m_browser->textCursor().insertImage(name); }
+    QPoint placeOf(int position) const
+    {
+        QTextCursor cursor(m_browser->document());
+        cursor.setPosition(position);
+        return m_browser->cursorRect(cursor).center();
+    }
+    // Opens the menu at a place of the text and does something with it.
+    QStringList openMenu(const QPoint &place, const std::function<void(QMenu *)> &use)
+    {
+        QStringList texts;
+        QTimer::singleShot(0, m_browser, [&] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            texts = entries(menu);
+            use(menu);
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                                m_browser->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(m_browser->viewport(), &event);
+        return texts;
+    }
+    QStringList menuAt(const QPoint &place)
+    {
+        return openMenu(place, [](QMenu *menu) { menu->close(); });
+    }
+    static void choose(QMenu *menu, int entry)
+    {
+        menu->setActiveAction(menu->actions().at(entry));
+        QTest::keyClick(menu, Qt::Key_Return);
+    }
+    QPixmap loaded(const QUrl &url)
+    {
+        return m_browser->loadResource(QTextDocument::ImageResource, url).value<QPixmap>();
+    }
+
+    QPointer<OmTextBrowser> m_browser;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_received;
+
+private Q_SLOTS:
+    void linksExplainThemselves_data()
+    {
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<QString>("toolTip");
+
+        const auto row = [](const char *link, const char *toolTip) {
+            QTest::newRow(link) << QString::fromLatin1(link) << QString::fromLatin1(toolTip);
+        };
+        row("https://user@example.com:80/a?b", "Open example.com in your web browser.");
+        row("ftp://example.com", "Open example.com in your web browser.");
+        row("mailto:a@b.de", "Write e-mail to a@b.de.");
+        row("mailto:mailto:x", "Write e-mail to x.");
+        row("mailto:news:x", "Write e-mail to x.");
+        row("imap:x", "Write e-mail to x.");
+        row("sip:5", "Call 5 with ombrin Phone.");
+        row("sips:123", "Call 123 with ombrin Phone.");
+        row("pushplay:7", "Play Push Message");
+        row("pushsave:7", "Save Push Message as...");
+        row("mailto:pushsave:7", "Save Push Message as...");
+        row("tel:1", "");
+        row("file:///etc/passwd", "");
+        row("javascript:x", "");
+    }
+    void linksExplainThemselves()
+    {
+        QFETCH(QString, link);
+        m_browser->setToolTip(QStringLiteral("old"));
+        Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(QUrl(link));
+        QTEST(m_browser->toolTip(), "toolTip");
+        Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(QUrl());
+        QCOMPARE(m_browser->toolTip(), QString());
+    }
+
+    void hoveredLinkShowsWhereItLeads()
+    {
+        m_browser->setHtml(QStringLiteral("<a href='https://example.com/long/way'>a link</a>"));
+        show();
+        QTest::mouseMove(m_browser->viewport(), QPoint(250, 150));
+        QTest::mouseMove(m_browser->viewport(), placeOf(3));
+        QTRY_COMPARE(m_browser->toolTip(), QStringLiteral("Open example.com in your web browser."));
+        QTest::mouseMove(m_browser->viewport(), QPoint(250, 150));
+        QTRY_COMPARE(m_browser->toolTip(), QString());
+    }
+
+    void toolTipsOfHostileLinksArePlainText()
+    {
+        QUrl link;
+        link.setScheme(QStringLiteral("mailto"));
+        link.setPath(QStringLiteral("<b>you</b>\u202e<img src=x>&lt;"));
+        Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(link);
+        QTextDocument shown;
+        shown.setHtml(m_browser->toolTip()); // as what Qt takes for rich text is shown
+        QVERIFY(Qt::mightBeRichText(m_browser->toolTip()));
+        QVERIFY(shown.toPlainText().contains(QStringLiteral("%3Cb%3E"))
+                || shown.toPlainText().contains(QStringLiteral("<b>you</b><img src=x>")));
+
+        link.setPath(QString(100000, QLatin1Char('x')));
+        Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(link);
+        QVERIFY(m_browser->toolTip().size() < 300);
+    }
+
+    void clickedLinksLeaveTheHistoryOnShow()
+    {
+        m_browser->setHtml(QStringLiteral("<a href='http://example.com'>a link</a>"));
+        show();
+        QSignalSpy clicked(m_browser.data(), &QTextBrowser::anchorClicked);
+        QTest::mouseClick(m_browser->viewport(), Qt::LeftButton, {}, placeOf(3));
+        QCOMPARE(clicked.size(), 1);
+        QCOMPARE(m_browser->toPlainText(), QStringLiteral("a link"));
+        QCOMPARE(m_browser->document()->defaultStyleSheet(),
+                 QStringLiteral("a { text-decoration: underline; color: #009cff }"));
+    }
+
+    void menuFollowsTextSelectionAndLink()
+    {
+        show();
+        const QString copyOff = QStringLiteral("&Copy (off)");
+        const QString linkOff = QStringLiteral("Copy &Link Location (off)");
+        const QString bar = QStringLiteral("-");
+        QCOMPARE(menuAt({5, 5}),
+                 QStringList({copyOff, linkOff, bar, QStringLiteral("&Select All (off)")}));
+
+        m_browser->setHtml(QStringLiteral("<a href='tel:55'>a link</a>"));
+        openMenu(placeOf(3), [](QMenu *menu) { choose(menu, 1); });
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("tel:55"));
+        const auto selectAll = [](QMenu *menu) {
+            QCOMPARE(menu->actions().at(3)->shortcut(), QKeySequence(QKeySequence::SelectAll));
+            choose(menu, 3);
+        };
+        QCOMPARE(openMenu({250, 150}, selectAll),
+                 QStringList({copyOff, linkOff, bar, QStringLiteral("&Select All")}));
+        QCOMPARE(m_browser->textCursor().selectedText(), QStringLiteral("a link"));
+        QCOMPARE(openMenu(placeOf(3), [](QMenu *menu) { choose(menu, 0); }),
+                 QStringList({QStringLiteral("&Copy"), QStringLiteral("Copy &Link Location"), bar,
+                              QStringLiteral("&Select All")}));
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a link"));
+        m_browser->clear();
+        QCOMPARE(menuAt({5, 5}).at(3), QStringLiteral("&Select All (off)"));
+    }
+
+    void picturesOfOthersHaveAMenuOfTheirOwn()
+    {
+        const QStringList pictureMenu{QStringLiteral("Add Smiley"),
+                                      QStringLiteral("Save Image as...")};
+        insertPicture(QUrl::fromLocalFile(m_received).toString());
+        show();
+        QCOMPARE(menuAt(placeOf(1)).size(), 4);
+        m_browser->setSaveableImages(true);
+        QCOMPARE(menuAt(placeOf(0)), pictureMenu); // from its left
+        QCOMPARE(menuAt(placeOf(1)), pictureMenu); // and from its right
+        m_browser->append(QStringLiteral("text"));
+        QCOMPARE(menuAt(placeOf(4)).size(), 4);
+        m_browser->setHtml(QStringLiteral("<img src=':/smile'>"));
+        QCOMPARE(menuAt(placeOf(1)).size(), 4);
+        m_browser->setHtml(QStringLiteral("<a href='x:'><img src='/tmp/x.png'></a>"));
+        QCOMPARE(menuAt(placeOf(1)).size(), 4);
+    }
+
+    void smileysAreAddedOnce()
+    {
+        m_browser->setSaveableImages(true);
+        show();
+        const QString gone = m_folder->filePath(QStringLiteral("gone.png"));
+        for (const QString &name : {m_received, m_received, gone, m_folder->path()}) {
+            m_browser->clear();
+            insertPicture(name);
+            openMenu(placeOf(0), [](QMenu *menu) { choose(menu, 0); });
+        }
+        const QDir smileys(ombrin::OmDir::smileysPath(false));
+        QCOMPARE(smileys.entryList(QDir::Files).size(), 1);
+        const QByteArray data = picture();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        const quint16 checksum = qChecksum(data);
+#else
+        const quint16 checksum = qChecksum(data.constData(), static_cast<uint>(data.size()));
+#endif
+        QFile smiley(smileys.filePath(QString::number(checksum)));
+        QVERIFY(smiley.open(QIODevice::ReadOnly));
+        QCOMPARE(smiley.readAll(), data);
+    }
+
+    void picturesAreSavedAsJpeg()
+    {
+        m_browser->setSaveableImages(true);
+        insertPicture(m_received);
+        show();
+        const QString file = m_folder->filePath(QStringLiteral("saved.jpg"));
+        QString proposal;
+        openMenu(placeOf(0), [&](QMenu *menu) {
+            QTimer::singleShot(0, m_browser, [&] {
+                auto *dialog = m_browser->findChild<QFileDialog *>();
+                QVERIFY(dialog);
+                QCOMPARE(dialog->windowTitle(), QStringLiteral("Save Smiley as..."));
+                proposal = QFileInfo(dialog->selectedFiles().value(0)).completeBaseName();
+                dialog->selectFile(file);
+                static_cast<QDialog *>(dialog)->accept();
+            });
+            choose(menu, 1);
+        });
+        QCOMPARE(proposal, QStringLiteral("a smile&y#1"));
+        const QImage saved(file, "jpg");
+        QCOMPARE(saved.size(), QSize(40, 30));
+        QVERIFY(std::abs(saved.pixelColor(20, 15).green() - kColor.green()) < 4);
+        QCOMPARE(ombrin::OmSettings::instance()
+                         .get(QStringLiteral("save_smiley_path"), QString(),
+                              QStringLiteral("omchat"))
+                         .toString(),
+                 QFileInfo(file).absolutePath());
+    }
+
+    void picturesAreShownFromFilesResourcesAndData()
+    {
+        const QByteArray data = "data:image/png;base64," + picture().toBase64();
+        for (const QUrl &url :
+             {QUrl::fromLocalFile(m_received), QUrl(m_received), QUrl(QString::fromLatin1(data))})
+            QCOMPARE(loaded(url).size(), QSize(40, 30));
+        insertPicture(m_received);
+        show();
+        QCOMPARE(m_browser->viewport()->grab().toImage().pixelColor(20, 20), kColor);
+    }
+
+    void hostilePicturesAreHarmless_data()
+    {
+        QTest::addColumn<QString>("kind");
+        for (const char *kind : {"remote", "share", "folder", "missing", "no picture", "huge",
+                                 "huge data", "large file", "empty", "drawing", "no data",
+#ifdef Q_OS_UNIX
+                                 "pipe", "device", "endless",
+#endif
+                                 "nothing"})
+            QTest::newRow(kind) << QString::fromLatin1(kind);
+    }
+    void hostilePicturesAreHarmless()
+    {
+        QFETCH(QString, kind);
+        const QString path = m_folder->filePath(QStringLiteral("hostile"));
+        QHash<QString, QString> sources{
+                {QStringLiteral("remote"), QStringLiteral("http://127.0.0.1:1/x.png")},
+                {QStringLiteral("share"), QStringLiteral("//server/share/x.png")},
+                {QStringLiteral("folder"), m_folder->path()},
+                {QStringLiteral("missing"), m_folder->filePath(QStringLiteral("gone"))},
+                {QStringLiteral("huge data"),
+                 QStringLiteral("data:image/png;base64,")
+                         + QString::fromLatin1(hugePicture(30000).toBase64())},
+                {QStringLiteral("no data"), QStringLiteral("data:")},
+                {QStringLiteral("device"), QStringLiteral("/dev/zero")},
+                {QStringLiteral("endless"), QStringLiteral("/proc/kmsg")},
+                {QStringLiteral("nothing"), QString()},
+        };
+        if (kind == QLatin1String("pipe"))
+            QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {path}), 0);
+        else
+            write(path, kind == QLatin1String("huge")         ? hugePicture(30000)
+                        : kind == QLatin1String("no picture") ? QByteArray("GIF89a but no more")
+                        : kind == QLatin1String("drawing")
+                                ? QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>")
+                        : kind == QLatin1String("empty") ? QByteArray()
+                                                         : picture());
+        if (kind == QLatin1String("large file")) // which takes no room on the disk
+            QVERIFY(QFile(path).resize(1024 * 1024 * 1024));
+        const QString source = sources.value(kind, path);
+        QCOMPARE(loaded(QUrl(source)).size(), QSize(16, 16));
+        QCOMPARE(loaded(QUrl::fromLocalFile(source)).size(), QSize(16, 16));
+
+        // The document must not look for it by itself.
+        m_browser->setHtml(
+                QStringLiteral("<img src='%1'><link rel=stylesheet href='%1'>x").arg(source));
+        show();
+        QVERIFY(m_browser->document()->idealWidth() < 60);
+    }
+
+    void copyLockKeepsTextInside()
+    {
+        m_browser->setHtml(QStringLiteral("<b>secret</b> text"));
+        show();
+        m_browser->selectAll();
+        QTest::keyClick(m_browser, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(QApplication::clipboard()->mimeData()->html().contains(QStringLiteral("secret")));
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("secret text"));
+
+        QVERIFY(m_browser->isCopyable());
+        m_browser->setCopyable(false);
+        QTest::keyClick(m_browser, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->mimeData()->formats(), QStringList());
+    }
+
+    void resizeIsTold()
+    {
+        show();
+        QSignalSpy resized(m_browser.data(), qOverload<>(&OmTextBrowser::resize));
+        m_browser->resize(310, 190); // QWidget's own is not hidden
+        QCOMPARE(resized.size(), 1);
+        connect(m_browser.data(), qOverload<>(&OmTextBrowser::resize), m_browser.data(),
+                [this] { QCOMPARE(m_browser->size(), QSize(320, 190)); });
+        m_browser->resize(320, 190);
+        m_browser->close();
+        QTRY_VERIFY(!m_browser);
+    }
+
+    void hostMayDeleteTheBrowserWhileItsMenuIsOpen_data()
+    {
+        QTest::addColumn<bool>("onPicture");
+        QTest::newRow("standard menu") << false;
+        QTest::newRow("picture menu") << true;
+    }
+    void hostMayDeleteTheBrowserWhileItsMenuIsOpen()
+    {
+        QFETCH(bool, onPicture);
+        m_browser->setSaveableImages(onPicture);
+        insertPicture(m_received);
+        show();
+        QTimer::singleShot(0, qApp, [this] {
+            QPointer<QWidget> menu = QApplication::activePopupWidget();
+            delete m_browser;
+            QVERIFY(menu);
+            menu->close();
+        });
+        const QPoint place = placeOf(0);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                                m_browser->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(m_browser->viewport(), &event);
+        QVERIFY(!m_browser);
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmTextBrowser)
+#include "tst_omtextbrowser.moc"

@@ -141,23 +141,6 @@ private Q_SLOTS:
         QVERIFY(!visibleTip());
     }
 
-    void theButtonStaysAButton_data() { buttons(); }
-    void theButtonStaysAButton()
-    {
-        QAbstractButton *const button = addButton(QStringLiteral("Call Ada"));
-        button->setText(QStringLiteral("&Call"));
-        QCOMPARE(accessible(button)->role(), QAccessible::Button);
-        QCOMPARE(accessibleName(button), QStringLiteral("Call"));
-        QCOMPARE(accessible(button)->text(QAccessible::Description), QStringLiteral("Call Ada"));
-
-        QSignalSpy clicks(button, &QAbstractButton::clicked);
-        sendEnter(button);
-        QTest::mouseClick(button, Qt::LeftButton);
-        QTest::keyClick(button, Qt::Key_Space);
-        pressAccessibly(button);
-        QTRY_COMPARE(clicks.size(), 3);
-    }
-
     void aToolButtonShowsTheToolTipOfItsAction()
     {
         auto *const button = new OmToolButton(m_window.get());

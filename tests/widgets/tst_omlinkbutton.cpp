@@ -88,201 +88,167 @@ class tst_OmLinkButton : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsAsALink();
-    void sizeHintLeavesRoomForMarginsAndArrow();
-    void drawsUnderlinedText_data();
-    void drawsUnderlinedText();
-    void elidesAsToldTo();
-    void arrowFollowsTheText_data();
-    void arrowFollowsTheText();
-    void focusIsVisible();
-    void absurdTextsPaint_data();
-    void absurdTextsPaint();
-    void screenReadersSeeALinkOrAnExpander();
-    void mayBeDeletedInItsSlot();
-};
-
-void tst_OmLinkButton::startsAsALink()
-{
-    const OmLinkButton plain;
-    const Button named;
-    for (const OmLinkButton *button : {&plain, static_cast<const OmLinkButton *>(&named)}) {
-        QCOMPARE(button->textElideMode(), Qt::ElideNone);
-        QCOMPARE(button->cursor().shape(), Qt::PointingHandCursor);
-        QCOMPARE(button->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed));
+    void sizeHintLeavesRoomForMarginsAndArrow()
+    {
+        Button button;
+        const QFontMetrics metrics = button.fontMetrics();
+        const QRect bounds = metrics.boundingRect(kText);
+        QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4, bounds.height()));
+        button.setCheckable(true);
+        QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4 + metrics.height(), bounds.height()));
+        button.setText(QString());
+        QCOMPARE(button.sizeHint().width(), 4 + metrics.height());
     }
-    QVERIFY(plain.text().isEmpty());
-    QCOMPARE(named.text(), kText);
-}
 
-void tst_OmLinkButton::sizeHintLeavesRoomForMarginsAndArrow()
-{
-    Button button;
-    const QFontMetrics metrics = button.fontMetrics();
-    const QRect bounds = metrics.boundingRect(kText);
-    QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4, bounds.height()));
-    button.setCheckable(true);
-    QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4 + metrics.height(), bounds.height()));
-    button.setText(QString());
-    QCOMPARE(button.sizeHint().width(), 4 + metrics.height());
-}
-
-void tst_OmLinkButton::drawsUnderlinedText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("plain") << kText << true << Qt::LeftToRight;
-    QTest::newRow("disabled") << kText << false << Qt::LeftToRight;
-    QTest::newRow("ampersand") << QStringLiteral("You && &me") << true << Qt::LeftToRight;
-    QTest::newRow("right-to-left")
-            << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd") << true << Qt::RightToLeft;
-}
-
-void tst_OmLinkButton::drawsUnderlinedText()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, enabled);
-    QFETCH(Qt::LayoutDirection, direction);
-    Button button(text);
-    button.setEnabled(enabled);
-    button.setLayoutDirection(direction);
-    QImage expected = blank(button.size());
-    drawExpected(&expected, button, text, enabled ? QColor::fromRgb(kLink) : QColor(Qt::gray));
-    QCOMPARE(button.paint(), expected);
-    QVERIFY(button.style.drawn.isEmpty());
-}
-
-void tst_OmLinkButton::elidesAsToldTo()
-{
-    Button button;
-    button.resize(60, 30);
-    QImage whole = blank(button.size());
-    drawExpected(&whole, button, kText, QColor::fromRgb(kLink));
-    QCOMPARE(button.paint(), whole);
-    for (const auto mode : {Qt::ElideLeft, Qt::ElideMiddle, Qt::ElideRight}) {
-        button.setTextElideMode(mode);
-        QCOMPARE(button.textElideMode(), mode);
+    void drawsUnderlinedText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("plain") << kText << true << Qt::LeftToRight;
+        QTest::newRow("disabled") << kText << false << Qt::LeftToRight;
+        QTest::newRow("ampersand") << QStringLiteral("You && &me") << true << Qt::LeftToRight;
+        QTest::newRow("right-to-left")
+                << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd") << true << Qt::RightToLeft;
+    }
+    void drawsUnderlinedText()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, enabled);
+        QFETCH(Qt::LayoutDirection, direction);
+        Button button(text);
+        QCOMPARE(button.cursor().shape(), Qt::PointingHandCursor);
+        button.setEnabled(enabled);
+        button.setLayoutDirection(direction);
         QImage expected = blank(button.size());
-        const QString shown = button.fontMetrics().elidedText(kText, mode, 56);
-        QVERIFY(shown != kText);
-        drawExpected(&expected, button, shown, QColor::fromRgb(kLink));
+        drawExpected(&expected, button, text, enabled ? QColor::fromRgb(kLink) : QColor(Qt::gray));
         QCOMPARE(button.paint(), expected);
+        QVERIFY(button.style.drawn.isEmpty());
     }
-}
 
-void tst_OmLinkButton::arrowFollowsTheText_data()
-{
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<int>("arrow");
-    QTest::newRow("folded") << false << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowRight);
-    QTest::newRow("unfolded") << true << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowDown);
-    QTest::newRow("folded, right-to-left")
-            << false << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowLeft);
-    QTest::newRow("unfolded, right-to-left")
-            << true << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowDown);
-}
-
-void tst_OmLinkButton::arrowFollowsTheText()
-{
-    QFETCH(bool, checked);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(int, arrow);
-    Button button;
-    button.setLayoutDirection(direction);
-    button.setCheckable(true);
-    button.setChecked(checked);
-    button.resize(button.sizeHint());
-    QImage image = blank(button.size());
-    const QRect text = drawExpected(&image, button, kText, Qt::black);
-    button.paint();
-    QCOMPARE(button.style.drawn.size(), 1);
-    QCOMPARE(int(button.style.drawn.first().first), arrow);
-    const int extent = button.fontMetrics().height();
-    const int left = direction == Qt::LeftToRight ? text.right() : text.left() - extent + 1;
-    const QRect place = button.style.drawn.first().second;
-    QCOMPARE(place, QRect(left, text.top(), extent, text.height()));
-    QVERIFY(button.rect().adjusted(0, -20, 0, 20).contains(place));
-}
-
-void tst_OmLinkButton::focusIsVisible()
-{
-    Button button;
-    button.show();
-    button.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&button));
-    button.clearFocus();
-    button.paint();
-    QVERIFY(button.style.drawn.isEmpty());
-    QTest::keyClick(&button, Qt::Key_Tab);
-    button.setFocus(Qt::TabFocusReason);
-    QVERIFY(button.hasFocus());
-    button.paint();
-    QCOMPARE(button.style.drawn.size(), 1);
-    QCOMPARE(button.style.drawn.first().first, QStyle::PE_FrameFocusRect);
-    QCOMPARE(button.style.drawn.first().second, button.rect());
-
-    QSignalSpy spy(&button, &QAbstractButton::clicked);
-    QTest::keyClick(&button, Qt::Key_Space);
-    QCOMPARE(spy.size(), 1);
-}
-
-void tst_OmLinkButton::absurdTextsPaint_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("long") << QString(100000, QLatin1Char('x'));
-    QTest::newRow("marks") << QString(100000, QChar(0x0301));
-    QTest::newRow("lines") << QString(1000, QLatin1Char('\n'));
-    QTest::newRow("empty") << QString();
-}
-
-void tst_OmLinkButton::absurdTextsPaint()
-{
-    QFETCH(QString, text);
-    Button button(text);
-    button.setCheckable(true);
-    for (const auto mode : {Qt::ElideNone, Qt::ElideMiddle}) {
-        button.setTextElideMode(mode);
-        QVERIFY(button.sizeHint().isValid());
-        for (const QSize &size : {QSize(200, 30), QSize(1, 1), QSize(0, 0)}) {
-            button.resize(size);
-            button.grab();
-            QCOMPARE(button.size(), size);
+    void elidesAsToldTo()
+    {
+        Button button;
+        button.resize(60, 30);
+        QImage whole = blank(button.size());
+        drawExpected(&whole, button, kText, QColor::fromRgb(kLink));
+        QCOMPARE(button.paint(), whole);
+        for (const auto mode : {Qt::ElideLeft, Qt::ElideMiddle, Qt::ElideRight}) {
+            button.setTextElideMode(mode);
+            QImage expected = blank(button.size());
+            const QString shown = button.fontMetrics().elidedText(kText, mode, 56);
+            QVERIFY(shown != kText);
+            drawExpected(&expected, button, shown, QColor::fromRgb(kLink));
+            QCOMPARE(button.paint(), expected);
         }
     }
-}
 
-void tst_OmLinkButton::screenReadersSeeALinkOrAnExpander()
-{
-    Button button;
-    QCOMPARE(accessible(&button)->role(), QAccessible::Link);
-    QCOMPARE(accessibleName(&button), kText);
-    QVERIFY(accessible(&button)->state().linked && accessible(&button)->state().focusable);
-    QVERIFY(!accessible(&button)->state().expandable);
-    QSignalSpy spy(&button, &QAbstractButton::clicked);
-    pressAccessibly(&button);
-    QCOMPARE(spy.size(), 1);
+    void arrowFollowsTheText_data()
+    {
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<int>("arrow");
+        QTest::newRow("folded") << false << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowRight);
+        QTest::newRow("unfolded") << true << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowDown);
+        QTest::newRow("folded, right-to-left")
+                << false << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowLeft);
+        QTest::newRow("unfolded, right-to-left")
+                << true << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowDown);
+    }
+    void arrowFollowsTheText()
+    {
+        QFETCH(bool, checked);
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(int, arrow);
+        Button button;
+        button.setLayoutDirection(direction);
+        button.setCheckable(true);
+        button.setChecked(checked);
+        button.resize(button.sizeHint());
+        QImage image = blank(button.size());
+        const QRect text = drawExpected(&image, button, kText, Qt::black);
+        button.paint();
+        QCOMPARE(button.style.drawn.size(), 1);
+        QCOMPARE(int(button.style.drawn.first().first), arrow);
+        const int extent = button.fontMetrics().height();
+        const int left = direction == Qt::LeftToRight ? text.right() : text.left() - extent + 1;
+        const QRect place = button.style.drawn.first().second;
+        QCOMPARE(place, QRect(left, text.top(), extent, text.height()));
+        QVERIFY(button.rect().adjusted(0, -20, 0, 20).contains(place));
+    }
 
-    button.setCheckable(true);
-    QCOMPARE(accessible(&button)->role(), QAccessible::Button);
-    QVERIFY(accessible(&button)->state().expandable && accessible(&button)->state().collapsed);
-    pressAccessibly(&button);
-    QVERIFY(accessible(&button)->state().checked && accessible(&button)->state().expanded);
-    QVERIFY(!accessible(&button)->state().collapsed);
-    button.setDown(true);
-    QVERIFY(accessible(&button)->state().pressed);
-    button.setShortcut(QKeySequence(Qt::Key_F7));
-    QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("F7"));
-}
+    void focusIsVisible()
+    {
+        Button button;
+        button.show();
+        button.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&button));
+        button.clearFocus();
+        button.paint();
+        QVERIFY(button.style.drawn.isEmpty());
+        QTest::keyClick(&button, Qt::Key_Tab);
+        button.setFocus(Qt::TabFocusReason);
+        QVERIFY(button.hasFocus());
+        button.paint();
+        QCOMPARE(button.style.drawn.size(), 1);
+        QCOMPARE(button.style.drawn.first().first, QStyle::PE_FrameFocusRect);
+        QCOMPARE(button.style.drawn.first().second, button.rect());
 
-void tst_OmLinkButton::mayBeDeletedInItsSlot()
-{
-    auto button = std::make_unique<Button>();
-    connect(button.get(), &QAbstractButton::pressed, this, [&button] { button.reset(); });
-    pressAccessibly(button.get());
-    QVERIFY(!button);
-}
+        QSignalSpy spy(&button, &QAbstractButton::clicked);
+        QTest::keyClick(&button, Qt::Key_Space);
+        QCOMPARE(spy.size(), 1);
+    }
+
+    void absurdTextsPaint()
+    {
+        for (const QString &text :
+             {QString(100000, QLatin1Char('x')), QString(100000, QChar(0x0301)),
+              QString(1000, QLatin1Char('\n')), QString()}) {
+            Button button(text);
+            button.setCheckable(true);
+            for (const auto mode : {Qt::ElideNone, Qt::ElideMiddle}) {
+                button.setTextElideMode(mode);
+                QVERIFY(button.sizeHint().isValid());
+                for (const QSize &size : {QSize(200, 30), QSize(1, 1), QSize(0, 0)}) {
+                    button.resize(size);
+                    button.grab();
+                    QCOMPARE(button.size(), size);
+                }
+            }
+        }
+    }
+
+    void screenReadersSeeALinkOrAnExpander()
+    {
+        Button button;
+        QCOMPARE(accessible(&button)->role(), QAccessible::Link);
+        QCOMPARE(accessibleName(&button), kText);
+        QVERIFY(accessible(&button)->state().linked && accessible(&button)->state().focusable);
+        QVERIFY(!accessible(&button)->state().expandable);
+        QSignalSpy spy(&button, &QAbstractButton::clicked);
+        pressAccessibly(&button);
+        QCOMPARE(spy.size(), 1);
+
+        button.setCheckable(true);
+        QCOMPARE(accessible(&button)->role(), QAccessible::Button);
+        QVERIFY(accessible(&button)->state().expandable && accessible(&button)->state().collapsed);
+        pressAccessibly(&button);
+        QVERIFY(accessible(&button)->state().checked && accessible(&button)->state().expanded);
+        QVERIFY(!accessible(&button)->state().collapsed);
+        button.setDown(true);
+        QVERIFY(accessible(&button)->state().pressed);
+        button.setShortcut(QKeySequence(Qt::Key_F7));
+        QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("F7"));
+    }
+
+    void mayBeDeletedInItsSlot()
+    {
+        auto button = std::make_unique<Button>();
+        connect(button.get(), &QAbstractButton::pressed, this, [&button] { button.reset(); });
+        pressAccessibly(button.get());
+        QVERIFY(!button);
+    }
+};
 
 OMBRIN_TEST_MAIN(tst_OmLinkButton)
 #include "tst_omlinkbutton.moc"

@@ -1,6 +1,6 @@
 #include "core/WordEncoding.h"
 
-#include <QtCore/QTextCodec>
+#include <QTextCodec> // of QtCore in Qt 5, of Core5Compat in Qt 6
 
 namespace ombrin {
 

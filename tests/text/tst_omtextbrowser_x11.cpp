@@ -1,0 +1,60 @@
+#include "support/TestCase.h"
+#include "support/XUser.h"
+
+#include <ombrin/OmTextBrowser.h>
+
+#include <QtGui/QClipboard>
+#include <QtGui/QTextCursor>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QPlainTextEdit>
+
+using namespace ombrin::test;
+using ombrin::OmTextBrowser;
+
+class tst_OmTextBrowserX11 : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void copyLockHoldsForSelectionAndDrag_data()
+    {
+        QTest::addColumn<bool>("copyable");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("free") << true << QStringLiteral("secret");
+        QTest::newRow("locked") << false << QString();
+    }
+    void copyLockHoldsForSelectionAndDrag()
+    {
+        QFETCH(bool, copyable);
+        QFETCH(QString, text);
+        QWidget window;
+        auto *layout = new QHBoxLayout(&window);
+        auto *browser = new OmTextBrowser;
+        auto *target = new QPlainTextEdit;
+        layout->addWidget(browser);
+        layout->addWidget(target);
+        browser->setCopyable(copyable);
+        browser->setPlainText(QStringLiteral("secret"));
+        window.setGeometry(100, 100, 500, 150);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::qWait(200); // until the window manager has placed it
+
+        QApplication::clipboard()->setText(QStringLiteral("old"), QClipboard::Selection);
+        QTextCursor cursor(browser->document());
+        cursor.setPosition(3);
+        const QPoint middle =
+                browser->viewport()->mapToGlobal(browser->cursorRect(cursor).center());
+        clickAt(middle, 1, 2);
+        QCOMPARE(browser->textCursor().selectedText(), QStringLiteral("secret"));
+        QTRY_COMPARE(QApplication::clipboard()->text(QClipboard::Selection), text);
+
+        QTest::qWait(QApplication::doubleClickInterval() + 100); // not a third click
+        dragBy(middle, target->mapToGlobal(target->rect().center()) - middle);
+        QTRY_COMPARE(target->toPlainText(), text);
+        QCOMPARE(browser->toPlainText(), QStringLiteral("secret"));
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_OmTextBrowserX11)
+#include "tst_omtextbrowser_x11.moc"

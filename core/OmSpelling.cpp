@@ -130,8 +130,7 @@ QStringList OmSpelling::suggestionList(const QString &word)
 {
     if (m_dictionaries.isEmpty() || !isWord(word))
         return {};
-    m_worker->awaitSuggestions(word, -1);
-    QStringList suggestions = m_worker->suggestions(word);
+    QStringList suggestions = m_worker->awaitSuggestions(word, -1).value_or(QStringList());
     const QString replacement = personalWords().replacement(word);
     if (!replacement.isEmpty()) {
         suggestions.removeAll(replacement);
@@ -143,7 +142,7 @@ QStringList OmSpelling::suggestionList(const QString &word)
 bool OmSpelling::prepareSuggestions(const QString &word, int patience)
 {
     return m_dictionaries.isEmpty() || !isWord(word)
-           || m_worker->awaitSuggestions(word, qMax(0, patience));
+           || m_worker->awaitSuggestions(word, qMax(0, patience)).has_value();
 }
 
 void OmSpelling::addToDictionary(const QString &word)

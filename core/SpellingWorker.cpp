@@ -134,32 +134,34 @@ void SpellingWorker::addWord(const QString &word)
 
 void SpellingWorker::wantSuggestions(const QString &word)
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_suggestions.contains(word))
-            return;
-        want(word);
-    }
     start();
-    m_wake.notify_one();
-}
-
-bool SpellingWorker::awaitSuggestions(const QString &word, int patience)
-{
-    wantSuggestions(word);
-    std::unique_lock lock(m_mutex);
-    const auto areThere = [this, &word] { return m_suggestions.contains(word); };
-    if (patience < 0) {
-        m_done.wait(lock, areThere);
-        return true;
-    }
-    return m_done.wait_for(lock, std::chrono::milliseconds(patience), areThere);
-}
-
-QStringList SpellingWorker::suggestions(const QString &word) const
-{
     const std::lock_guard lock(m_mutex);
+    want(word);
+}
+
+std::optional<QStringList> SpellingWorker::awaitSuggestions(const QString &word, int patience)
+{
+    start();
+    std::unique_lock lock(m_mutex);
+    want(word);
+    const auto areThere = [this, &word] { return m_suggestions.contains(word); };
+    if (patience < 0)
+        m_done.wait(lock, areThere);
+    else if (!m_done.wait_for(lock, std::chrono::milliseconds(patience), areThere))
+        return std::nullopt;
     return m_suggestions.value(word);
+}
+
+void SpellingWorker::want(const QString &word)
+{
+    if (m_suggestions.contains(word))
+        return;
+    m_wanted.push_front(word);
+    if (m_wanted.size() > kMostWanted)
+        m_wanted.pop_back();
+    // Waking a thread costs more than all the rest of a check.
+    if (m_isIdle)
+        m_wake.notify_one();
 }
 
 void SpellingWorker::post(std::function<void()> job)
@@ -202,7 +204,9 @@ void SpellingWorker::run()
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
+        m_isIdle = true;
         m_wake.wait(lock, [this] { return m_isStopping || !m_jobs.empty() || !m_wanted.empty(); });
+        m_isIdle = false;
         if (!m_jobs.empty())
             runJob(lock);
         else if (m_isStopping)
@@ -229,6 +233,8 @@ void SpellingWorker::findSuggestions(std::unique_lock<std::mutex> &lock)
     const QString word = m_wanted.front();
     const int generation = m_generation;
     m_wanted.pop_front();
+    if (m_suggestions.contains(word)) // It was wanted more than once.
+        return;
     lock.unlock();
     const QStringList found = computeSuggestions(word);
     lock.lock();
@@ -267,18 +273,8 @@ QStringList SpellingWorker::computeSuggestions(const QString &word)
     return found;
 }
 
-void SpellingWorker::want(const QString &word)
-{
-    m_wanted.erase(std::remove(m_wanted.begin(), m_wanted.end(), word), m_wanted.end());
-    m_wanted.push_front(word);
-    if (m_wanted.size() > kMostWanted)
-        m_wanted.pop_back();
-}
-
 void SpellingWorker::remember(const QString &word, const QStringList &suggestions)
 {
-    if (m_suggestions.contains(word))
-        return;
     m_suggestions.insert(word, suggestions);
     m_suggestionOrder.push_back(word);
     if (m_suggestionOrder.size() > kMostRemembered) {

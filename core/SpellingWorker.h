@@ -5,6 +5,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -42,10 +43,8 @@ public:
     /// Computes suggestions for \a word when there is nothing else to do, the latest word first.
     void wantSuggestions(const QString &word);
     /// Computes the suggestions for \a word next and waits for them for at most \a patience
-    /// milliseconds, or without an end if that is negative. Whether they are there.
-    bool awaitSuggestions(const QString &word, int patience);
-    /// The suggestions for \a word that are there.
-    QStringList suggestions(const QString &word) const;
+    /// milliseconds, or without an end if that is negative. Nothing if they are not there by then.
+    std::optional<QStringList> awaitSuggestions(const QString &word, int patience);
 
     /// Runs \a job in the thread before any suggestion.
     void post(std::function<void()> job);
@@ -78,7 +77,7 @@ private:
     std::thread m_thread;
 
     // Guards what follows, up to the next mutex.
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::condition_variable m_wake;
     std::condition_variable m_done;
     std::deque<std::function<void()>> m_jobs;
@@ -87,6 +86,7 @@ private:
     std::deque<QString> m_suggestionOrder;
     int m_generation = 0;
     bool m_isBusy = false;
+    bool m_isIdle = false;
     bool m_isStopping = false;
 
     std::mutex m_checkMutex;

@@ -10,6 +10,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QToolBar>
 
 #include <iterator>
@@ -19,6 +20,8 @@ namespace ombrin {
 namespace {
 
 constexpr int kIndicationMs = 5000;
+// What a card takes as a rule with nothing left of its texts but an ellipsis.
+constexpr int kUnseenWidth = 84;
 
 constexpr const char *kStatusNames[] = {
         QT_TRANSLATE_NOOP("ombrin::OmContactCard", "Offline"),
@@ -62,7 +65,10 @@ OmContactCard::OmContactCard(QWidget *parent)
     resizeParts();
 }
 
-OmContactCard::~OmContactCard() = default;
+OmContactCard::~OmContactCard()
+{
+    releaseMenu();
+}
 
 QString OmContactCard::alias() const
 {
@@ -215,13 +221,13 @@ void OmContactCard::setAvatar(const QPixmap &avatar, bool hover)
 QSize OmContactCard::sizeHint() const
 {
     ensurePolished();
-    return QGroupBox::sizeHint();
+    return m_avatar ? QGroupBox::sizeHint() : QSize(kUnseenWidth, minimumHeight());
 }
 
 QSize OmContactCard::minimumSizeHint() const
 {
     ensurePolished();
-    return QGroupBox::minimumSizeHint();
+    return m_avatar ? QGroupBox::minimumSizeHint() : QSize(kUnseenWidth, minimumHeight());
 }
 
 bool OmContactCard::event(QEvent *event)

@@ -55,11 +55,23 @@ void OmContactCard::slotAction(QAction *action)
 
 void OmContactCard::slotContextMenu(QPoint)
 {
+    if (m_menu)
+        return;
     const QPointer<QMenu> menu = new QMenu(this);
+    m_menu = menu;
     if (fillMenu(menu))
         menu->exec(QCursor::pos());
-    // Unless the card is gone, and the menu with it.
+    // The card may be gone by now.
     delete menu;
+}
+
+// A menu must outlive the choice that made the host delete the card.
+void OmContactCard::releaseMenu()
+{
+    if (!m_menu)
+        return;
+    m_menu->hide();
+    m_menu->setParent(nullptr, m_menu->windowFlags());
 }
 
 bool OmContactCard::fillMenu(QMenu *menu)

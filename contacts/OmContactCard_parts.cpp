@@ -103,12 +103,12 @@ QLayout *OmContactCard::createTextColumn()
 // A card that is being painted paints its new parts right afterwards.
 void OmContactCard::showFace()
 {
-    if (!isVisible())
-        return;
-    for (QWidget *part :
-         {static_cast<QWidget *>(m_avatar), static_cast<QWidget *>(m_aliasLabel),
-          static_cast<QWidget *>(m_statusLabel), static_cast<QWidget *>(m_indicatorLabel)})
-        part->show();
+    if (isVisible()) {
+        for (QWidget *part :
+             {static_cast<QWidget *>(m_avatar), static_cast<QWidget *>(m_aliasLabel),
+              static_cast<QWidget *>(m_statusLabel), static_cast<QWidget *>(m_indicatorLabel)})
+            part->show();
+    }
     layout()->activate();
 }
 

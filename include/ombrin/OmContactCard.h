@@ -4,6 +4,7 @@
 #include <ombrin/OmGlobal.h>
 
 #include <QtCore/QList>
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtGui/QPixmap>
@@ -194,6 +195,7 @@ private:
     void restartTimer(int *timerId, bool run);
     QPixmap picture() const;
     bool fillMenu(QMenu *menu);
+    void releaseMenu();
 
     // The face and the tools are null until they are made.
     OmAvatarSmall *m_avatar = nullptr;
@@ -203,6 +205,8 @@ private:
     QHBoxLayout *m_toolRow = nullptr;
     QToolBar *m_toolBar = nullptr;
     QList<QAction *> m_actions;
+    // While it is open.
+    QPointer<QMenu> m_menu;
 
     bool m_big = false;
     bool m_blocked = false;

@@ -1,0 +1,649 @@
+#include "support/FileDialogUser.h"
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmAvatarSmall.h>
+#include <ombrin/OmContactCard.h>
+#include <ombrin/OmLabel.h>
+#include <ombrin/OmSettings.h>
+
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QMimeData>
+#include <QtCore/QResource>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
+#include <QtCore/QUrl>
+#include <QtGui/QDropEvent>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QToolBar>
+
+#include <functional>
+
+using namespace ombrin;
+using namespace ombrin::test;
+
+namespace {
+
+const QColor kTyping(0x00, 0xff, 0x00);
+const QColor kTalking(0xff, 0x00, 0x00);
+
+Om::ClientApplication application(int number)
+{
+    return static_cast<Om::ClientApplication>(number);
+}
+
+QPixmap picture()
+{
+    QPixmap pixmap(40, 20);
+    pixmap.fill(Qt::darkRed);
+    return pixmap;
+}
+
+QToolBar *toolBar(const QWidget *card)
+{
+    return card->findChild<QToolBar *>(QStringLiteral("actionToolBar"));
+}
+
+QStringList ids(const QList<QAction *> &actions)
+{
+    QStringList names;
+    for (const QAction *action : actions)
+        names.append(action->objectName());
+    return names;
+}
+
+QAction *action(const OmContactCard &card, const char *id)
+{
+    return card.findChild<QAction *>(QLatin1String(id));
+}
+
+// The label of a shown card that shows \a text.
+OmLabel *label(const OmContactCard &card, const QString &text)
+{
+    const auto labels = card.findChildren<OmLabel *>();
+    for (OmLabel *candidate : labels) {
+        if (candidate->text() == text && !qobject_cast<OmAvatarSmall *>(candidate))
+            return candidate;
+    }
+    return nullptr;
+}
+
+// What the place for typing and talking shows.
+QColor indication(const OmContactCard &card)
+{
+    const auto labels = card.findChildren<QLabel *>();
+    for (const QLabel *candidate : labels) {
+        if (candidate->size() == QSize(18, 18)) {
+            const QImage image = candidate->pixmap(Qt::ReturnByValue).toImage();
+            return image.isNull() ? QColor() : image.pixelColor(8, 8);
+        }
+    }
+    return QColor(Qt::black);
+}
+
+// Opens the context menu of \a card, calls \a look with its entries, and closes it if it is still
+// there. Whether a menu came up.
+bool openMenu(OmContactCard *card, const std::function<void(QMenu *)> &look)
+{
+    bool isOpen = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        timer.stop();
+        isOpen = true;
+        look(menu);
+        if (menu)
+            menu->close();
+    });
+    timer.start(5);
+    QMetaObject::invokeMethod(card, "slotContextMenu", Q_ARG(QPoint, QPoint(1, 1)));
+    return isOpen;
+}
+
+void release(QWidget *widget, Qt::MouseButton button, const QPoint &position)
+{
+    QMouseEvent event(QEvent::MouseButtonRelease, position, widget->mapToGlobal(position), button,
+                      Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// A language in which all texts are in brackets.
+class BracketLanguage : public QTranslator
+{
+public:
+    BracketLanguage() { QCoreApplication::installTranslator(this); }
+    ~BracketLanguage() override { QCoreApplication::removeTranslator(this); }
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        const bool isOfCard = qstrcmp(context, "ombrin::OmContactCard") == 0;
+        return isOfCard ? QLatin1Char('[') + QLatin1String(text) + QLatin1Char(']') : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class tst_OmContactCard : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
+                                            + QStringLiteral("/testdata/contacts.res")));
+    }
+
+    void offersWhatTheClientCanDo_data()
+    {
+        QTest::addColumn<int>("client");
+        QTest::addColumn<QString>("expected");
+
+        const char *all = "exit chat voip filetransfer webfolder profile block";
+        QTest::newRow("1") << 1 << "profile voip filetransfer webfolder block";
+        QTest::newRow("2") << 2 << "exit chat filetransfer";
+        QTest::newRow("3") << 3 << "chat filetransfer";
+        QTest::newRow("4") << 4 << "exit auth";
+        QTest::newRow("5") << 5 << "auth";
+        QTest::newRow("10") << 10 << all;
+        QTest::newRow("11") << 11 << all + 5;
+        QTest::newRow("12") << 12 << "exit profile voip auth";
+        for (const int client : {13, 15})
+            QTest::addRow("%d", client) << client << "profile voip auth";
+        QTest::newRow("19") << 19 << "chat voip filetransfer";
+        for (const int client : {-1, 0, 6, 7, 8, 9, 14, 16, 17, 18, 20, 1000})
+            QTest::addRow("%d", client) << client << "";
+    }
+
+    // Each choice is reported once, in the tool bar or in the menu, also of a card never big.
+    void offersWhatTheClientCanDo()
+    {
+        QFETCH(int, client);
+        QFETCH(QString, expected);
+        OmContactCard card;
+        card.setGeneralApp(application(client));
+        QSignalSpy chosen(&card, &OmContactCard::actionId);
+        QStringList offered;
+        const auto triggerAll = [&](QWidget *menu) {
+            offered = ids(menu->actions());
+            const QList<QAction *> actions = menu->actions();
+            for (QAction *action : actions)
+                action->trigger();
+        };
+        const auto verifyAll = [&] {
+            QCOMPARE(offered.join(QLatin1Char(' ')), expected);
+            QStringList reported;
+            for (const QVariantList &arguments : std::as_const(chosen))
+                reported.append(arguments.first().toString());
+            QCOMPARE(reported, offered);
+            chosen.clear();
+            offered.clear();
+        };
+        QCOMPARE(openMenu(&card, triggerAll), !expected.isEmpty());
+        verifyAll();
+        card.setBig(true);
+        triggerAll(toolBar(&card));
+        verifyAll();
+        QCOMPARE(openMenu(&card, triggerAll), !expected.isEmpty());
+        verifyAll();
+
+        // Another client counts from the next time on that the card becomes big.
+        card.setGeneralApp(application(5));
+        card.setBig(true);
+        QCOMPARE(ids(toolBar(&card)->actions()).join(QLatin1Char(' ')), expected);
+        card.setBig(false);
+        card.setBig(true);
+        QCOMPARE(ids(toolBar(&card)->actions()), {QStringLiteral("auth")});
+    }
+
+    void reportsForeignActionsOfItsToolBar()
+    {
+        OmContactCard card;
+        card.setBig(true);
+        QSignalSpy chosen(&card, &OmContactCard::actionId);
+        QAction *const wave = toolBar(&card)->addAction(QStringLiteral("Wave"));
+        wave->setObjectName(QStringLiteral("wave"));
+        wave->trigger();
+        QCOMPARE(chosen, QList<QVariantList>{{QStringLiteral("wave")}});
+    }
+
+    void growsAndShrinks()
+    {
+        OmContactCard card;
+        card.setAvatar(picture(), true);
+        card.resize(200, card.height());
+        card.show();
+        auto *const avatar = card.findChild<OmAvatarSmall *>();
+        for (const bool big : {false, true, false}) {
+            card.setBig(big);
+            QCOMPARE(card.isBig(), big);
+            QCOMPARE(card.minimumHeight(), big ? 72 : 48);
+            QCOMPARE(card.maximumHeight(), big ? 72 : 48);
+            const QSize size = big ? QSize(50, 50) : QSize(32, 32);
+            QCOMPARE(avatar->minimumSize(), size);
+            QCOMPARE(avatar->maximumSize(), size);
+            QCOMPARE(avatar->pixmap(Qt::ReturnByValue).size(),
+                     size * qCeil(avatar->devicePixelRatioF()));
+            QCOMPARE(toolBar(&card)->isVisible(), big);
+        }
+        QCOMPARE(card.objectName(), QStringLiteral("contactBig"));
+    }
+
+    void writesOneTraceLine()
+    {
+        static QStringList lines;
+        lines.clear();
+        OmContactCard card;
+        card.setOmbrinId(QStringLiteral("anna"));
+        const auto previous = qInstallMessageHandler(
+                [](QtMsgType type, const QMessageLogContext &, const QString &line) {
+                    lines.append(QString::number(type) + QLatin1Char(' ') + line);
+                });
+        card.setBig(true);
+        card.setBig(true);
+        card.setStatus(Om::Busy);
+        card.setBig(false);
+        qInstallMessageHandler(previous);
+        const QString line = QStringLiteral("0 setBig %1 ombrinId \"anna\"");
+        QCOMPARE(lines,
+                 QStringList({line.arg(QStringLiteral("true")), line.arg(QStringLiteral("true")),
+                              line.arg(QStringLiteral("false"))}));
+    }
+
+    void showsPresenceInTheUsersLanguage()
+    {
+        const char *names[] = {"Offline", "Online",         "Away",      "Extended away",
+                               "Busy",    "Do not disturb", "Invisible", "Invisible for everyone"};
+        OmContactCard card;
+        OmContactCard unseen;
+        card.show();
+        QSignalSpy changed(&card, &OmContactCard::statusChanged);
+        QCOMPARE(card.statusName(), QString());
+        QCOMPARE(card.status(), Om::Offline);
+        for (int status = 0; status < 8; ++status) {
+            card.setStatus(static_cast<Om::ContactStatus>(status));
+            card.setStatus(static_cast<Om::ContactStatus>(status));
+            QCOMPARE(changed.size(), status + 1);
+            QCOMPARE(card.statusName(), QLatin1String(names[status]));
+            QVERIFY(label(card, card.statusName()));
+        }
+        card.setStatus(static_cast<Om::ContactStatus>(42));
+        QCOMPARE(changed.size(), 9);
+        QCOMPARE(card.statusName(), QLatin1String(names[7]));
+
+        unseen.setStatus(Om::Away);
+        card.setBlocked(true);
+        {
+            const BracketLanguage language;
+            QCoreApplication::sendPostedEvents();
+            QVERIFY(label(card, QStringLiteral("[Invisible for everyone]")));
+            QCOMPARE(unseen.statusName(), QStringLiteral("[Away]"));
+            QCOMPARE(action(card, "unblock")->text(), QStringLiteral("[Unblock Contact]"));
+            QCOMPARE(action(card, "chat")->toolTip(), QStringLiteral("[Chat with contact]"));
+        }
+        QCoreApplication::sendPostedEvents();
+    }
+
+    void namesItsActions()
+    {
+        OmContactCard card;
+        card.setBig(true);
+        const struct
+        {
+            const char *id;
+            const char *text;
+        } rows[] = {{"exit", "Kick Contact"},    {"chat", "Chat with Contact"},
+                    {"voip", "Call Contact"},    {"filetransfer", "Send File"},
+                    {"block", "Block Contact"},  {"webfolder", "Open Web Folder"},
+                    {"profile", "Show Profile"}, {"auth", "Authenticate Contact"}};
+        for (const auto &row : rows) {
+            const QString text = QLatin1String(row.text);
+            QCOMPARE(action(card, row.id)->text(), text);
+            QCOMPARE(action(card, row.id)->toolTip().toLower(), text.toLower());
+        }
+        card.setBlocked(true);
+        QVERIFY(card.isBlocked() && !action(card, "block"));
+        QCOMPARE(action(card, "unblock")->text(), QStringLiteral("Unblock Contact"));
+        card.setBlocked(false);
+        QVERIFY(action(card, "block") && !action(card, "unblock"));
+    }
+
+    void aliasIsPlainTextOfOneLine()
+    {
+        OmContactCard card;
+        QSignalSpy changed(&card, &OmContactCard::aliasChanged);
+        const QString alias =
+                QStringLiteral("<b>Anna</b>\n&Co \u2028") + QString(5000, QLatin1Char('x'));
+        card.setAlias(alias);
+        card.setAlias(alias);
+        QCOMPARE(changed, QList<QVariantList>{{alias}});
+        QCOMPARE(card.alias(), alias);
+        card.resize(150, 48);
+        card.show();
+        QString line = alias;
+        line.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QChar(0x2028), QLatin1Char(' '));
+        const QLabel *const shown = label(card, line);
+        QVERIFY(shown);
+        QCOMPARE(shown->textFormat(), Qt::PlainText);
+        QVERIFY(shown->QLabel::text().endsWith(QChar(0x2026)));
+        QCOMPARE(card.width(), 150);
+    }
+
+    void indicationsEndByThemselves()
+    {
+        OmContactCard card;
+        QSignalSpy typing(&card, qOverload<bool>(&OmContactCard::isTyping));
+        QSignalSpy talking(&card, qOverload<bool>(&OmContactCard::isTalking));
+        card.setTyping(true); // before there is a place for it
+        card.show();
+        QCOMPARE(indication(card), kTyping);
+        card.setTyping(true);
+        const int typingTimer = onlyTimer(&card);
+        card.setTalking(true);
+        QCOMPARE(indication(card), kTalking);
+
+        // The end of the earlier one empties the place of both.
+        QTimerEvent foreign(typingTimer + 1000000);
+        QCoreApplication::sendEvent(&card, &foreign);
+        QVERIFY(card.isTyping() && card.isTalking());
+        QTimerEvent end(typingTimer);
+        QCoreApplication::sendEvent(&card, &end);
+        QVERIFY(!card.isTyping() && card.isTalking());
+        QCOMPARE(indication(card), QColor());
+        QCOMPARE(typing, (QList<QVariantList>{{true}, {true}, {false}}));
+        QVERIFY(onlyTimer(&card) != typingTimer);
+        card.setTalking(false);
+        card.setTalking(false);
+        QCOMPARE(talking, (QList<QVariantList>{{true}, {false}, {false}}));
+        QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(&card).isEmpty());
+    }
+
+    void clicksAreLeftReleasesInside()
+    {
+        OmContactCard card;
+        card.setAlias(QStringLiteral("Anna"));
+        card.resize(200, 48);
+        card.show();
+        QSignalSpy clicked(&card, &OmContactCard::clicked);
+        QSignalSpy avatarClicked(&card, &OmContactCard::avatarClicked);
+        release(&card, Qt::LeftButton, QPoint(199, 47));
+        release(label(card, card.alias()), Qt::LeftButton, QPoint(1, 1));
+        QCOMPARE(clicked.size(), 2);
+        release(&card, Qt::LeftButton, QPoint(200, 47));
+        release(&card, Qt::RightButton, QPoint(10, 10));
+        QCOMPARE(clicked.size(), 2);
+        auto *const avatar = card.findChild<OmAvatarSmall *>();
+        release(avatar, Qt::LeftButton, QPoint(5, 5));
+        QVERIFY(avatarClicked.isEmpty());
+        card.setAvatar(picture(), false);
+        release(avatar, Qt::LeftButton, QPoint(5, 5));
+        QCOMPARE(avatarClicked.size(), 1);
+    }
+
+    void menuOffersToSaveOrChangeThePicture()
+    {
+        OmContactCard card;
+        card.setGeneralApp(application(3));
+        card.setAvatar(picture(), false);
+        QStringList texts;
+        const auto look = [&texts](QMenu *menu) {
+            texts.clear();
+            const QList<QAction *> actions = menu->actions();
+            for (const QAction *entry : actions)
+                texts.append(entry->isSeparator() ? QStringLiteral("-") : entry->text());
+        };
+        QVERIFY(openMenu(&card, look));
+        const QStringList actions{QStringLiteral("Chat with Contact"), QStringLiteral("Send File")};
+        QCOMPARE(texts, QStringList({QStringLiteral("Save User Picture..."), QStringLiteral("-")})
+                                + actions);
+        card.setAvatar(QPixmap(), false);
+        QVERIFY(openMenu(&card, look));
+        QCOMPARE(texts, actions);
+
+        card.setOwn(true);
+        card.setGeneralApp(application(8));
+        QSignalSpy newAvatar(&card, qOverload<>(&OmContactCard::newAvatar));
+        QVERIFY(openMenu(&card, [&](QMenu *menu) {
+            look(menu);
+            menu->actions().constFirst()->trigger();
+        }));
+        QCOMPARE(texts, {QStringLiteral("Change My User Picture...")});
+        QCOMPARE(newAvatar.size(), 1);
+    }
+
+    void savesThePicture_data()
+    {
+        QTest::addColumn<QString>("alias");
+        QTest::addColumn<QString>("proposal");
+        QTest::newRow("alias") << "Anna"
+                               << "Anna";
+        QTest::newRow("no alias") << ""
+                                  << "anna_home";
+        QTest::newRow("hostile alias") << "../../Anna\n"
+                                       << "_._.._Anna";
+    }
+
+    void savesThePicture()
+    {
+        QFETCH(QString, alias);
+        QFETCH(QString, proposal);
+        const QTemporaryDir folder;
+        OmSettings::instance().setFile(folder.filePath(QStringLiteral("settings.ini")));
+        OmContactCard card;
+        card.setAlias(alias);
+        card.setOmbrinId(QStringLiteral("anna/home"));
+        card.setGeneralApp(application(3));
+        card.setAvatar(picture(), false);
+        const QString file = folder.filePath(QStringLiteral("a.jpg"));
+        const FileDialogUser user([&](QFileDialog *dialog) {
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("Save User Picture as..."));
+            QCOMPARE(FileDialogUser::proposal(dialog), proposal);
+            FileDialogUser::save(dialog, file);
+        });
+        QVERIFY(openMenu(&card, [](QMenu *menu) { menu->actions().constFirst()->trigger(); }));
+        QVERIFY(waitFor([&] { return QFileInfo::exists(file); }));
+        QCOMPARE(QImage(file).size(), picture().size());
+        const QVariant saved = OmSettings::instance().get(QStringLiteral("save_avatar_path"),
+                                                          QString(), QStringLiteral("omchat"));
+        QCOMPARE(QDir(saved.toString()), QDir(folder.path()));
+        OmSettings::instance().setFile(QString());
+    }
+
+    void ownCardTakesDroppedPictures()
+    {
+        OmContactCard card;
+        card.setOwn(true);
+        QVERIFY(card.acceptDrops());
+        QSignalSpy dropped(&card, qOverload<const QStringList &>(&OmContactCard::newAvatar));
+        QMimeData data;
+        QVERIFY(!drop(&card, &data));
+        QVERIFY(dropped.isEmpty());
+
+        QList<QUrl> urls{QUrl(QStringLiteral("http://x/y.png"))};
+        QStringList files{QString()};
+        for (int index = 0; index < 10000; ++index) {
+            files.append(QDir::rootPath() + QString::number(index));
+            urls.append(QUrl::fromLocalFile(files.constLast()));
+        }
+        data.setUrls(urls);
+        QVERIFY(drop(&card, &data));
+        QCOMPARE(dropped.takeFirst(), QVariantList{files});
+
+        data.setImageData(picture().toImage());
+        QVERIFY(drop(&card, &data));
+        const QString file = QDir::tempPath() + QStringLiteral("/omchat.jpg");
+        QCOMPARE(dropped.takeFirst(), QVariantList{QStringList{file}});
+        QCOMPARE(QImage(file).size(), picture().size());
+        QFile::remove(file);
+        card.setOwn(false);
+        QVERIFY(!card.acceptDrops());
+    }
+
+    void makesItsPartsWhenSeen()
+    {
+        QScrollArea area;
+        auto *column = new QWidget;
+        auto *layout = new QVBoxLayout(column);
+        auto *first = new OmContactCard;
+        auto *last = new OmContactCard;
+        layout->addWidget(first);
+        layout->addSpacing(2000);
+        layout->addWidget(last);
+        first->setAvatar(picture(), false);
+        first->setTyping(true);
+        area.setWidget(column);
+        area.resize(200, 200);
+        QVERIFY(first->children().isEmpty());
+        // Seen for the first time, the card is whole.
+        const QImage once = area.grab().toImage();
+        QVERIFY(!first->children().isEmpty() && !toolBar(first));
+        QVERIFY(last->children().isEmpty());
+        QCOMPARE(area.grab().toImage(), once);
+        area.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&area));
+        QCOMPARE(area.grab().toImage(), once);
+
+        OmContactCard lonely;
+        QVERIFY(lonely.sizeHint().width() > 60);
+        QVERIFY(toolBar(&lonely));
+    }
+
+    void mayBeDeletedAnywhere_data()
+    {
+        using Use = std::function<void(OmContactCard *)>;
+        QTest::addColumn<Use>("use");
+        const auto row = [](const char *name, auto signal, const Use &use) {
+            QTest::newRow(name) << Use([signal, use](OmContactCard *card) {
+                connect(card, signal, card, [card] { delete card; });
+                use(card);
+            });
+        };
+        row("actionId", &OmContactCard::actionId, [](OmContactCard *card) {
+            QTest::mouseClick(toolBar(card)->findChild<QWidget *>(QString()), Qt::LeftButton);
+            if (QPointer<QAction> chat = toolBar(card)->actions().value(0))
+                chat->trigger();
+        });
+        row("actionId, menu", &OmContactCard::actionId, [](OmContactCard *card) {
+            openMenu(card, [](QMenu *menu) {
+                menu->setActiveAction(menu->actions().constLast());
+                QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+                QCoreApplication::sendEvent(menu, &press);
+            });
+        });
+        row("aliasChanged", &OmContactCard::aliasChanged,
+            [](OmContactCard *card) { card->setAlias(QStringLiteral("x")); });
+        row("avatarClicked", &OmContactCard::avatarClicked, [](OmContactCard *card) {
+            release(card->findChild<OmAvatarSmall *>(), Qt::LeftButton, QPoint(5, 5));
+        });
+        row("clicked", &OmContactCard::clicked,
+            [](OmContactCard *card) { release(card, Qt::LeftButton, QPoint(90, 5)); });
+        row("isTyping", qOverload<bool>(&OmContactCard::isTyping),
+            [](OmContactCard *card) { card->setTyping(true); });
+        row("isTalking", qOverload<bool>(&OmContactCard::isTalking),
+            [](OmContactCard *card) { card->setTalking(true); });
+        row("statusChanged", &OmContactCard::statusChanged,
+            [](OmContactCard *card) { card->setStatus(Om::Away); });
+        row("newAvatar, files", qOverload<const QStringList &>(&OmContactCard::newAvatar),
+            [](OmContactCard *card) {
+                QMimeData data;
+                data.setUrls({QUrl::fromLocalFile(QStringLiteral("/x"))});
+                card->setOwn(true);
+                drop(card, &data);
+            });
+        QTest::newRow("menu is open") << Use(
+                [](OmContactCard *card) { openMenu(card, [card](QMenu *) { delete card; }); });
+        QTest::newRow("dialog is open") << Use([](OmContactCard *card) {
+            const FileDialogUser user([card](QFileDialog *) { delete card; });
+            QMetaObject::invokeMethod(card, "slotSaveUserImage");
+        });
+        QTest::newRow("closed") << Use([](OmContactCard *card) {
+            card->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        });
+    }
+
+    void mayBeDeletedAnywhere()
+    {
+        QFETCH(std::function<void(OmContactCard *)>, use);
+        const QPointer<OmContactCard> card = new OmContactCard;
+        card->setGeneralApp(application(3));
+        card->setAvatar(picture(), false);
+        card->resize(300, 72);
+        card->show();
+        card->setBig(true);
+        use(card);
+        QVERIFY(!card);
+    }
+
+    void assistiveTechnologySeesAListItem()
+    {
+        OmContactCard card;
+        card.setOmbrinId(QStringLiteral("anna@home"));
+        card.setStatus(Om::Busy);
+        QCOMPARE(accessible(&card)->role(), QAccessible::ListItem);
+        QCOMPARE(accessibleName(&card), QStringLiteral("anna@home"));
+        card.setAlias(QStringLiteral("Anna"));
+        QCOMPARE(accessibleName(&card), QStringLiteral("Anna"));
+        QCOMPARE(accessible(&card)->text(QAccessible::Description), QStringLiteral("Busy"));
+        QVERIFY(!accessible(&card)->state().selected);
+        card.setBig(true);
+        QVERIFY(accessible(&card)->state().selected);
+        QSignalSpy clicked(&card, &OmContactCard::clicked);
+        pressAccessibly(&card);
+        QCOMPARE(clicked.size(), 1);
+
+        card.setGeneralApp(application(3));
+        bool isOpen = false;
+        QTimer::singleShot(50, &card, [&isOpen] {
+            isOpen = QApplication::activePopupWidget();
+            QApplication::activePopupWidget()->close();
+        });
+        accessible(&card)->actionInterface()->doAction(
+                QAccessibleActionInterface::showMenuAction());
+        QVERIFY(waitFor([&] { return isOpen; }));
+    }
+
+    void slotsKeepTheirOrder()
+    {
+        const QMetaObject &meta = OmContactCard::staticMetaObject;
+        QStringList names;
+        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
+            names.append(QString::fromLatin1(meta.method(index).methodSignature()));
+        QCOMPARE(names.join(QLatin1Char(' ')),
+                 QStringLiteral(
+                         "actionId(QString) aliasChanged(QString) avatarClicked() clicked() "
+                         "isTyping(bool) isTalking(bool) newAvatar(QStringList) newAvatar() "
+                         "statusChanged(Om::ContactStatus) slotAction(QAction*) "
+                         "slotContextMenu(QPoint) slotSaveUserImageTimer() slotSaveUserImage()"));
+    }
+
+private:
+    static int onlyTimer(OmContactCard *card)
+    {
+        const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(card);
+        return timers.size() == 1 && timers.constFirst().interval == 5000
+                       ? timers.constFirst().timerId
+                       : -1;
+    }
+
+    // Whether the card takes the drag; the drop itself it always accepts.
+    static bool drop(OmContactCard *card, const QMimeData *data)
+    {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(card, &enter);
+        QDropEvent event(QPoint(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        event.ignore();
+        QCoreApplication::sendEvent(card, &event);
+        return enter.isAccepted() && event.isAccepted();
+    }
+};
+
+Q_DECLARE_METATYPE(std::function<void(OmContactCard *)>)
+
+OMBRIN_TEST_MAIN(tst_OmContactCard)
+#include "tst_omcontactcard.moc"

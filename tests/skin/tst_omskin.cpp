@@ -58,308 +58,267 @@ class tst_OmSkin : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void usesTheSkinUntilToldOtherwise();
-    void firstInitInstallsEverything();
-    void withoutSkinningOnlyTheStyleSheetIsLeftOut();
-    void laterInitsOnlyStoreTheFlag_data();
-    void laterInitsOnlyStoreTheFlag();
-    void initBeforeTheApplicationDoesNotCount();
-    void sectionsMissingInThePaletteGiveInvalidColours();
-    void coloursAreReadAsQColorReadsThem();
-    void brokenSkinsStopNothing_data();
-    void brokenSkinsStopNothing();
-    void cutResourceFilesAreRefused();
-    void resourceFilesPointingOutsideAreRefused_data();
-    void resourceFilesPointingOutsideAreRefused();
+    void initTestCase()
+    {
+#ifdef Q_OS_WIN
+        const QString program = QStringLiteral("omskin_probe.exe");
+#else
+        const QString program = QStringLiteral("omskin_probe");
+#endif
+        QVERIFY(m_folder.isValid());
+        m_probe = m_folder.filePath(program);
+        QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program,
+                            m_probe));
+    }
+
+    void firstInitInstallsEverything()
+    {
+        const QString hostSheet = QStringLiteral("QLabel { color: blue }");
+        const QJsonArray report =
+                run({QStringLiteral("sheet=") + hostSheet, QStringLiteral("init=true")});
+        QCOMPARE(report.size(), 2);
+        const QJsonObject before = report.first().toObject();
+        QCOMPARE(before.value(QStringLiteral("useSkin")), QJsonValue(true));
+        QCOMPARE(before.value(QStringLiteral("styles")), QJsonValue(QJsonArray()));
+        const QJsonObject skinned = report.last().toObject();
+        QCOMPARE(skinned.value(QStringLiteral("useSkin")), QJsonValue(true));
+        compareColours(skinned, {0, 1, 2});
+        QCOMPARE(skinned.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
+        QCOMPARE(skinned.value(QStringLiteral("styleSheet")).toString(),
+                 QString::fromUtf8(kStyleSheet));
+        const QJsonArray pictures = skinned.value(QStringLiteral("pictures")).toArray();
+        for (const char *name : {"plain", "plain@2x", "plain@3x", "suffixed.png", "more"})
+            QVERIFY2(pictures.contains(QLatin1String(name)), name);
+
+        // Without skinning only the style sheet is left out.
+        const QJsonObject plain =
+                runAndSeeLast({QStringLiteral("sheet=") + hostSheet, QStringLiteral("init=false")});
+        QCOMPARE(plain.value(QStringLiteral("useSkin")), QJsonValue(false));
+        QCOMPARE(plain.value(QStringLiteral("styleSheet")).toString(), hostSheet);
+        for (const char *same : {"styles", "palette", "pictures"})
+            QCOMPARE(plain.value(QLatin1String(same)), skinned.value(QLatin1String(same)));
+    }
+
+    void laterInitsOnlyStoreTheFlag()
+    {
+        for (const QString &first : ombrin::test::words("init=true init=false")) {
+            // Without the files nothing can be loaded again without showing.
+            const QJsonArray report =
+                    run({first, QStringLiteral("remove"), QStringLiteral("init=false"),
+                         QStringLiteral("init=true")});
+            QCOMPARE(report.size(), 4);
+            QJsonObject before = report.first().toObject();
+            QCOMPARE(report.at(2).toObject().value(QStringLiteral("useSkin")), QJsonValue(false));
+            QJsonObject after = report.last().toObject();
+            QCOMPARE(after.value(QStringLiteral("useSkin")), QJsonValue(true));
+            for (const char *flag : {"step", "useSkin"}) {
+                before.remove(QLatin1String(flag));
+                after.remove(QLatin1String(flag));
+            }
+            QCOMPARE(after, before);
+            QCOMPARE(after.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
+        }
+    }
+
+    void initBeforeTheApplicationDoesNotCount()
+    {
+        const QJsonArray report = run({QStringLiteral("init=false"), QStringLiteral("application"),
+                                       QStringLiteral("nothing"), QStringLiteral("init=true")});
+        QCOMPARE(report.size(), 2);
+        const QJsonObject before = report.first().toObject();
+        QCOMPARE(before.value(QStringLiteral("useSkin")), QJsonValue(false));
+        QCOMPARE(before.value(QStringLiteral("styles")), QJsonValue(QJsonArray()));
+        compareColours(report.last().toObject(), {0, 1, 2});
+    }
+
+    void sectionsMissingInThePaletteGiveInvalidColours()
+    {
+        write("default/Global_Palette.ini", paletteFile({0}));
+        compareColours(runAndSeeLast({QStringLiteral("init=true"), QStringLiteral("paint")}), {0});
+    }
+
+    void coloursAreReadAsQColorReadsThem()
+    {
+        const char *const examples[][3] = {
+                {"Window", "#f80", "#ff8800"},          {"Base", "ForestGreen", "#228b22"},
+                {"Text", "\"#123456\"", "#123456"},     {"Mid", "#111222333", "#112233"},
+                {"Dark", "#111122223333", "#112233"},   {"Link", "", "invalid"},
+                {"Light", "no colour", "invalid"},      {"Shadow", "1,2,3", "invalid"},
+                {"Highlight", "@Invalid()", "invalid"},
+        };
+        QByteArray file("[Active]\n");
+        for (const auto &[role, text, color] : examples)
+            file += QByteArray(role) + '=' + text + '\n';
+        write("default/Global_Palette.ini", file);
+        const QJsonObject palette = runAndSeeLast({QStringLiteral("init=true")})
+                                            .value(QStringLiteral("palette"))
+                                            .toObject();
+        for (const auto &[role, text, color] : examples)
+            QCOMPARE(palette.value(QStringLiteral("Active/") + QLatin1String(role)).toString(),
+                     QLatin1String(color));
+    }
+
+    void brokenSkinsStopNothing_data()
+    {
+        QTest::addColumn<QString>("damage");
+        for (const char *damage :
+             {"no skin", "empty files", "junk files", "folders for files", "cut resource files"})
+            QTest::newRow(damage) << QString::fromLatin1(damage);
+    }
+    void brokenSkinsStopNothing()
+    {
+        QFETCH(QString, damage);
+        constexpr const char *kFiles[] = {"default/Global_Palette.ini", "default/default.css",
+                                          "default/default.res", "ombrin.res"};
+        QByteArray junk;
+        for (int i = 0; i < 5000; ++i)
+            junk.append(static_cast<char>(i * i * 31 + i / 7));
+        for (const char *file : kFiles) {
+            if (damage == QLatin1String("empty files"))
+                write(file, QByteArray());
+            else if (damage == QLatin1String("junk files"))
+                write(file, QByteArray(file).endsWith(".res") ? "qres" + junk : junk);
+            else if (damage == QLatin1String("folders for files"))
+                makeFolder(file);
+        }
+        if (damage == QLatin1String("no skin"))
+            QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
+
+        const bool onlyResources = damage == QLatin1String("cut resource files");
+        if (onlyResources) {
+            const QByteArray whole = contentsOf(testData("pictures.res"));
+            write("default/default.res", whole.chopped(20));
+            write("ombrin.res", whole.left(whole.size() / 2));
+        }
+        const QJsonObject findings =
+                runAndSeeLast({QStringLiteral("init=true"), QStringLiteral("paint")});
+        compareColours(findings, onlyResources ? QVector<int>{0, 1, 2} : QVector<int>());
+        QCOMPARE(findings.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
+        QCOMPARE(findings.value(QStringLiteral("pictures")), QJsonValue(QJsonArray()));
+        if (damage != QLatin1String("junk files")) {
+            QCOMPARE(findings.value(QStringLiteral("styleSheet")).toString(),
+                     onlyResources ? QString::fromUtf8(kStyleSheet) : QString());
+        }
+    }
+
+    void cutResourceFilesAreRefused()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("skins/ombrin.res"));
+        QVERIFY(ombrin::isIntactResourceFile(path));
+        QFile file(path);
+        for (qint64 size = file.size() - 1; size >= 0; --size) {
+            QVERIFY(file.resize(size));
+            QVERIFY2(!ombrin::isIntactResourceFile(path), qPrintable(QString::number(size)));
+        }
+        QVERIFY(file.remove());
+        QVERIFY(!ombrin::isIntactResourceFile(path));
+    }
+
+    void resourceFilesPointingOutsideAreRefused_data()
+    {
+        QTest::addColumn<bool>(
+                "inTree"); // Counted from the tree of files, else from the beginning.
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QByteArray>("bytes");
+
+        const QByteArray huge("\x7f\xff\xff\xff", 4);
+        QTest::newRow("no resource file") << false << 0 << QByteArray("qser");
+        QTest::newRow("tree outside") << false << 8 << huge;
+        QTest::newRow("contents outside") << false << 12 << huge;
+        QTest::newRow("names outside") << false << 16 << huge;
+        QTest::newRow("too many files") << true << 6 << huge;
+        QTest::newRow("more files than there are nodes")
+                << true << 6 << QByteArray("\0\0\x01\0", 4);
+        QTest::newRow("first file outside") << true << 10 << huge;
+        QTest::newRow("folder within itself") << true << 10 << QByteArray(4, '\0');
+        QTest::newRow("name of a file outside") << true << 14 << huge;
+        QTest::newRow("contents of a file outside") << true << 14 + 10 << huge;
+    }
+    void resourceFilesPointingOutsideAreRefused()
+    {
+        QFETCH(bool, inTree);
+        QFETCH(int, offset);
+        QFETCH(QByteArray, bytes);
+        QByteArray whole = contentsOf(testData("pictures.res"));
+        const int tree = static_cast<int>(qFromBigEndian<quint32>(whole.constData() + 8));
+        whole.replace((inTree ? tree : 0) + offset, bytes.size(), bytes);
+        write("ombrin.res", whole);
+        QVERIFY(!ombrin::isIntactResourceFile(
+                m_folder.filePath(QStringLiteral("skins/ombrin.res"))));
+    }
 
 protected:
-    void setUp() override;
+    // A sound skin.
+    void setUp() override
+    {
+        QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
+        QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("skins/default")));
+        write("default/Global_Palette.ini", paletteFile({0, 1, 2}));
+        write("default/default.css", kStyleSheet);
+        write("default/default.res", contentsOf(testData("pictures.res")));
+        write("ombrin.res", contentsOf(testData("more_pictures.res")));
+    }
 
 private:
-    QJsonArray run(const QStringList &steps);
-    QJsonObject runAndSeeLast(const QStringList &steps);
-    void write(const char *name, const QByteArray &bytes) const;
-    void makeFolder(const char *name) const;
-    static void compareColours(const QJsonObject &findings, const QVector<int> &validGroups);
+    // Empty when the program did not come to its end.
+    QJsonArray run(const QStringList &steps)
+    {
+        const QString report = m_folder.filePath(QStringLiteral("report.json"));
+        QFile::remove(report);
+        QProcess process;
+        // On Windows the libraries lie beside the program this one was copied from.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        const QString variable = QStringLiteral("PATH");
+        environment.insert(variable,
+                           QDir::toNativeSeparators(QCoreApplication::applicationDirPath())
+                                   + QDir::listSeparator() + environment.value(variable));
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(m_probe, QStringList(report) + steps);
+        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit
+            || process.exitCode() != 0) {
+            qWarning("omskin_probe failed: %s\n%s", qPrintable(process.errorString()),
+                     process.readAll().constData());
+            return QJsonArray();
+        }
+        return QJsonDocument::fromJson(contentsOf(report)).array();
+    }
+
+    QJsonObject runAndSeeLast(const QStringList &steps)
+    {
+        return run(steps).last().toObject();
+    }
+
+    void write(const char *name, const QByteArray &bytes) const
+    {
+        QFile file(m_folder.filePath(QStringLiteral("skins/") + QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+
+    void makeFolder(const char *name) const
+    {
+        const QString path = m_folder.filePath(QStringLiteral("skins/") + QLatin1String(name));
+        QVERIFY(QFile::remove(path) && QDir().mkpath(path));
+    }
+
+    static void compareColours(const QJsonObject &findings, const QVector<int> &validGroups)
+    {
+        const QJsonObject palette = findings.value(QStringLiteral("palette")).toObject();
+        for (int group = 0; group < kGroupCount; ++group) {
+            for (int role = 0; role < kRoleCount; ++role) {
+                const QString key = QLatin1String(kGroups[group]) + QLatin1Char('/')
+                                    + QLatin1String(kRoles[role]);
+                QCOMPARE(key + palette.value(key).toString(),
+                         key
+                                 + (validGroups.contains(group) ? colorOf(group, role)
+                                                                : QStringLiteral("invalid")));
+            }
+        }
+    }
 
     QTemporaryDir m_folder;
     QString m_probe;
 };
-
-void tst_OmSkin::initTestCase()
-{
-#ifdef Q_OS_WIN
-    const QString program = QStringLiteral("omskin_probe.exe");
-#else
-    const QString program = QStringLiteral("omskin_probe");
-#endif
-    QVERIFY(m_folder.isValid());
-    m_probe = m_folder.filePath(program);
-    QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program,
-                        m_probe));
-}
-
-// A sound skin.
-void tst_OmSkin::setUp()
-{
-    QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
-    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("skins/default")));
-    write("default/Global_Palette.ini", paletteFile({0, 1, 2}));
-    write("default/default.css", kStyleSheet);
-    write("default/default.res", contentsOf(testData("pictures.res")));
-    write("ombrin.res", contentsOf(testData("more_pictures.res")));
-}
-
-void tst_OmSkin::write(const char *name, const QByteArray &bytes) const
-{
-    QFile file(m_folder.filePath(QStringLiteral("skins/") + QLatin1String(name)));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-void tst_OmSkin::makeFolder(const char *name) const
-{
-    const QString path = m_folder.filePath(QStringLiteral("skins/") + QLatin1String(name));
-    QVERIFY(QFile::remove(path) && QDir().mkpath(path));
-}
-
-// Empty when the program did not come to its end.
-QJsonArray tst_OmSkin::run(const QStringList &steps)
-{
-    const QString report = m_folder.filePath(QStringLiteral("report.json"));
-    QFile::remove(report);
-    QProcess process;
-    // On Windows the libraries lie beside the program this one was copied from.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QString variable = QStringLiteral("PATH");
-    environment.insert(variable, QDir::toNativeSeparators(QCoreApplication::applicationDirPath())
-                                         + QDir::listSeparator() + environment.value(variable));
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(m_probe, QStringList(report) + steps);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit
-        || process.exitCode() != 0) {
-        qWarning("omskin_probe failed: %s\n%s", qPrintable(process.errorString()),
-                 process.readAll().constData());
-        return QJsonArray();
-    }
-    return QJsonDocument::fromJson(contentsOf(report)).array();
-}
-
-QJsonObject tst_OmSkin::runAndSeeLast(const QStringList &steps)
-{
-    return run(steps).last().toObject();
-}
-
-void tst_OmSkin::compareColours(const QJsonObject &findings, const QVector<int> &validGroups)
-{
-    const QJsonObject palette = findings.value(QStringLiteral("palette")).toObject();
-    for (int group = 0; group < kGroupCount; ++group) {
-        for (int role = 0; role < kRoleCount; ++role) {
-            const QString key =
-                    QLatin1String(kGroups[group]) + QLatin1Char('/') + QLatin1String(kRoles[role]);
-            QCOMPARE(key + palette.value(key).toString(),
-                     key
-                             + (validGroups.contains(group) ? colorOf(group, role)
-                                                            : QStringLiteral("invalid")));
-        }
-    }
-}
-
-void tst_OmSkin::usesTheSkinUntilToldOtherwise()
-{
-    QVERIFY(ombrin::OmSkin::useSkin());
-    const QJsonObject findings = runAndSeeLast({QStringLiteral("nothing")});
-    QCOMPARE(findings.value(QStringLiteral("useSkin")), QJsonValue(true));
-    QCOMPARE(findings.value(QStringLiteral("styles")).toArray().size(), 0);
-    QCOMPARE(findings.value(QStringLiteral("pictures")).toArray().size(), 0);
-}
-
-void tst_OmSkin::firstInitInstallsEverything()
-{
-    const QJsonObject findings = runAndSeeLast({QStringLiteral("init=true")});
-    QCOMPARE(findings.value(QStringLiteral("useSkin")), QJsonValue(true));
-    compareColours(findings, {0, 1, 2});
-    QCOMPARE(findings.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
-    QCOMPARE(findings.value(QStringLiteral("styleSheet")).toString(),
-             QString::fromUtf8(kStyleSheet));
-    const QJsonArray pictures = findings.value(QStringLiteral("pictures")).toArray();
-    for (const char *name : {"plain", "plain@2x", "plain@3x", "suffixed.png", "more"})
-        QVERIFY2(pictures.contains(QLatin1String(name)), name);
-}
-
-void tst_OmSkin::withoutSkinningOnlyTheStyleSheetIsLeftOut()
-{
-    const QString hostSheet = QStringLiteral("QLabel { color: blue }");
-    const QJsonObject skinned =
-            runAndSeeLast({QStringLiteral("sheet=") + hostSheet, QStringLiteral("init=true")});
-    QCOMPARE(skinned.value(QStringLiteral("styleSheet")).toString(),
-             QString::fromUtf8(kStyleSheet));
-    QJsonObject plain =
-            runAndSeeLast({QStringLiteral("sheet=") + hostSheet, QStringLiteral("init=false")});
-    QCOMPARE(plain.value(QStringLiteral("useSkin")), QJsonValue(false));
-    QCOMPARE(plain.value(QStringLiteral("styleSheet")).toString(), hostSheet);
-    for (const char *same : {"styles", "palette", "pictures"})
-        QCOMPARE(plain.value(QLatin1String(same)), skinned.value(QLatin1String(same)));
-}
-
-void tst_OmSkin::laterInitsOnlyStoreTheFlag_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-    QTest::newRow("true true") << "true"
-                               << "true";
-    QTest::newRow("true false") << "true"
-                                << "false";
-    QTest::newRow("false true") << "false"
-                                << "true";
-    QTest::newRow("false false") << "false"
-                                 << "false";
-}
-
-void tst_OmSkin::laterInitsOnlyStoreTheFlag()
-{
-    QFETCH(QString, first);
-    QFETCH(QString, second);
-    // Without the files nothing can be loaded again without showing.
-    const QJsonArray report = run({QStringLiteral("init=") + first, QStringLiteral("remove"),
-                                   QStringLiteral("init=") + second});
-    QCOMPARE(report.size(), 3);
-    QJsonObject before = report.first().toObject();
-    QJsonObject after = report.last().toObject();
-    QCOMPARE(after.value(QStringLiteral("useSkin")).toBool(), second == QLatin1String("true"));
-    for (const char *flag : {"step", "useSkin"}) {
-        before.remove(QLatin1String(flag));
-        after.remove(QLatin1String(flag));
-    }
-    QCOMPARE(after, before);
-    QCOMPARE(after.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
-}
-
-void tst_OmSkin::initBeforeTheApplicationDoesNotCount()
-{
-    const QJsonArray report = run({QStringLiteral("init=false"), QStringLiteral("application"),
-                                   QStringLiteral("nothing"), QStringLiteral("init=true")});
-    QCOMPARE(report.size(), 2);
-    const QJsonObject before = report.first().toObject();
-    QCOMPARE(before.value(QStringLiteral("useSkin")), QJsonValue(false));
-    QCOMPARE(before.value(QStringLiteral("styles")), QJsonValue(QJsonArray()));
-    compareColours(report.last().toObject(), {0, 1, 2});
-}
-
-void tst_OmSkin::sectionsMissingInThePaletteGiveInvalidColours()
-{
-    write("default/Global_Palette.ini", paletteFile({0}));
-    compareColours(runAndSeeLast({QStringLiteral("init=true"), QStringLiteral("paint")}), {0});
-}
-
-void tst_OmSkin::coloursAreReadAsQColorReadsThem()
-{
-    write("default/Global_Palette.ini",
-          "[Active]\nWindow=#f80\nBase=ForestGreen\nText=\"#123456\"\n"
-          "Mid=#111222333\nDark=#111122223333\nLink=\n"
-          "Light=no colour\nShadow=1,2,3\nHighlight=@Invalid()\n");
-    const QJsonObject palette = runAndSeeLast({QStringLiteral("init=true")})
-                                        .value(QStringLiteral("palette"))
-                                        .toObject();
-    const std::pair<const char *, const char *> kExpected[] = {
-            {"Window", "#ff8800"}, {"Base", "#228b22"},   {"Text", "#123456"},
-            {"Mid", "#112233"},    {"Dark", "#112233"},   {"Link", "invalid"},
-            {"Light", "invalid"},  {"Shadow", "invalid"}, {"Highlight", "invalid"},
-            {"Button", "invalid"},
-    };
-    for (const auto &[role, color] : kExpected)
-        QCOMPARE(palette.value(QStringLiteral("Active/") + QLatin1String(role)).toString(),
-                 QLatin1String(color));
-}
-
-void tst_OmSkin::brokenSkinsStopNothing_data()
-{
-    QTest::addColumn<QString>("damage");
-    for (const char *damage :
-         {"no skin", "empty files", "junk files", "folders for files", "cut resource files"})
-        QTest::newRow(damage) << QString::fromLatin1(damage);
-}
-
-void tst_OmSkin::brokenSkinsStopNothing()
-{
-    QFETCH(QString, damage);
-    constexpr const char *kFiles[] = {"default/Global_Palette.ini", "default/default.css",
-                                      "default/default.res", "ombrin.res"};
-    QByteArray junk;
-    for (int i = 0; i < 5000; ++i)
-        junk.append(static_cast<char>(i * i * 31 + i / 7));
-    for (const char *file : kFiles) {
-        if (damage == QLatin1String("empty files"))
-            write(file, QByteArray());
-        else if (damage == QLatin1String("junk files"))
-            write(file, QByteArray(file).endsWith(".res") ? "qres" + junk : junk);
-        else if (damage == QLatin1String("folders for files"))
-            makeFolder(file);
-    }
-    if (damage == QLatin1String("no skin"))
-        QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
-
-    const bool onlyResources = damage == QLatin1String("cut resource files");
-    if (onlyResources) {
-        const QByteArray whole = contentsOf(testData("pictures.res"));
-        write("default/default.res", whole.chopped(20));
-        write("ombrin.res", whole.left(whole.size() / 2));
-    }
-    const QJsonObject findings =
-            runAndSeeLast({QStringLiteral("init=true"), QStringLiteral("paint")});
-    compareColours(findings, onlyResources ? QVector<int>{0, 1, 2} : QVector<int>());
-    QCOMPARE(findings.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
-    QCOMPARE(findings.value(QStringLiteral("pictures")), QJsonValue(QJsonArray()));
-    if (damage != QLatin1String("junk files")) {
-        QCOMPARE(findings.value(QStringLiteral("styleSheet")).toString(),
-                 onlyResources ? QString::fromUtf8(kStyleSheet) : QString());
-    }
-}
-
-void tst_OmSkin::cutResourceFilesAreRefused()
-{
-    const QString path = m_folder.filePath(QStringLiteral("skins/ombrin.res"));
-    QVERIFY(ombrin::isIntactResourceFile(path));
-    QFile file(path);
-    for (qint64 size = file.size() - 1; size >= 0; --size) {
-        QVERIFY(file.resize(size));
-        QVERIFY2(!ombrin::isIntactResourceFile(path), qPrintable(QString::number(size)));
-    }
-    QVERIFY(file.remove());
-    QVERIFY(!ombrin::isIntactResourceFile(path));
-}
-
-void tst_OmSkin::resourceFilesPointingOutsideAreRefused_data()
-{
-    QTest::addColumn<bool>("inTree"); // Counted from the tree of files, else from the beginning.
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<QByteArray>("bytes");
-
-    const QByteArray huge("\x7f\xff\xff\xff", 4);
-    QTest::newRow("no resource file") << false << 0 << QByteArray("qser");
-    QTest::newRow("tree outside") << false << 8 << huge;
-    QTest::newRow("contents outside") << false << 12 << huge;
-    QTest::newRow("names outside") << false << 16 << huge;
-    QTest::newRow("too many files") << true << 6 << huge;
-    QTest::newRow("more files than there are nodes") << true << 6 << QByteArray("\0\0\x01\0", 4);
-    QTest::newRow("first file outside") << true << 10 << huge;
-    QTest::newRow("folder within itself") << true << 10 << QByteArray(4, '\0');
-    QTest::newRow("name of a file outside") << true << 14 << huge;
-    QTest::newRow("contents of a file outside") << true << 14 + 10 << huge;
-}
-
-void tst_OmSkin::resourceFilesPointingOutsideAreRefused()
-{
-    QFETCH(bool, inTree);
-    QFETCH(int, offset);
-    QFETCH(QByteArray, bytes);
-    QByteArray whole = contentsOf(testData("pictures.res"));
-    const int tree = static_cast<int>(qFromBigEndian<quint32>(whole.constData() + 8));
-    whole.replace((inTree ? tree : 0) + offset, bytes.size(), bytes);
-    write("ombrin.res", whole);
-    QVERIFY(!ombrin::isIntactResourceFile(m_folder.filePath(QStringLiteral("skins/ombrin.res"))));
-}
 
 OMBRIN_TEST_MAIN(tst_OmSkin)
 #include "tst_omskin.moc"

@@ -131,28 +131,19 @@ private Q_SLOTS:
         row("first, selected, centred", true, false, Tab::Beginning, none, centre,
             {23, 24, 24, 24});
         row("first, centred", false, false, Tab::Beginning, none, centre, {21, 22, kNone, 22});
-        row("middle", false, false, Tab::Middle, none, left, {kNone, kNone, kNone, 22});
         row("middle before selected", false, false, Tab::Middle, next, left,
             {kNone, kNone, kNone, kNone});
         row("middle after selected", false, false, Tab::Middle, previous, left,
             {kNone, kNone, kNone, 22});
         row("middle, selected", true, false, Tab::Middle, none, left, {24, 24, 24, 24});
-        row("last", false, false, Tab::End, none, left, {kNone, kNone, kNone, 22});
-        row("last of a right bar", false, false, Tab::End, none, right, {kNone, kNone, kNone, 22});
-        row("last, selected", true, false, Tab::End, none, left, {24, 24, 24, 24});
         row("last of a right bar, selected", true, false, Tab::End, none, right, {24, 24, 26, 26});
         row("only, selected", true, false, Tab::OnlyOneTab, none, left, {25, 25, 24, 24});
         row("only of a right bar, selected", true, false, Tab::OnlyOneTab, none, right,
             {23, 24, 26, 26});
-        row("only", false, false, Tab::OnlyOneTab, next, left, {25, 22, kNone, 22});
         row("right to left: first, selected", true, true, Tab::Beginning, none, left,
             {23, 24, 26, 26});
-        row("right to left: first of a right bar", false, true, Tab::Beginning, none, right,
-            {25, 22, kNone, 22});
         row("right to left: before selected", false, true, Tab::Middle, previous, left,
             {kNone, kNone, kNone, kNone});
-        row("right to left: after selected", false, true, Tab::Middle, next, left,
-            {kNone, kNone, kNone, 22});
         row("right to left: last after selected", false, true, Tab::End, previous, right,
             {kNone, kNone, kNone, kNone});
     }

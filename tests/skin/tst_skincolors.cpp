@@ -44,99 +44,73 @@ class tst_SkinColors : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void titleTextIsReadable_data();
-    void titleTextIsReadable();
-    void paletteIsComplete();
-    void paletteTextIsReadable_data();
-    void paletteTextIsReadable();
-    void styleSheetIsValid();
+    void initTestCase()
+    {
+        QVERIFY(QResource::registerResource(skinFolder() + QStringLiteral("/default/default.res")));
+    }
+
+    void titleTextIsReadable()
+    {
+        for (const bool active : {true, false}) {
+            const QImage band(active ? QStringLiteral(":/top_center_active")
+                                     : QStringLiteral(":/top_center_inactive"));
+            QCOMPARE(band.height(), 30);
+            for (int y = 2; y < 29; ++y)
+                QVERIFY(contrast(band.pixel(0, y), active ? qRgb(0, 0, 0) : qRgb(255, 255, 255))
+                        >= 4.5);
+        }
+    }
+
+    void paletteIsComplete()
+    {
+        const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
+                                QSettings::IniFormat);
+        const QStringList keys = palette.allKeys();
+        QCOMPARE(keys.size(), 3 * 17);
+        for (const QString &key : keys)
+            QVERIFY2(QColor(palette.value(key).toString()).isValid(), qPrintable(key));
+    }
+
+    void paletteTextIsReadable()
+    {
+        constexpr const char *kPairs[][2] = {{"WindowText", "Window"},
+                                             {"Text", "Base"},
+                                             {"Text", "AlternateBase"},
+                                             {"Text", "Window"},
+                                             {"ButtonText", "Button"},
+                                             {"HighlightedText", "Highlight"},
+                                             {"BrightText", "Shadow"},
+                                             {"Link", "Window"},
+                                             {"Link", "Base"},
+                                             {"Link", "AlternateBase"},
+                                             {"LinkVisited", "Window"},
+                                             {"LinkVisited", "Base"},
+                                             {"LinkVisited", "AlternateBase"}};
+        const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
+                                QSettings::IniFormat);
+        for (const QString &group : ombrin::test::words("Active Disabled Inactive")) {
+            for (const auto &[text, ground] : kPairs) {
+                const double ratio = contrast(paletteColor(palette, group, QLatin1String(text)),
+                                              paletteColor(palette, group, QLatin1String(ground)));
+                QVERIFY2(ratio >= 4.5, qPrintable(group + QLatin1Char(' ') + QLatin1String(text)
+                                                  + QLatin1String(" on ") + QLatin1String(ground)));
+            }
+        }
+    }
+
+    void styleSheetIsValid()
+    {
+        QFile file(skinFolder() + QStringLiteral("/default/default.css"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString styleSheet = QString::fromUtf8(file.readAll());
+        QVERIFY(styleSheet.contains(QLatin1String("QToolTip")));
+
+        // Qt warns about a sheet that it cannot parse when the first widget is polished with it.
+        qApp->setStyleSheet(styleSheet);
+        QLabel().ensurePolished();
+        qApp->setStyleSheet(QString());
+    }
 };
-
-void tst_SkinColors::initTestCase()
-{
-    QVERIFY(QResource::registerResource(skinFolder() + QStringLiteral("/default/default.res")));
-}
-
-void tst_SkinColors::titleTextIsReadable_data()
-{
-    QTest::addColumn<QString>("band");
-    QTest::addColumn<QColor>("text");
-    QTest::newRow("active") << QStringLiteral("top_center_active") << QColor(Qt::black);
-    QTest::newRow("inactive") << QStringLiteral("top_center_inactive") << QColor(Qt::white);
-}
-
-void tst_SkinColors::titleTextIsReadable()
-{
-    QFETCH(QString, band);
-    QFETCH(QColor, text);
-    const QImage image(QStringLiteral(":/") + band);
-    QCOMPARE(image.height(), 30);
-    for (int y = 2; y < 29; ++y) {
-        const double ratio = contrast(image.pixel(0, y), text.rgb());
-        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("row %1: %2").arg(y).arg(ratio)));
-    }
-}
-
-void tst_SkinColors::paletteIsComplete()
-{
-    const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
-                            QSettings::IniFormat);
-    const QStringList keys = palette.allKeys();
-    QCOMPARE(keys.size(), 3 * 17);
-    for (const QString &key : keys)
-        QVERIFY2(QColor(palette.value(key).toString()).isValid(), qPrintable(key));
-}
-
-void tst_SkinColors::paletteTextIsReadable_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("ground");
-    const char *pairs[][2] = {{"WindowText", "Window"},
-                              {"Text", "Base"},
-                              {"Text", "AlternateBase"},
-                              {"Text", "Window"},
-                              {"ButtonText", "Button"},
-                              {"HighlightedText", "Highlight"},
-                              {"BrightText", "Shadow"},
-                              {"Link", "Window"},
-                              {"Link", "Base"},
-                              {"Link", "AlternateBase"},
-                              {"LinkVisited", "Window"},
-                              {"LinkVisited", "Base"},
-                              {"LinkVisited", "AlternateBase"}};
-    for (const auto &[text, ground] : pairs) {
-        QTest::addRow("%s on %s", text, ground)
-                << QString::fromLatin1(text) << QString::fromLatin1(ground);
-    }
-}
-
-void tst_SkinColors::paletteTextIsReadable()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, ground);
-    const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
-                            QSettings::IniFormat);
-    for (const char *name : {"Active", "Disabled", "Inactive"}) {
-        const QString group = QString::fromLatin1(name);
-        const double ratio =
-                contrast(paletteColor(palette, group, text), paletteColor(palette, group, ground));
-        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1: %2").arg(group).arg(ratio)));
-    }
-}
-
-void tst_SkinColors::styleSheetIsValid()
-{
-    QFile file(skinFolder() + QStringLiteral("/default/default.css"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString styleSheet = QString::fromUtf8(file.readAll());
-    QVERIFY(styleSheet.contains(QLatin1String("QToolTip")));
-
-    // Qt warns about a sheet that it cannot parse when the first widget is polished with it.
-    qApp->setStyleSheet(styleSheet);
-    QLabel().ensurePolished();
-    qApp->setStyleSheet(QString());
-}
 
 OMBRIN_TEST_MAIN(tst_SkinColors)
 #include "tst_skincolors.moc"

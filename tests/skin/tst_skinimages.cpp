@@ -1,6 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QResource>
 #include <QtGui/QColor>
 #include <QtGui/QImage>
@@ -81,8 +80,7 @@ constexpr Group widgetGroups[] = {
 QStringList namesOf(const Group &group)
 {
     QStringList names;
-    const QStringList words = QString::fromLatin1(group.words).split(QLatin1Char(' '));
-    for (const QString &word : words)
+    for (const QString &word : ombrin::test::words(group.words))
         names.append(QString::fromLatin1(group.pattern).arg(word));
     return names;
 }
@@ -172,297 +170,221 @@ class tst_SkinImages : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void everyPictureIsThereInEveryDensity_data();
-    void everyPictureIsThereInEveryDensity();
-    void filesHoldTheListedPicturesOnly();
-    void framePiecesMeetWithoutSeam_data();
-    void framePiecesMeetWithoutSeam();
-    void frameBorderFollowsTheCutCorners_data() { framePiecesMeetWithoutSeam_data(); }
-    void frameBorderFollowsTheCutCorners();
-    void titleButtonsKeepTheirShape();
-    void statesDiffer_data();
-    void statesDiffer();
-    void sliderIsPlainAlongTheBar();
-    void halfStarRegistersWithEmptyAndFullStar();
-    void countdownHasADarkAndALightEdge();
-    void placeholderIsAMarginAtEveryScale();
-};
-
-void tst_SkinImages::initTestCase()
-{
-    QVERIFY(QResource::registerResource(skinFile("default/default.res")));
-    QVERIFY(QResource::registerResource(skinFile("ombrin.res")));
-}
-
-void tst_SkinImages::everyPictureIsThereInEveryDensity_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("alpha");
-    forEachGroup([](const Group &group) {
-        const QStringList names = namesOf(group);
-        for (const QString &name : names) {
-            QTest::newRow(qPrintable(name))
-                    << name << QSize(group.width, group.height) << int(group.alpha);
-        }
-    });
-}
-
-void tst_SkinImages::everyPictureIsThereInEveryDensity()
-{
-    QFETCH(QString, name);
-    QFETCH(QSize, size);
-    QFETCH(int, alpha);
-    for (const int density : densities) {
-        const QImage image = load(name, density);
-        QCOMPARE(image.size(), size * density);
-        QVERIFY(!allAlphas(image, [](int value) { return value == 0; }));
-        QCOMPARE(allAlphas(image, [](int value) { return value == 255; }),
-                 Alpha(alpha) == Alpha::Opaque);
-        const int strength = qAlpha(image.pixel(image.rect().center()));
-        const bool isCut = allAlphas(image, [&](int a) { return a == 0 || a == strength; });
-        QVERIFY(isCut || Alpha(alpha) == Alpha::Free);
-    }
-}
-
-void tst_SkinImages::filesHoldTheListedPicturesOnly()
-{
-    const auto compare = [](const char *file, const auto &groups) {
-        QStringList expected;
-        for (const Group &group : groups) {
-            const QStringList names = namesOf(group);
-            for (const QString &name : names) {
-                for (const int density : densities)
-                    expected.append(densityName(name, density));
-            }
-        }
-        expected.sort();
-        const QString root = QStringLiteral("/alone");
-        QVERIFY(QResource::registerResource(skinFile(file), root));
-        QStringList found = QDir(QLatin1Char(':') + root).entryList();
-        QVERIFY(QResource::unregisterResource(skinFile(file), root));
-        found.sort();
-        QCOMPARE(found, expected);
-    };
-    compare("default/default.res", styleGroups);
-    compare("ombrin.res", widgetGroups);
-}
-
-void tst_SkinImages::framePiecesMeetWithoutSeam_data()
-{
-    QTest::addColumn<QString>("activation");
-    QTest::addColumn<int>("density");
-    for (const char *activation : {"active", "inactive"}) {
-        for (const int density : densities) {
-            QTest::addRow("%s@%d", activation, density)
-                    << QString::fromLatin1(activation) << density;
-        }
-    }
-}
-
-void tst_SkinImages::framePiecesMeetWithoutSeam()
-{
-    QFETCH(QString, activation);
-    QFETCH(int, density);
-    const auto piece = [&](const char *name) {
-        return load(QLatin1String(name) + QLatin1Char('_') + activation, density);
-    };
-    const auto column = [](const QImage &image, int x) {
-        return image.copy(x, 0, 1, image.height());
-    };
-    const int side = 5 * density;
-    const auto row = [side](const QImage &image, int y, int x = 0) {
-        return image.copy(x, y, side, 1);
-    };
-
-    // What is stretched looks the same all along.
-    const QImage top = piece("top_center");
-    const QImage bottom = piece("bottom_center");
-    for (int x = 1; x < top.width(); ++x) {
-        QCOMPARE(column(top, x), column(top, 0));
-        QCOMPARE(column(bottom, x), column(bottom, 0));
-    }
-    const QImage left = piece("left");
-    const QImage right = piece("right");
-    for (int y = 1; y < left.height(); ++y) {
-        QCOMPARE(row(left, y), row(left, 0));
-        QCOMPARE(row(right, y), row(right, 0));
-    }
-
-    // Its neighbours end as it begins.
-    const QImage topLeft = piece("top_left");
-    const QImage topRight = piece("top_right");
-    const QImage bottomLeft = piece("bottom_left");
-    const QImage bottomRight = piece("bottom_right");
-    QCOMPARE(column(topLeft, topLeft.width() - 1), column(top, 0));
-    QCOMPARE(column(topRight, 0), column(top, 0));
-    QCOMPARE(column(bottomLeft, side - 1), column(bottom, 0));
-    QCOMPARE(column(bottomRight, 0), column(bottom, 0));
-    QCOMPARE(row(topLeft, topLeft.height() - 1), row(left, 0));
-    QCOMPARE(row(topRight, topRight.height() - 1, topRight.width() - side), row(right, 0));
-    QCOMPARE(row(bottomLeft, 0), row(left, 0));
-    QCOMPARE(row(bottomRight, 0), row(right, 0));
-}
-
-void tst_SkinImages::frameBorderFollowsTheCutCorners()
-{
-    QFETCH(QString, activation);
-    QFETCH(int, density);
-    const struct
+    void initTestCase()
     {
-        const char *piece;
-        bool right;
-        bool bottom;
-    } corners[] = {{"top_left_", false, false},
-                   {"top_right_", true, false},
-                   {"bottom_left_", false, true},
-                   {"bottom_right_", true, true}};
-    const QRgb border = load(QStringLiteral("top_center_") + activation).pixel(0, 0);
-    for (const auto &corner : corners) {
-        const QImage image = load(QLatin1String(corner.piece) + activation, density)
-                                     .mirrored(corner.right, corner.bottom);
-        // The window's mask takes these away; without a mask they must not show either.
-        for (const QPoint &cut : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1)})
-            QCOMPARE(qAlpha(image.pixel(cut * density)), 0);
-        for (const QPoint &edge : {QPoint(2, 0), QPoint(1, 1), QPoint(0, 2), QPoint(0, 3)})
-            QCOMPARE(image.pixel(edge * density), border);
-        QVERIFY(image.pixel(QPoint(2, 2) * density) != border);
+        QVERIFY(QResource::registerResource(skinFile("default/default.res")));
+        QVERIFY(QResource::registerResource(skinFile("ombrin.res")));
     }
-}
 
-void tst_SkinImages::titleButtonsKeepTheirShape()
-{
-    for (const char *pattern : {"minimize_%1", "maximize_%1", "restore_%1", "close_%1"}) {
-        const QStringList names = namesOf({pattern, buttonStates, 24, 20, Alpha::Cut});
-        for (const int density : densities) {
-            const QImage mask = load(names.first(), density);
-            QVERIFY(allAlphas(mask, [](int alpha) { return alpha == 0 || alpha == 255; }));
-            for (const QString &name : names) {
-                const QImage state = load(name, density);
-                const auto isSame = [&](int x, int y) {
-                    return (qAlpha(state.pixel(x, y)) > 0) == (qAlpha(mask.pixel(x, y)) > 0);
-                };
-                QVERIFY2(allPixels(state, isSame), qPrintable(name));
+    void everyPictureIsThereInEveryDensity()
+    {
+        forEachGroup([](const Group &group) {
+            for (const QString &name : namesOf(group)) {
+                for (const int density : densities) {
+                    const QImage image = load(name, density);
+                    const QByteArray where = densityName(name, density).toLatin1();
+                    QVERIFY2(image.size() == QSize(group.width, group.height) * density, where);
+                    const int strength = qAlpha(image.pixel(image.rect().center()));
+                    const bool isCut =
+                            allAlphas(image, [&](int a) { return a == 0 || a == strength; });
+                    const bool isOpaque = allAlphas(image, [](int a) { return a == 255; });
+                    const bool isThere = !allAlphas(image, [](int a) { return a == 0; });
+                    QVERIFY2(isThere && (isCut || group.alpha == Alpha::Free), where);
+                    QVERIFY2(isOpaque == (group.alpha == Alpha::Opaque), where);
+                }
+            }
+        });
+    }
+
+    void framePiecesMeetWithoutSeam_data()
+    {
+        QTest::addColumn<QString>("activation");
+        QTest::addColumn<int>("density");
+        for (const char *activation : {"active", "inactive"}) {
+            for (const int density : densities) {
+                QTest::addRow("%s@%d", activation, density)
+                        << QString::fromLatin1(activation) << density;
             }
         }
     }
-}
-
-void tst_SkinImages::statesDiffer_data()
-{
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QColor>("ground");
-    forEachGroup([](const Group &group) {
-        const QStringList names = namesOf(group);
-        const QColor window(0xefeff0);
-        if (group.words == buttonStates) {
-            QTest::newRow(qPrintable(names.first()))
-                    << QStringList(names.mid(0, 4)) << QColor(0xeceef1);
-            QTest::newRow(qPrintable(names.last()))
-                    << QStringList(names.mid(4)) << QColor(0x6b727b);
-        } else if (names.size() > 1) {
-            QTest::newRow(qPrintable(names.first())) << names << window;
-        }
-    });
-}
-
-void tst_SkinImages::statesDiffer()
-{
-    QFETCH(QStringList, names);
-    QFETCH(QColor, ground);
-    for (int i = 0; i < names.size(); ++i) {
-        const QImage image = load(names.at(i));
-        // A sixteenth of the picture, or the strokes of a small sign.
-        const int least = qBound(8, image.width() * image.height() / 16, 300);
-        for (int j = 0; j < i; ++j) {
-            const int count = differingPixels(image, load(names.at(j)), ground);
-            QVERIFY2(count >= least,
-                     qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
-                                        .arg(names.at(i), names.at(j), QString::number(count))));
-        }
-    }
-}
-
-void tst_SkinImages::sliderIsPlainAlongTheBar()
-{
-    for (const char *state : {"normal", "hover"}) {
-        const QString name = QStringLiteral("scrollbar_%1_trackbar_%2");
-        const QImage lying = load(name.arg(QStringLiteral("horizontal"), QLatin1String(state)));
-        const QImage standing = load(name.arg(QStringLiteral("vertical"), QLatin1String(state)));
-        QVERIFY(allPixels(lying, [&](int x, int y) {
-            return lying.pixel(x, y) == lying.pixel(0, y)
-                   && standing.pixel(y, x) == lying.pixel(x, y);
-        }));
-    }
-}
-
-void tst_SkinImages::halfStarRegistersWithEmptyAndFullStar()
-{
-    for (const int density : densities) {
-        const auto star = [density](const char *kind) {
-            return load(QStringLiteral("star_%1-32").arg(QLatin1String(kind)), density);
+    void framePiecesMeetWithoutSeam()
+    {
+        QFETCH(QString, activation);
+        QFETCH(int, density);
+        const auto piece = [&](const char *name) {
+            return load(QLatin1String(name) + QLatin1Char('_') + activation, density);
         };
-        // Laid over the empty star at rest, standing by itself under the mouse.
+        const auto column = [](const QImage &image, int x) {
+            return image.copy(x, 0, 1, image.height());
+        };
+        const int side = 5 * density;
+        const auto row = [side](const QImage &image, int y, int x = 0) {
+            return image.copy(x, y, side, 1);
+        };
+
+        // What is stretched looks the same all along.
+        const QImage top = piece("top_center");
+        const QImage bottom = piece("bottom_center");
+        const QImage left = piece("left");
+        const QImage right = piece("right");
+        for (int x = 1; x < top.width(); ++x)
+            QVERIFY(column(top, x) == column(top, 0) && column(bottom, x) == column(bottom, 0));
+        for (int y = 1; y < left.height(); ++y)
+            QVERIFY(row(left, y) == row(left, 0) && row(right, y) == row(right, 0));
+
+        // Its neighbours end as it begins.
+        const QImage topLeft = piece("top_left");
+        const QImage topRight = piece("top_right");
+        const QImage bottomLeft = piece("bottom_left");
+        const QImage bottomRight = piece("bottom_right");
+        QCOMPARE(column(topLeft, topLeft.width() - 1), column(top, 0));
+        QCOMPARE(column(topRight, 0), column(top, 0));
+        QCOMPARE(column(bottomLeft, side - 1), column(bottom, 0));
+        QCOMPARE(column(bottomRight, 0), column(bottom, 0));
+        QCOMPARE(row(topLeft, topLeft.height() - 1), row(left, 0));
+        QCOMPARE(row(topRight, topRight.height() - 1, topRight.width() - side), row(right, 0));
+        QCOMPARE(row(bottomLeft, 0), row(left, 0));
+        QCOMPARE(row(bottomRight, 0), row(right, 0));
+    }
+    void frameBorderFollowsTheCutCorners_data() { framePiecesMeetWithoutSeam_data(); }
+
+    void frameBorderFollowsTheCutCorners()
+    {
+        QFETCH(QString, activation);
+        QFETCH(int, density);
         const struct
         {
-            QImage half;
-            QImage empty;
-            QImage full;
-        } sets[] = {{over(star("half"), star("empty")), star("empty"), star("full")},
-                    {star("half_hover"), star("empty_hover"), star("full_hover")}};
-        for (const auto &set : sets) {
-            QVERIFY(allPixels(set.half, [&](int x, int y) {
-                const QRgb half = set.half.pixel(x, y);
-                const QRgb full = set.full.pixel(x, y);
-                if (qAlpha(full) != qAlpha(set.empty.pixel(x, y)))
-                    return false;
-                if (x >= set.half.width() / 2)
-                    return isAlike(half, set.empty.pixel(x, y));
-                return qAlpha(full) < 255 || isAlike(half, full);
-            }));
+            const char *piece;
+            bool right;
+            bool bottom;
+        } corners[] = {{"top_left_", false, false},
+                       {"top_right_", true, false},
+                       {"bottom_left_", false, true},
+                       {"bottom_right_", true, true}};
+        const QRgb border = load(QStringLiteral("top_center_") + activation).pixel(0, 0);
+        for (const auto &corner : corners) {
+            const QImage image = load(QLatin1String(corner.piece) + activation, density)
+                                         .mirrored(corner.right, corner.bottom);
+            // The window's mask takes these away; without a mask they must not show either.
+            for (const QPoint &cut : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1)})
+                QCOMPARE(qAlpha(image.pixel(cut * density)), 0);
+            for (const QPoint &edge : {QPoint(2, 0), QPoint(1, 1), QPoint(0, 2), QPoint(0, 3)})
+                QCOMPARE(image.pixel(edge * density), border);
+            QVERIFY(image.pixel(QPoint(2, 2) * density) != border);
         }
     }
-}
 
-void tst_SkinImages::countdownHasADarkAndALightEdge()
-{
-    // These stand alone on the desktop, cut out along their alpha and drawn without it: a soft or
-    // a light outermost edge would end in ragged steps.
-    const QStringList names = namesOf({"countdown-%1-128.png", seconds, 128, 128, Alpha::Free})
-                              + namesOf({"countdown-snap%1-64.png", "", 64, 64, Alpha::Free});
-    for (const QString &name : names) {
+    void titleButtonsKeepTheirShape()
+    {
+        for (const char *pattern : {"minimize_%1", "maximize_%1", "restore_%1", "close_%1"}) {
+            const QStringList names = namesOf({pattern, buttonStates, 24, 20, Alpha::Cut});
+            for (const int density : densities) {
+                const QImage mask = load(names.first(), density);
+                for (const QString &name : names) {
+                    const QImage state = load(name, density);
+                    const auto isSame = [&](int x, int y) {
+                        return (qAlpha(state.pixel(x, y)) > 0) == (qAlpha(mask.pixel(x, y)) > 0);
+                    };
+                    QVERIFY2(allPixels(state, isSame), qPrintable(name));
+                }
+            }
+        }
+    }
+
+    void statesDiffer()
+    {
+        const auto compare = [](const QStringList &names, const QColor &ground) {
+            for (int i = 0; i < names.size(); ++i) {
+                const QImage image = load(names.at(i));
+                // A sixteenth of the picture, or the strokes of a small sign.
+                const int least = qBound(8, image.width() * image.height() / 16, 300);
+                for (int j = 0; j < i; ++j) {
+                    const int count = differingPixels(image, load(names.at(j)), ground);
+                    QVERIFY2(count >= least,
+                             qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
+                                                .arg(names.at(i), names.at(j),
+                                                     QString::number(count))));
+                }
+            }
+        };
+        forEachGroup([&compare](const Group &group) {
+            const QStringList names = namesOf(group);
+            if (group.words == buttonStates) {
+                compare(names.mid(0, 4), QColor(0xeceef1));
+                compare(names.mid(4), QColor(0x6b727b));
+            } else {
+                compare(names, QColor(0xefeff0));
+            }
+        });
+    }
+
+    void halfStarRegistersWithEmptyAndFullStar()
+    {
         for (const int density : densities) {
-            const QImage image = load(name, density);
-            const int middle = image.height() / 2;
-            QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
-            QCOMPARE(qAlpha(image.pixel(middle, middle)), 255);
-            QVERIFY(allPixels(image, [&](int x, int y) {
-                const QRgb pixel = image.pixel(x, y);
-                return qAlpha(pixel) == 0 || qAlpha(pixel) == 255 || qGray(pixel) < 64;
-            }));
-            const QRgb light = image.pixel(4 * density, middle);
-            QVERIFY(qGray(light) > 200 && qAlpha(light) == 255);
+            const auto star = [density](const char *kind) {
+                return load(QStringLiteral("star_%1-32").arg(QLatin1String(kind)), density);
+            };
+            // Laid over the empty star at rest, standing by itself under the mouse.
+            const struct
+            {
+                QImage half;
+                QImage empty;
+                QImage full;
+            } sets[] = {{over(star("half"), star("empty")), star("empty"), star("full")},
+                        {star("half_hover"), star("empty_hover"), star("full_hover")}};
+            for (const auto &set : sets) {
+                QVERIFY(allPixels(set.half, [&](int x, int y) {
+                    const QRgb half = set.half.pixel(x, y);
+                    const QRgb full = set.full.pixel(x, y);
+                    if (qAlpha(full) != qAlpha(set.empty.pixel(x, y)))
+                        return false;
+                    if (x >= set.half.width() / 2)
+                        return isAlike(half, set.empty.pixel(x, y));
+                    return qAlpha(full) < 255 || isAlike(half, full);
+                }));
+            }
         }
     }
-}
 
-void tst_SkinImages::placeholderIsAMarginAtEveryScale()
-{
-    // A picture drawn over it leaves two pixels all round: an even, quiet grey line.
-    const QImage placeholder = load(QStringLiteral("no_userpic-78"));
-    for (const int side : {28, 46, 74, 78}) {
-        const QImage scaled =
-                placeholder.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        const QRgb line = scaled.pixel(side / 2, 0);
-        QVERIFY(qGray(line) >= 180 && qGray(line) <= 225);
-        for (int i = 2; i < side - 2; ++i) {
-            for (const QRgb pixel : {scaled.pixel(i, 0), scaled.pixel(i, side - 1),
-                                     scaled.pixel(0, i), scaled.pixel(side - 1, i)})
-                QVERIFY(std::abs(qGray(pixel) - qGray(line)) <= 4);
+    void countdownHasADarkAndALightEdge()
+    {
+        // These stand alone on the desktop, cut out along their alpha and drawn without it: a soft
+        // or a light outermost edge would end in ragged steps.
+        const QStringList names = namesOf({"countdown-%1-128.png", seconds, 128, 128, Alpha::Free})
+                                  + namesOf({"countdown-snap%1-64.png", "", 64, 64, Alpha::Free});
+        for (const QString &name : names) {
+            for (const int density : densities) {
+                const QImage image = load(name, density);
+                const int middle = image.height() / 2;
+                QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+                QCOMPARE(qAlpha(image.pixel(middle, middle)), 255);
+                QVERIFY(allPixels(image, [&](int x, int y) {
+                    const QRgb pixel = image.pixel(x, y);
+                    return qAlpha(pixel) == 0 || qAlpha(pixel) == 255 || qGray(pixel) < 64;
+                }));
+                const QRgb light = image.pixel(4 * density, middle);
+                QVERIFY(qGray(light) > 200 && qAlpha(light) == 255);
+            }
         }
     }
-}
+
+    void placeholderIsAMarginAtEveryScale()
+    {
+        // A picture drawn over it leaves two pixels all round: an even, quiet grey line.
+        const QImage placeholder = load(QStringLiteral("no_userpic-78"));
+        for (const int side : {28, 46, 74, 78}) {
+            const QImage scaled =
+                    placeholder.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            const QRgb line = scaled.pixel(side / 2, 0);
+            QVERIFY(qGray(line) >= 180 && qGray(line) <= 225);
+            for (int i = 2; i < side - 2; ++i) {
+                for (const QRgb pixel : {scaled.pixel(i, 0), scaled.pixel(i, side - 1),
+                                         scaled.pixel(0, i), scaled.pixel(side - 1, i)})
+                    QVERIFY(std::abs(qGray(pixel) - qGray(line)) <= 4);
+            }
+        }
+    }
+};
 
 OMBRIN_TEST_MAIN(tst_SkinImages)
 #include "tst_skinimages.moc"

@@ -182,6 +182,8 @@ qint64 apply(int operation, quint32 chance, L &list, L &other)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(Watched &)>)
+
 class tst_COmMonitoredList : public ombrin::test::TestCase
 {
     Q_OBJECT
@@ -586,8 +588,6 @@ private Q_SLOTS:
             QCOMPARE(letters(result), QStringLiteral("obcdefgh"));
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(Watched &)>)
 
 OMBRIN_TEST_MAIN(tst_COmMonitoredList)
 #include "tst_commonitoredlist.moc"

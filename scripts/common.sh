@@ -10,7 +10,7 @@ die() { printf '%s\n' "$*" >&2; exit 1; }
 packages_build=(
   g++ cmake ninja-build pkg-config librsvg2-bin
   qtbase5-dev qtbase5-dev-tools qt5-style-plugins
-  fonts-dejavu-core
+  fonts-dejavu-core fonts-droid-fallback
   libhunspell-dev hunspell-en-us hunspell-de-de
 )
 # What the tests need beyond that.

@@ -179,6 +179,57 @@
     </message>
 </context>
 <context>
+    <name>ombrin::OmTextBrowser</name>
+    <message>
+        <source>Open %1 in your web browser.</source>
+        <translation>%1 im Webbrowser öffnen.</translation>
+    </message>
+    <message>
+        <source>Write e-mail to %1.</source>
+        <translation>E-Mail an %1 schreiben.</translation>
+    </message>
+    <message>
+        <source>Call %1 with ombrin Phone.</source>
+        <translation>%1 mit ombrin Phone anrufen.</translation>
+    </message>
+    <message>
+        <source>Play Push Message</source>
+        <translation>Push-Nachricht abspielen</translation>
+    </message>
+    <message>
+        <source>Save Push Message as...</source>
+        <translation>Push-Nachricht speichern unter...</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Linkadresse kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Add Smiley</source>
+        <translation>Smiley hinzufügen</translation>
+    </message>
+    <message>
+        <source>Save Image as...</source>
+        <translation>Bild speichern unter...</translation>
+    </message>
+    <message>
+        <source>Save Smiley as...</source>
+        <translation>Smiley speichern unter...</translation>
+    </message>
+    <message>
+        <source>Joint Photographic Experts Group</source>
+        <translation>Joint Photographic Experts Group</translation>
+    </message>
+</context>
+<context>
     <name>ombrin::OmWindow</name>
     <message>
         <source>Minimize</source>

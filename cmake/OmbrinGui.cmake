@@ -1,5 +1,7 @@
 # The widget library. Its folders add their sources themselves; the order below is the order in
-# which they may include each other: a folder includes only what stands above it.
+# which they may include each other: a folder includes only what stands above it, and two leaves
+# that lie further down. windows/OmDesktop uses nothing but platform/, and effects/OmBalloonTip,
+# as which the buttons in widgets/ show their tool tips, nothing but OmDesktop and its own pieces.
 ombrin_add_library(ombrin_gui gui ombringui OMBRIN_BUILD_GUI)
 target_link_libraries(ombrin_gui
   PUBLIC

@@ -1,5 +1,7 @@
 #pragma once
 
+class QBoxLayout;
+class QVBoxLayout;
 class QWidget;
 
 /// \file
@@ -16,5 +18,10 @@ QWidget *createContainersPanel();
 
 /// Gives \a page three cards with the panel that \a create makes: normal, disabled, right to left.
 void showInThreeStates(QWidget *page, QWidget *(*create)());
+
+/// A row of controls.
+QBoxLayout *controlRow();
+/// The column, \a spacing pixels between its parts, that fills \a panel.
+QVBoxLayout *panelColumn(QWidget *panel, int spacing);
 
 } // namespace gallery

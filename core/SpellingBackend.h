@@ -40,7 +40,7 @@ using SpellingBackendFactory =
         std::function<std::unique_ptr<SpellingBackend>(const SpellingFiles &)>;
 
 /// What loads dictionaries; empty in builds without Hunspell.
-SpellingBackendFactory spellingBackendFactory();
+OMBRIN_CORE_AUTOTEST_EXPORT SpellingBackendFactory spellingBackendFactory();
 /// Loads all dictionaries through \a factory from now on, for tests. Choose no dictionary first.
 OMBRIN_CORE_AUTOTEST_EXPORT void setSpellingBackendFactory(const SpellingBackendFactory &factory);
 

@@ -24,10 +24,14 @@ namespace {
 constexpr QStringView kSeparators(u" *?/>.<,\"':;|\\}]{[+=_-)(@!~`");
 static_assert(kSeparators.size() == 28);
 
+bool isSeparator(QChar c)
+{
+    return kSeparators.contains(c);
+}
+
 QString withoutSeparators(QString text)
 {
-    const auto end = std::remove_if(text.begin(), text.end(),
-                                    [](QChar c) { return kSeparators.contains(c); });
+    const auto end = std::remove_if(text.begin(), text.end(), isSeparator);
     text.truncate(static_cast<int>(end - text.begin()));
     return text;
 }
@@ -63,7 +67,7 @@ void OmTextEdit::setSpellChecking(bool on)
             Qt::UniqueConnection);
     spelling->setEnabled(on);
     m_syntax->setSpellChecking(on);
-    m_syntax->rehighlight();
+    rehighlight();
 }
 
 bool OmTextEdit::useSpellChecking() const
@@ -75,7 +79,7 @@ void OmTextEdit::setRegardCase(bool on)
 {
     m_regardCase = on;
     OmSpelling::instance()->setRegardCase(on);
-    m_syntax->rehighlight();
+    rehighlight();
 }
 
 bool OmTextEdit::useRegardCase() const
@@ -117,6 +121,13 @@ void OmTextEdit::slotTextChanged()
 
 void OmTextEdit::slotContentChange(int, int, int) {}
 
+// A changed underline is a changed text to Qt, but no reason to check the word before the cursor.
+void OmTextEdit::rehighlight()
+{
+    const QScopedValueRollback<bool> guard(m_isChecking, true);
+    m_syntax->rehighlight();
+}
+
 bool OmTextEdit::endsInWordEnd() const
 {
     // The last character is the end of the last paragraph.
@@ -127,6 +138,7 @@ bool OmTextEdit::endsInWordEnd() const
     return isWordEnd(c) || c == QChar(QChar::Nbsp);
 }
 
+// Qt takes a run of punctuation for a word: the search begins at the last letter before it.
 QString OmTextEdit::wordBeforeCursor() const
 {
     QTextCursor cursor = textCursor();
@@ -134,8 +146,13 @@ QString OmTextEdit::wordBeforeCursor() const
     if (isComposing || cursor.position() == 0)
         return QString();
     cursor.setPosition(cursor.position() - 1);
-    if (!cursor.movePosition(QTextCursor::StartOfWord))
+    const QString paragraph = cursor.block().text();
+    int letter = cursor.positionInBlock() - 1;
+    while (letter >= 0 && isSeparator(paragraph.at(letter)))
+        --letter;
+    if (letter < 0)
         return QString();
+    cursor.setPosition(cursor.block().position() + letter);
     cursor.select(QTextCursor::WordUnderCursor);
     return withoutSeparators(cursor.selectedText());
 }
@@ -148,6 +165,7 @@ void OmTextEdit::setMisspelled(const QString &word, bool on)
         m_syntax->addMisspelledWord(word);
     else
         m_syntax->removeMisspelledWord(word);
+    const QScopedValueRollback<bool> guard(m_isChecking, true);
     m_syntax->rehighlightWord(word);
 }
 

@@ -30,8 +30,8 @@ class OmTextEditSyntax;
 /// All text edits share OmSpelling, and with it the dictionary, regard of case and whether anything
 /// is checked. Without a dictionary no word is misspelt.
 ///
-/// The text edit may be deleted in a slot of resize() and while a context menu is open; elsewhere
-/// use deleteLater().
+/// The text edit may be deleted while its context menu is open; in slots of its signals use
+/// deleteLater().
 class OMBRIN_GUI_EXPORT OmTextEdit : public QTextEdit
 {
     Q_OBJECT
@@ -84,6 +84,7 @@ private Q_SLOTS:
     void slotContentChange(int pos, int removed, int added);
 
 private:
+    void rehighlight();
     bool endsInWordEnd() const;
     QString wordBeforeCursor() const;
     void setMisspelled(const QString &word, bool on);

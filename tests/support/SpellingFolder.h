@@ -54,6 +54,7 @@ public:
     SpellingFolder() { qputenv("DICPATH", m_folder.path().toLocal8Bit()); }
     ~SpellingFolder()
     {
+        OmSpelling::instance()->sync();
         OmSpelling::instance()->setDict(QString());
         OmSpelling::instance()->setEnabled(true);
         OmSpelling::instance()->setRegardCase(false);
@@ -78,7 +79,13 @@ public:
               QByteArray::number(words.size()) + '\n' + words.join('\n') + '\n');
     }
 
-    /// Has the folder's dictionaries read as plain lists until the program ends.
+    /// Has dictionaries read as plain lists in builds without Hunspell.
+    static void needBackend()
+    {
+        if (!spellingBackendFactory())
+            useWordLists();
+    }
+    /// Has dictionaries read as plain lists.
     static void useWordLists()
     {
         setSpellingBackendFactory([](const SpellingFiles &files) {

@@ -1,5 +1,7 @@
 #include "contacts/ContactColumn.h"
 
+#include "contacts/ColumnLayout.h"
+
 #include <QtCore/QChildEvent>
 
 #include <utility>
@@ -8,7 +10,15 @@ namespace ombrin {
 
 ContactColumn::ContactColumn(ForgetChild forget)
     : m_forget(std::move(forget))
+    , m_layout(new ColumnLayout(this))
 {}
+
+bool ContactColumn::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest && m_layout->moveCards())
+        updateGeometry();
+    return QWidget::event(event);
+}
 
 void ContactColumn::childEvent(QChildEvent *event)
 {

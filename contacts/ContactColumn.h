@@ -6,7 +6,9 @@
 
 namespace ombrin {
 
-/// The widget in which the cards of a contact card list stand.
+class ColumnLayout;
+
+/// The widget in which the cards of a contact card list stand, in a ColumnLayout.
 class ContactColumn : public QWidget
 {
     Q_OBJECT
@@ -19,10 +21,12 @@ public:
     explicit ContactColumn(ForgetChild forget);
 
 protected:
+    bool event(QEvent *event) override;
     void childEvent(QChildEvent *event) override;
 
 private:
     ForgetChild m_forget;
+    ColumnLayout *m_layout;
 };
 
 } // namespace ombrin

@@ -1,5 +1,6 @@
 #include <ombrin/OmContactCard.h>
 
+#include "contacts/CardLayout.h"
 #include "contacts/OmContactCardAccessible.h"
 
 #include <ombrin/OmAvatarSmall.h>
@@ -120,14 +121,7 @@ void OmContactCard::setBig(bool big)
     if (m_big == big)
         return;
     m_big = big;
-    if (big) {
-        createFace();
-        createTools();
-        fillToolBar();
-    }
-    m_toolBar->setVisible(big);
-    resizeParts();
-    m_avatar->setAvatar(m_avatar->avatar(), false);
+    changeSize();
     announceContactSelection(this);
 }
 
@@ -271,6 +265,10 @@ void OmContactCard::changeEvent(QEvent *event)
         showStatus();
     }
     QGroupBox::changeEvent(event);
+    const bool isOfLook =
+            event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    if (isOfLook && m_layout)
+        m_layout->layOut();
 }
 
 void OmContactCard::restartTimer(int *timerId, bool run)

@@ -1,11 +1,12 @@
 #include <ombrin/OmContactCardList.h>
 
 #include "contacts/AddContactBar.h"
+#include "contacts/ColumnLayout.h"
 #include "contacts/ContactColumn.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
-#include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -24,7 +25,7 @@ OmContactCardList::OmContactCardList(QWidget *parent)
     : QScrollArea(parent)
 {
     auto *column = new ContactColumn([this](const QObject *child) { forget(child); });
-    m_layout = new QVBoxLayout(column);
+    m_layout = static_cast<ColumnLayout *>(column->layout());
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     setWidget(column);
@@ -50,6 +51,8 @@ void OmContactCardList::addCard(OmContactCard *card)
     connect(card, &OmContactCard::clicked, this, &OmContactCardList::slotClicked);
     connect(card, &OmContactCard::actionId, this, &OmContactCardList::slotAction);
     m_cards.append(card);
+    if (card->isBig())
+        m_layout->noteBig(card);
     Q_EMIT added(card);
 }
 
@@ -134,27 +137,29 @@ void OmContactCardList::forget(const QObject *card)
     disconnect(card, nullptr, this, nullptr);
 }
 
+// Asks the layout: most cards are small already, and nothing is to be done for those.
 void OmContactCardList::makeOnlyBig(OmContactCard *card)
 {
-    for (OmContactCard *other : std::as_const(m_cards)) {
-        // Most are small already, and nothing is to be done for those.
-        if (other != card && other->isBig())
+    const auto bigCards = m_layout->bigCards();
+    for (const QPointer<QWidget> &big : bigCards) {
+        auto *const other = qobject_cast<OmContactCard *>(big);
+        if (other && other != card && other->isBig() && other->parentWidget() == widget())
             other->setBig(false);
     }
     card->setBig(true);
     scrollTo(card);
 }
 
-// Once the layout has made room for the card.
+// Once there is room for the card.
 void OmContactCardList::scrollTo(OmContactCard *card)
 {
-    QMetaObject::invokeMethod(
-            this,
-            [this, guard = QPointer<OmContactCard>(card)] {
-                if (guard && guard->isBig())
-                    ensureWidgetVisible(guard, 0, 0);
-            },
-            Qt::QueuedConnection);
+    const auto scroll = [this, guard = QPointer<OmContactCard>(card)] {
+        QCoreApplication::sendPostedEvents(widget(), QEvent::LayoutRequest);
+        QCoreApplication::sendPostedEvents(viewport(), QEvent::LayoutRequest);
+        if (guard && guard->isBig())
+            ensureWidgetVisible(guard, 0, 0);
+    };
+    QMetaObject::invokeMethod(this, scroll, Qt::QueuedConnection);
 }
 
 } // namespace ombrin

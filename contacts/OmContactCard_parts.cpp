@@ -2,6 +2,8 @@
 
 #include <ombrin/OmContactCard.h>
 
+#include "contacts/CardLayout.h"
+#include "contacts/ColumnLayout.h"
 #include "contacts/ContactActions.h"
 #include "skin/SkinPixmap.h"
 
@@ -53,19 +55,41 @@ bool breaksLine(QChar c)
 
 } // namespace
 
+// The layouts of the card, and of the list it is in, are told of changes of sizes and nothing else:
+// see CardLayout and ColumnLayout.
+void OmContactCard::changeSize()
+{
+    ColumnLayout *const column = ColumnLayout::of(this);
+    const int previousHeight = minimumHeight();
+    {
+        const ColumnLayout::Silence silence(column);
+        createFace();
+        createTools();
+        if (m_big)
+            fillToolBar();
+        m_toolBar->setVisible(m_big);
+        resizeParts();
+        m_avatar->setAvatar(m_avatar->avatar(), false);
+        m_layout->layOut();
+    }
+    if (column)
+        column->resized(this, m_big, minimumHeight() - previousHeight);
+}
+
 void OmContactCard::createFace()
 {
     if (m_avatar)
         return;
+    const ColumnLayout::Silence silence(ColumnLayout::of(this));
     m_avatar = new OmAvatarSmall(this);
     connect(m_avatar, &OmAvatarSmall::clicked, this, &OmContactCard::avatarClicked);
 
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    row->setSpacing(kMargin);
-    row->addItem(new QSpacerItem(1, 1, QSizePolicy::Fixed, QSizePolicy::Minimum));
-    row->addWidget(m_avatar);
-    row->addLayout(createTextColumn());
+    m_layout = new CardLayout(this);
+    m_layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    m_layout->setSpacing(kMargin);
+    m_layout->addItem(new QSpacerItem(1, 1, QSizePolicy::Fixed, QSizePolicy::Minimum));
+    m_layout->addWidget(m_avatar);
+    m_layout->addLayout(createTextColumn());
 
     resizeParts();
     m_avatar->setAvatar(m_pendingPicture, m_pendingHover);
@@ -109,7 +133,7 @@ void OmContactCard::showFace()
               static_cast<QWidget *>(m_statusLabel), static_cast<QWidget *>(m_indicatorLabel)})
             part->show();
     }
-    layout()->activate();
+    m_layout->layOut();
 }
 
 void OmContactCard::createTools()

@@ -18,6 +18,7 @@ class QToolBar;
 
 namespace ombrin {
 
+class CardLayout;
 class OmAvatarSmall;
 class OmLabel;
 
@@ -184,6 +185,7 @@ private:
     void createFace();
     QLayout *createTextColumn();
     void showFace();
+    void changeSize();
     void createTools();
     void showAction(int index);
     void fillToolBar();
@@ -198,6 +200,7 @@ private:
     void releaseMenu();
 
     // The face and the tools are null until they are made.
+    CardLayout *m_layout = nullptr;
     OmAvatarSmall *m_avatar = nullptr;
     OmLabel *m_aliasLabel = nullptr;
     OmLabel *m_statusLabel = nullptr;

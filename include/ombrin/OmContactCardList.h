@@ -7,11 +7,10 @@
 #include <QtCore/QString>
 #include <QtWidgets/QScrollArea>
 
-class QVBoxLayout;
-
 namespace ombrin {
 
 class AddContactBar;
+class ColumnLayout;
 
 /// A list of contact cards, one above the other, which scrolls.
 ///
@@ -80,7 +79,7 @@ private:
     void scrollTo(OmContactCard *card);
 
     QList<OmContactCard *> m_cards;
-    QVBoxLayout *m_layout;
+    ColumnLayout *m_layout;
     AddContactBar *m_addContactBar;
     OmContactCard *m_currentCard = nullptr;
 };

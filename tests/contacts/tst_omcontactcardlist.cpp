@@ -1,0 +1,358 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmContactCardList.h>
+
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QResource>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolButton>
+
+#include <functional>
+
+using namespace ombrin;
+using namespace ombrin::test;
+
+namespace {
+
+void click(QWidget *card)
+{
+    const QPoint place(card->width() - 2, 2);
+    QMouseEvent event(QEvent::MouseButtonRelease, place, card->mapToGlobal(place), Qt::LeftButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(card, &event);
+}
+
+void settle()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
+}
+
+// Which cards are big, by their places.
+QString bigCards(const OmContactCardList &list)
+{
+    QString places;
+    for (int index = 0; index < list.size(); ++index) {
+        if (list.card(index)->isBig())
+            places += QString::number(index);
+    }
+    return places;
+}
+
+// Counts the events of a kind that widgets get.
+class Counter : public QObject
+{
+public:
+    explicit Counter(const QVector<QEvent::Type> &types)
+        : m_types(types)
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (m_types.contains(event->type()) && qobject_cast<OmContactCard *>(object))
+            m_seen.insert(object);
+        return false;
+    }
+    QSet<QObject *> cards() const { return m_seen; }
+
+private:
+    QVector<QEvent::Type> m_types;
+    QSet<QObject *> m_seen;
+};
+
+} // namespace
+
+class tst_OmContactCardList : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
+                                            + QStringLiteral("/testdata/contacts.res")));
+    }
+
+    void keepsCardsInOrderAboveTheButton()
+    {
+        OmContactCardList list;
+        QCOMPARE(list.size(), 0);
+        QVERIFY(!list.card(0) && !list.card(-1) && !list.currentCard());
+        QSignalSpy added(&list, &OmContactCardList::added);
+        list.addCard(nullptr);
+        fill(&list, 3);
+        list.addCard(list.card(0));
+        list.addCard(list.card(2));
+        list.removeCard(nullptr);
+        OmContactCard stranger;
+        list.removeCard(&stranger);
+        QCOMPARE(added.size(), 3);
+        QCOMPARE(qvariant_cast<OmContactCard *>(added.at(2).first()), list.card(2));
+        QCOMPARE(list.size(), 3);
+        QVERIFY(!list.card(3) && !list.card(-1));
+        QCOMPARE(list.currentCard(), list.card(0));
+        QCOMPARE(bigCards(list), QStringLiteral("0"));
+
+        auto *const button = list.findChild<QToolButton *>();
+        QCOMPARE(button->toolTip(), QStringLiteral("Add Contact(s)"));
+        list.resize(200, 600);
+        list.show();
+        QSignalSpy addContact(&list, &OmContactCardList::addContact);
+        for (const bool enable : {true, false, true}) {
+            list.enableAddContact(enable);
+            QCOMPARE(button->isVisible(), enable);
+            button->click();
+        }
+        QCOMPARE(addContact.size(), 3);
+        fill(&list, 1);
+        settle();
+        int bottom = 0;
+        for (int index = 0; index < list.size(); ++index) {
+            QCOMPARE(list.card(index)->geometry(),
+                     QRect(0, bottom, list.viewport()->width(), index == 0 ? 72 : 48));
+            bottom += list.card(index)->height();
+        }
+        QCOMPARE(button->mapTo(list.widget(), QPoint(0, 0)).y(), bottom);
+    }
+
+    void clickMakesOneCardBigAndScrollsToIt()
+    {
+        OmContactCardList list;
+        fill(&list, 40);
+        list.resize(200, 300);
+        list.show();
+        settle();
+        for (const int index : {3, 39, 39, 0, 20}) {
+            OmContactCard *const card = list.card(index);
+            click(card);
+            settle();
+            QCOMPARE(bigCards(list), QString::number(index));
+            QVERIFY(list.viewport()->rect().contains(
+                    QRect(card->mapTo(list.viewport(), QPoint(0, 0)), card->size())));
+        }
+        QCOMPARE(list.currentCard(), list.card(0));
+    }
+
+    void hostsRecordTheCurrentCardByTheNameOfTheSlot()
+    {
+        OmContactCardList list;
+        fill(&list, 3);
+        QVERIFY(QMetaObject::invokeMethod(&list, "slotClickedTimer")); // sent by nobody
+        for (int index = 0; index < 3; ++index) {
+            list.card(index)->disconnect(&list);
+            QVERIFY(connect(list.card(index), SIGNAL(clicked()), &list, SLOT(slotClickedTimer())));
+        }
+        click(list.card(2));
+        QCOMPARE(list.currentCard(), list.card(2));
+        QCOMPARE(bigCards(list), QStringLiteral("0"));
+        QVERIFY(waitFor([&] { return bigCards(list) == QStringLiteral("2"); }));
+
+        // The last of three, and the current one.
+        list.removeCard(list.card(2));
+        QCOMPARE(bigCards(list), QStringLiteral("1"));
+        QCOMPARE(list.currentCard(), list.card(0));
+        click(list.card(1));
+        list.removeCard(list.card(1)); // before its time
+        QTest::qWait(50);
+        QCOMPARE(bigCards(list), QStringLiteral("0"));
+    }
+
+    void neighbourTakesThePlaceOfTheCurrentCard_data()
+    {
+        QTest::addColumn<int>("clicked");
+        QTest::addColumn<int>("removed");
+        QTest::addColumn<QString>("big");
+        QTest::newRow("first, big") << 0 << 0 << "0";
+        QTest::newRow("first, another is big") << 2 << 0 << "01";
+        QTest::newRow("another, not big") << 0 << 1 << "0";
+        QTest::newRow("another, big") << 1 << 1 << "";
+    }
+
+    void neighbourTakesThePlaceOfTheCurrentCard()
+    {
+        QFETCH(int, clicked);
+        QFETCH(int, removed);
+        QFETCH(QString, big);
+        OmContactCardList list;
+        fill(&list, 3);
+        click(list.card(clicked));
+        const QPointer<OmContactCard> card = list.card(removed);
+        list.removeCard(card);
+        QVERIFY(!card);
+        QCOMPARE(list.size(), 2);
+        QCOMPARE(bigCards(list), big);
+    }
+
+    void forgetsCardsThatGoTheirOwnWay()
+    {
+        OmContactCardList list;
+        OmContactCardList other;
+        QWidget window;
+        fill(&list, 5);
+        OmContactCard *const moved = list.card(4);
+        QSignalSpy chosen(&list, &OmContactCardList::actionId);
+        delete list.card(0);
+        list.card(0)->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        OmContactCard *const taken = list.card(0);
+        taken->setParent(&window);
+        other.addCard(moved);
+        QCOMPARE(list.size(), 1);
+        QCOMPARE(other.size(), 1);
+        Q_EMIT taken->actionId(QStringLiteral("chat"));
+        Q_EMIT moved->actionId(QStringLiteral("chat"));
+        QVERIFY(chosen.isEmpty());
+        click(taken);
+        QVERIFY(!taken->isBig());
+
+        list.addCard(taken);
+        Q_EMIT taken->actionId(QStringLiteral("chat"));
+        QCOMPARE(chosen, QList<QVariantList>({{QStringLiteral("chat"), QStringLiteral("id 2")}}));
+    }
+
+    void mayBeDeletedAnywhere_data()
+    {
+        using Slot = std::function<void(OmContactCardList *, OmContactCard *)>;
+        QTest::addColumn<Slot>("slot");
+        QTest::newRow("remove the card") << Slot(
+                [](OmContactCardList *list, OmContactCard *card) { list->removeCard(card); });
+        QTest::newRow("delete the card")
+                << Slot([](OmContactCardList *, OmContactCard *card) { delete card; });
+        QTest::newRow("delete the list")
+                << Slot([](OmContactCardList *list, OmContactCard *) { delete list; });
+    }
+
+    void mayBeDeletedAnywhere()
+    {
+        QFETCH(std::function<void(OmContactCardList *, OmContactCard *)>, slot);
+        const auto run = [&slot](const std::function<void(OmContactCard *)> &use, auto connectTo) {
+            QPointer<OmContactCardList> list = new OmContactCardList;
+            fill(list, 3);
+            list->show();
+            const QPointer<OmContactCard> card = list->card(1);
+            connectTo(list.data(), card.data(), [&] { slot(list, card); });
+            use(card);
+            settle();
+            QVERIFY(!card);
+            delete list;
+        };
+        const auto toCard = [](auto signal) {
+            return [signal](OmContactCardList *, OmContactCard *card, auto function) {
+                connect(card, signal, card, function);
+            };
+        };
+        const auto chat = [](OmContactCard *card) {
+            card->setBig(true);
+            card->findChild<QAction *>(QStringLiteral("chat"))->trigger();
+        };
+        run(click, toCard(&OmContactCard::clicked));
+        run(chat, toCard(&OmContactCard::actionId));
+        run([](OmContactCard *card) { card->setStatus(Om::Away); },
+            toCard(&OmContactCard::statusChanged));
+        run(chat, [](OmContactCardList *list, OmContactCard *, auto function) {
+            connect(list, &OmContactCardList::actionId, list, function);
+        });
+    }
+
+    void surroundingsStayAlone()
+    {
+        OmContactCardList list;
+        fill(&list, 200);
+        list.resize(200, 400);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        settle();
+        {
+            const Counter painted({QEvent::Paint, QEvent::LayoutRequest});
+            list.card(2)->setStatus(Om::Busy);
+            settle();
+            QCOMPARE(painted.cards(), QSet<QObject *>{list.card(2)});
+        }
+        {
+            const Counter moved({QEvent::Move, QEvent::Resize});
+            click(list.card(4));
+            settle();
+            QSet<QObject *> expected;
+            for (int index = 0; index <= 4; ++index)
+                expected.insert(list.card(index));
+            QCOMPARE(moved.cards(), expected);
+        }
+        QVERIFY(!list.card(4)->children().isEmpty());
+        QVERIFY(list.card(150)->children().isEmpty());
+        list.verticalScrollBar()->setValue(150 * 48);
+        settle();
+        QVERIFY(!list.card(150)->children().isEmpty());
+    }
+
+    // Whatever happens, the cards stand one below the other and fill the width.
+    void cardsStandWithoutGaps()
+    {
+        OmContactCardList list;
+        fill(&list, 30);
+        list.show();
+        QRandomGenerator random(7);
+        const auto any = [&] { return list.card(random.bounded(list.size())); };
+        const std::function<void()> steps[] = {
+                [&] { any()->setBig(true); },
+                [&] { any()->setBig(false); },
+                [&] { click(any()); },
+                [&] { any()->setVisible(random.bounded(2)); },
+                [&] { list.resize(150 + random.bounded(100), 300); },
+                [&] { list.removeCard(any()); },
+                [&] { fill(&list, 1); },
+                [&] { settle(); },
+                [&] { any()->setFont(QFont(list.font().family(), 8)); },
+                [&] { list.setVisible(random.bounded(4)); },
+        };
+        for (int round = 0; round < 600; ++round) {
+            steps[random.bounded(int(std::size(steps)))]();
+            if (list.size() < 10)
+                fill(&list, 10);
+            if (round % 3)
+                continue;
+            list.show();
+            settle();
+            int bottom = 0;
+            for (int index = 0; index < list.size(); ++index) {
+                const OmContactCard *const card = list.card(index);
+                if (card->isHidden())
+                    continue;
+                QCOMPARE(card->geometry(),
+                         QRect(0, bottom, list.viewport()->width(), card->isBig() ? 72 : 48));
+                bottom += card->height();
+            }
+            QCOMPARE(list.widget()->height(), qMax(list.viewport()->height(), bottom));
+        }
+    }
+
+    void assistiveTechnologySeesAList()
+    {
+        OmContactCardList list;
+        fill(&list, 2);
+        QCOMPARE(accessible(list.widget())->role(), QAccessible::List);
+        QCOMPARE(accessible(list.card(1))->parent()->object(), list.widget());
+    }
+
+private:
+    static void fill(OmContactCardList *list, int count)
+    {
+        for (int index = 0; index < count; ++index) {
+            auto *card = new OmContactCard;
+            card->setOmbrinId(QStringLiteral("id %1").arg(list->size()));
+            card->setAlias(QStringLiteral("Contact %1").arg(list->size()));
+            card->setGeneralApp(static_cast<Om::ClientApplication>(3));
+            list->addCard(card);
+        }
+    }
+};
+
+Q_DECLARE_METATYPE(std::function<void(OmContactCardList *, OmContactCard *)>)
+
+OMBRIN_TEST_MAIN(tst_OmContactCardList)
+#include "tst_omcontactcardlist.moc"

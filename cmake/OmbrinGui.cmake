@@ -11,6 +11,6 @@ target_link_libraries(ombrin_gui
     Qt${OMBRIN_QT}::Widgets
     $<$<EQUAL:${OMBRIN_QT},6>:Qt6::Core5Compat>)
 
-foreach(folder IN ITEMS platform skin widgets effects windows dialogs contacts text views)
+foreach(folder IN ITEMS platform skin widgets effects screen windows dialogs contacts text views)
   add_subdirectory(${folder})
 endforeach()

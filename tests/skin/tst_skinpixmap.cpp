@@ -54,25 +54,192 @@ class tst_SkinPixmap : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void picksTheVariantForTheScreen_data();
-    void picksTheVariantForTheScreen();
-    void suffixesAndFoldersWithDotsAreRespected_data();
-    void suffixesAndFoldersWithDotsAreRespected();
-    void withoutAScreenTheDensestOneCounts();
-    void atDensityOneItIsQPixmap_data();
-    void atDensityOneItIsQPixmap();
-    void unusablePicturesAreNull_data();
-    void unusablePicturesAreNull();
-    void tooLargePicturesAreNotEvenDecoded_data();
-    void tooLargePicturesAreNotEvenDecoded();
-    void tooLargeVariantsFallBack();
-    void secondLoadReadsNoFile();
-    void clearedCacheIsFilledAgain();
-    void picturesThatAppearLaterAreFound();
+    void picksTheVariantForTheScreen_data()
+    {
+        QTest::addColumn<QString>("present"); // Densities of the files there are.
+        QTest::addColumn<double>("screen");
+        QTest::addColumn<int>("expected"); // Density, or 0 for no picture.
+
+        QTest::newRow("all, 1") << "123" << 1.0 << 1;
+        QTest::newRow("all, 1.25") << "123" << 1.25 << 2;
+        QTest::newRow("all, 2") << "123" << 2.0 << 2;
+        QTest::newRow("all, 2.5") << "123" << 2.5 << 3;
+        QTest::newRow("all, absurd") << "123" << 1e300 << 3;
+        QTest::newRow("all, infinite") << "123" << std::numeric_limits<double>::infinity() << 3;
+        QTest::newRow("no 3x, 3") << "12" << 3.0 << 2;
+        QTest::newRow("no 2x, 2") << "13" << 2.0 << 1;
+        QTest::newRow("no 2x, 3") << "13" << 3.0 << 3;
+        QTest::newRow("only 1x, 3") << "1" << 3.0 << 1;
+        QTest::newRow("only 2x, 2") << "2" << 2.0 << 2;
+        QTest::newRow("only 2x, 1") << "2" << 1.0 << 0;
+    }
+    void picksTheVariantForTheScreen()
+    {
+        QFETCH(QString, present);
+        QFETCH(double, screen);
+        QFETCH(int, expected);
+        const QString names[] = {QStringLiteral("icon"), QStringLiteral("icon@2x"),
+                                 QStringLiteral("icon@3x")};
+        for (int density = 1; density <= 3; ++density) {
+            if (present.contains(QString::number(density)))
+                QVERIFY(!write(names[density - 1], variantFile(density)).isEmpty());
+        }
+        const QPixmap pixmap = skinPixmap(path(names[0]), screen);
+        QCOMPARE(pixmap.isNull(), expected == 0);
+        QCOMPARE(skinImage(path(names[0]), screen).isNull(), expected == 0);
+        if (expected == 0)
+            return;
+        QCOMPARE(pixmap.devicePixelRatio(), double(expected));
+        QCOMPARE(pixmap.size(), kSize * expected);
+        QCOMPARE(pixmap.toImage().pixelColor(1, 1), colorOf(expected));
+        QCOMPARE(skinImage(path(names[0]), screen), pixmap.toImage());
+    }
+
+    void suffixesAndFoldersWithDotsAreRespected()
+    {
+        for (const char *pattern :
+             {"countdown-3%1.png", "chat-16%1", "skin.d/chat-16%1", "skin.d/countdown%1.png"}) {
+            const QString name = QString::fromLatin1(pattern).arg(QString());
+            write(name, variantFile(1));
+            write(QString::fromLatin1(pattern).arg(QStringLiteral("@2x")), variantFile(2));
+            QCOMPARE(skinPixmap(path(name), 2).toImage().pixelColor(0, 0), colorOf(2));
+            QCOMPARE(skinPixmap(path(name), 1).toImage().pixelColor(0, 0), colorOf(1));
+        }
+    }
+
+    void withoutAScreenTheDensestOneCounts()
+    {
+        const QString icon = write(QStringLiteral("icon"), variantFile(1));
+        write(QStringLiteral("icon@2x"), variantFile(2));
+        const double expected = std::ceil(qApp->devicePixelRatio());
+        QCOMPARE(skinPixmap(icon).devicePixelRatio(), expected);
+        QCOMPARE(skinPixmap(icon, -1).devicePixelRatio(), expected);
+        QCOMPARE(skinPixmap(icon, std::numeric_limits<double>::quiet_NaN()).devicePixelRatio(),
+                 expected);
+    }
+
+    void atDensityOneItIsQPixmap_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("imageFormat");
+        QTest::addColumn<QByteArray>("fileFormat");
+        const auto row = [](const char *title, const char *file, const char *name,
+                            QImage::Format imageFormat, const char *fileFormat = "PNG") {
+            QTest::newRow(title) << file << name << int(imageFormat) << QByteArray(fileFormat);
+        };
+        row("translucent", "icon", "icon", QImage::Format_ARGB32);
+        row("opaque", "icon", "icon", QImage::Format_RGB32);
+        row("256 colours", "icon", "icon", QImage::Format_Indexed8);
+        row("bitmap", "icon", "icon", QImage::Format_RGB32, "BMP");
+        row("wrong suffix", "icon.jpg", "icon.jpg", QImage::Format_ARGB32);
+        row("suffix left out", "icon.png", "icon", QImage::Format_ARGB32);
+        row("variant by name", "icon@2x", "icon@2x", QImage::Format_ARGB32);
+    }
+    void atDensityOneItIsQPixmap()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, name);
+        QFETCH(int, imageFormat);
+        QFETCH(QByteArray, fileFormat);
+        QImage image(16, 16, QImage::Format_ARGB32);
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x)
+                image.setPixel(x, y, qRgba(16 * x, 16 * y, 128, 17 * x));
+        }
+        image = image.convertToFormat(static_cast<QImage::Format>(imageFormat));
+        write(file, encoded(image, fileFormat.constData()));
+
+        const QPixmap expected(path(name));
+        QVERIFY(!expected.isNull());
+        const QPixmap actual = skinPixmap(path(name), 1);
+        QCOMPARE(actual.toImage(), expected.toImage());
+        QCOMPARE(actual.toImage().format(), expected.toImage().format());
+        QCOMPARE(actual.hasAlpha(), expected.hasAlpha());
+        QCOMPARE(actual.devicePixelRatio(), expected.devicePixelRatio());
+    }
+
+    void unusablePicturesAreNull_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("no picture") << QByteArray("[Active]\nWindow=#fff\n");
+        QTest::newRow("cut in its header") << variantFile(1).left(20);
+        QTest::newRow("cut in its contents") << truncatedPng();
+    }
+    void unusablePicturesAreNull()
+    {
+        QFETCH(QByteArray, bytes);
+        expectWarning(QStringLiteral("libpng|PNG"));
+        const QString icon = write(QStringLiteral("icon"), bytes);
+        for (const int density : {1, 2, 3}) {
+            QVERIFY(skinPixmap(icon, density).isNull());
+            QVERIFY(skinImage(icon, density).isNull());
+        }
+        QVERIFY(skinPixmap(icon + QStringLiteral("-missing"), 1).isNull());
+        QVERIFY(skinPixmap(m_folder->path(), 1).isNull());
+        QVERIFY(skinPixmap(QString(), 2).isNull());
+    }
+
+    void tooLargePicturesAreNotEvenDecoded()
+    {
+        const int before = counting_image_format::decodedCount();
+        for (const QSize &size : {QSize(4097, 1), QSize(1, 4097), QSize(0x7fffffff, 0x7fffffff),
+                                  QSize(-5, -5), QSize(0, 16)}) {
+            const QString icon = write(QStringLiteral("icon"), counting_image_format::file(size));
+            QVERIFY(skinPixmap(icon, 1).isNull() && skinImage(icon, 1).isNull());
+            QCOMPARE(counting_image_format::decodedCount(), before);
+        }
+        const QString largest =
+                write(QStringLiteral("icon"), counting_image_format::file(QSize(4096, 4096)));
+        QVERIFY(!skinImage(largest, 1).isNull() && !skinPixmap(largest, 1).isNull());
+        QVERIFY(!skinPixmap(largest, 1).isNull());
+        QCOMPARE(counting_image_format::decodedCount() - before, 2);
+    }
+
+    void tooLargeVariantsFallBack()
+    {
+        // Flat pictures of a real resource file, packed by the build: "wide" is 2000 x 1 logical
+        // pixels, so that its densest variant is refused.
+        const QString file =
+                QCoreApplication::applicationDirPath() + QStringLiteral("/testdata/pictures.res");
+        QVERIFY(QResource::registerResource(file));
+        const QString wide = QStringLiteral(":/wide");
+        QVERIFY(!QPixmap(QStringLiteral(":/wide@3x")).isNull());
+        QCOMPARE(skinPixmap(wide, 3).devicePixelRatio(), 2.0);
+        QCOMPARE(skinPixmap(wide, 3).size(), QSize(4000, 2));
+        QCOMPARE(skinPixmap(QStringLiteral(":/suffixed.png"), 3).size(), QSize(36, 30));
+        QVERIFY(!QPixmap(QStringLiteral(":/huge")).isNull());
+        QVERIFY(skinPixmap(QStringLiteral(":/huge"), 1).isNull());
+        QVERIFY(QResource::unregisterResource(file));
+    }
+
+    void secondLoadReadsNoFile()
+    {
+        QVERIFY(skinPixmap(path(QStringLiteral("icon")), 1).isNull()); // it is not there yet
+        const QString icon = write(QStringLiteral("icon"), variantFile(1));
+        write(QStringLiteral("icon@2x"), variantFile(2));
+        QVERIFY(!skinPixmap(icon, 1).isNull());
+        QPixmapCache::clear();
+        const QPixmap normal = skinPixmap(icon, 1); // filled again
+        const QPixmap dense = skinPixmap(icon, 2);
+        QVERIFY(QFile::remove(icon) && QFile::remove(icon + QStringLiteral("@2x")));
+        QCOMPARE(skinPixmap(icon, 1).cacheKey(), normal.cacheKey());
+        QCOMPARE(skinPixmap(icon, 2).cacheKey(), dense.cacheKey());
+        QPixmapCache::clear();
+        QVERIFY(skinPixmap(icon, 1).isNull());
+    }
 
 protected:
-    void setUp() override;
-    void tearDown() override;
+    void setUp() override
+    {
+        QPixmapCache::clear();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+
+    void tearDown() override { m_folder.reset(); }
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -87,245 +254,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void tst_SkinPixmap::setUp()
-{
-    QPixmapCache::clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-}
-
-void tst_SkinPixmap::tearDown()
-{
-    m_folder.reset();
-}
-
-void tst_SkinPixmap::picksTheVariantForTheScreen_data()
-{
-    QTest::addColumn<QString>("present"); // Densities of the files there are.
-    QTest::addColumn<double>("screen");
-    QTest::addColumn<int>("expected"); // Density, or 0 for no picture.
-
-    QTest::newRow("all, 1") << "123" << 1.0 << 1;
-    QTest::newRow("all, 1.25") << "123" << 1.25 << 2;
-    QTest::newRow("all, 2") << "123" << 2.0 << 2;
-    QTest::newRow("all, 2.5") << "123" << 2.5 << 3;
-    QTest::newRow("all, 3") << "123" << 3.0 << 3;
-    QTest::newRow("all, 4") << "123" << 4.0 << 3;
-    QTest::newRow("all, absurd") << "123" << 1e300 << 3;
-    QTest::newRow("all, infinite") << "123" << std::numeric_limits<double>::infinity() << 3;
-    QTest::newRow("no 3x, 3") << "12" << 3.0 << 2;
-    QTest::newRow("no 2x, 2") << "13" << 2.0 << 1;
-    QTest::newRow("no 2x, 3") << "13" << 3.0 << 3;
-    QTest::newRow("only 1x, 3") << "1" << 3.0 << 1;
-    QTest::newRow("only 2x, 2") << "2" << 2.0 << 2;
-    QTest::newRow("only 2x, 1") << "2" << 1.0 << 0;
-}
-
-void tst_SkinPixmap::picksTheVariantForTheScreen()
-{
-    QFETCH(QString, present);
-    QFETCH(double, screen);
-    QFETCH(int, expected);
-    const QString names[] = {QStringLiteral("icon"), QStringLiteral("icon@2x"),
-                             QStringLiteral("icon@3x")};
-    for (int density = 1; density <= 3; ++density) {
-        if (present.contains(QString::number(density)))
-            QVERIFY(!write(names[density - 1], variantFile(density)).isEmpty());
-    }
-    const QPixmap pixmap = skinPixmap(path(names[0]), screen);
-    QCOMPARE(pixmap.isNull(), expected == 0);
-    QCOMPARE(skinImage(path(names[0]), screen).isNull(), expected == 0);
-    if (expected == 0)
-        return;
-    QCOMPARE(pixmap.devicePixelRatio(), double(expected));
-    QCOMPARE(pixmap.size(), kSize * expected);
-    QCOMPARE(pixmap.toImage().pixelColor(1, 1), colorOf(expected));
-    QCOMPARE(skinImage(path(names[0]), screen), pixmap.toImage());
-}
-
-void tst_SkinPixmap::suffixesAndFoldersWithDotsAreRespected_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("variant");
-    QTest::newRow("suffix") << "countdown-3.png"
-                            << "countdown-3@2x.png";
-    QTest::newRow("no suffix") << "chat-16"
-                               << "chat-16@2x";
-    QTest::newRow("folder with a dot") << "skin.d/chat-16"
-                                       << "skin.d/chat-16@2x";
-    QTest::newRow("both") << "skin.d/countdown.png"
-                          << "skin.d/countdown@2x.png";
-}
-
-void tst_SkinPixmap::suffixesAndFoldersWithDotsAreRespected()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, variant);
-    write(name, variantFile(1));
-    write(variant, variantFile(2));
-    QCOMPARE(skinPixmap(path(name), 2).toImage().pixelColor(0, 0), colorOf(2));
-    QCOMPARE(skinPixmap(path(name), 1).toImage().pixelColor(0, 0), colorOf(1));
-}
-
-void tst_SkinPixmap::withoutAScreenTheDensestOneCounts()
-{
-    const QString icon = write(QStringLiteral("icon"), variantFile(1));
-    write(QStringLiteral("icon@2x"), variantFile(2));
-    const double expected = std::ceil(qApp->devicePixelRatio());
-    QCOMPARE(skinPixmap(icon).devicePixelRatio(), expected);
-    QCOMPARE(skinPixmap(icon, -1).devicePixelRatio(), expected);
-    QCOMPARE(skinPixmap(icon, std::numeric_limits<double>::quiet_NaN()).devicePixelRatio(),
-             expected);
-}
-
-void tst_SkinPixmap::atDensityOneItIsQPixmap_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("imageFormat");
-    QTest::addColumn<QByteArray>("fileFormat");
-
-    const int translucent = QImage::Format_ARGB32;
-    const int opaque = QImage::Format_RGB32;
-    QTest::newRow("translucent") << "icon"
-                                 << "icon" << translucent << QByteArray("PNG");
-    QTest::newRow("opaque") << "icon"
-                            << "icon" << opaque << QByteArray("PNG");
-    QTest::newRow("256 colours") << "icon"
-                                 << "icon" << int(QImage::Format_Indexed8) << QByteArray("PNG");
-    QTest::newRow("grey") << "icon"
-                          << "icon" << int(QImage::Format_Grayscale8) << QByteArray("PNG");
-    QTest::newRow("bitmap") << "icon"
-                            << "icon" << opaque << QByteArray("BMP");
-    QTest::newRow("wrong suffix") << "icon.jpg"
-                                  << "icon.jpg" << translucent << QByteArray("PNG");
-    QTest::newRow("suffix left out") << "icon.png"
-                                     << "icon" << translucent << QByteArray("PNG");
-    QTest::newRow("variant by name") << "icon@2x"
-                                     << "icon@2x" << translucent << QByteArray("PNG");
-}
-
-void tst_SkinPixmap::atDensityOneItIsQPixmap()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, name);
-    QFETCH(int, imageFormat);
-    QFETCH(QByteArray, fileFormat);
-    QImage image(16, 16, QImage::Format_ARGB32);
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 16; ++x)
-            image.setPixel(x, y, qRgba(16 * x, 16 * y, 128, 17 * x));
-    }
-    image = image.convertToFormat(static_cast<QImage::Format>(imageFormat));
-    write(file, encoded(image, fileFormat.constData()));
-
-    const QPixmap expected(path(name));
-    QVERIFY(!expected.isNull());
-    const QPixmap actual = skinPixmap(path(name), 1);
-    QCOMPARE(actual.toImage(), expected.toImage());
-    QCOMPARE(actual.toImage().format(), expected.toImage().format());
-    QCOMPARE(actual.hasAlpha(), expected.hasAlpha());
-    QCOMPARE(actual.devicePixelRatio(), expected.devicePixelRatio());
-}
-
-void tst_SkinPixmap::unusablePicturesAreNull_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no picture") << QByteArray("[Active]\nWindow=#fff\n");
-    QTest::newRow("cut in its header") << variantFile(1).left(20);
-    QTest::newRow("cut in its contents") << truncatedPng();
-}
-
-void tst_SkinPixmap::unusablePicturesAreNull()
-{
-    QFETCH(QByteArray, bytes);
-    expectWarning(QStringLiteral("libpng|PNG"));
-    const QString icon = write(QStringLiteral("icon"), bytes);
-    for (const int density : {1, 2, 3}) {
-        QVERIFY(skinPixmap(icon, density).isNull());
-        QVERIFY(skinImage(icon, density).isNull());
-    }
-    QVERIFY(skinPixmap(icon + QStringLiteral("-missing"), 1).isNull());
-    QVERIFY(skinPixmap(m_folder->path(), 1).isNull());
-    QVERIFY(skinPixmap(QString(), 2).isNull());
-}
-
-void tst_SkinPixmap::tooLargePicturesAreNotEvenDecoded_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("largest") << QSize(4096, 4096) << true;
-    QTest::newRow("too wide") << QSize(4097, 1) << false;
-    QTest::newRow("too high") << QSize(1, 4097) << false;
-    QTest::newRow("absurd") << QSize(30000, 30000) << false;
-    QTest::newRow("beyond numbers") << QSize(0x7fffffff, 0x7fffffff) << false;
-    QTest::newRow("negative") << QSize(-5, -5) << false;
-    QTest::newRow("empty") << QSize(0, 16) << false;
-}
-
-void tst_SkinPixmap::tooLargePicturesAreNotEvenDecoded()
-{
-    QFETCH(QSize, size);
-    QFETCH(bool, accepted);
-    const int before = counting_image_format::decodedCount();
-    const QString icon = write(QStringLiteral("icon"), counting_image_format::file(size));
-    QCOMPARE(skinPixmap(icon, 1).isNull(), !accepted);
-    QCOMPARE(skinImage(icon, 1).isNull(), !accepted);
-    QCOMPARE(counting_image_format::decodedCount() - before, accepted ? 2 : 0);
-    QCOMPARE(skinPixmap(icon, 1).isNull(), !accepted);
-    QCOMPARE(counting_image_format::decodedCount() - before, accepted ? 2 : 0);
-}
-
-void tst_SkinPixmap::tooLargeVariantsFallBack()
-{
-    // Flat pictures of a real resource file, packed by the build: "wide" is 2000 x 1 logical
-    // pixels, so that its densest variant is refused.
-    const QString file =
-            QCoreApplication::applicationDirPath() + QStringLiteral("/testdata/pictures.res");
-    QVERIFY(QResource::registerResource(file));
-    const QString wide = QStringLiteral(":/wide");
-    QVERIFY(!QPixmap(QStringLiteral(":/wide@3x")).isNull());
-    QCOMPARE(skinPixmap(wide, 3).devicePixelRatio(), 2.0);
-    QCOMPARE(skinPixmap(wide, 3).size(), QSize(4000, 2));
-    QCOMPARE(skinPixmap(QStringLiteral(":/suffixed.png"), 3).size(), QSize(36, 30));
-    QVERIFY(!QPixmap(QStringLiteral(":/huge")).isNull());
-    QVERIFY(skinPixmap(QStringLiteral(":/huge"), 1).isNull());
-    QVERIFY(QResource::unregisterResource(file));
-}
-
-void tst_SkinPixmap::secondLoadReadsNoFile()
-{
-    const QString icon = write(QStringLiteral("icon"), variantFile(1));
-    write(QStringLiteral("icon@2x"), variantFile(2));
-    const QPixmap normal = skinPixmap(icon, 1);
-    const QPixmap dense = skinPixmap(icon, 2);
-    QVERIFY(QFile::remove(icon) && QFile::remove(icon + QStringLiteral("@2x")));
-    QCOMPARE(skinPixmap(icon, 1).cacheKey(), normal.cacheKey());
-    QCOMPARE(skinPixmap(icon, 2).cacheKey(), dense.cacheKey());
-}
-
-void tst_SkinPixmap::clearedCacheIsFilledAgain()
-{
-    const QString icon = write(QStringLiteral("icon"), variantFile(1));
-    const QImage first = skinPixmap(icon, 1).toImage();
-    QPixmapCache::clear();
-    const QPixmap second = skinPixmap(icon, 1);
-    QCOMPARE(second.toImage(), first);
-    QVERIFY(QFile::remove(icon));
-    QCOMPARE(skinPixmap(icon, 1).cacheKey(), second.cacheKey());
-    QPixmapCache::clear();
-    QVERIFY(skinPixmap(icon, 1).isNull());
-}
-
-void tst_SkinPixmap::picturesThatAppearLaterAreFound()
-{
-    QVERIFY(skinPixmap(path(QStringLiteral("icon")), 1).isNull());
-    const QString icon = write(QStringLiteral("icon"), variantFile(1));
-    QVERIFY(!skinPixmap(icon, 1).isNull());
-}
 
 OMBRIN_TEST_MAIN(tst_SkinPixmap)
 #include "tst_skinpixmap.moc"

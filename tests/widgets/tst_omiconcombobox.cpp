@@ -227,6 +227,27 @@ private Q_SLOTS:
         m_box.reset();
     }
 
+    void theFocusIsSeen()
+    {
+        ombrin::OmStyle2 style;
+        m_box->setStyle(&style);
+        addItems(1);
+        m_box->show();
+        m_box->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_box.get()));
+        m_box->setFocus(Qt::TabFocusReason);
+        m_box->setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
+        const QImage focused = m_box->grab().toImage();
+        m_box->clearFocus();
+        const QImage plain = m_box->grab().toImage();
+        QVERIFY(focused != plain);
+        // The frame tells of the mouse, not of the focus.
+        const QRect inner = plain.rect().adjusted(1, 1, -1, -1);
+        QCOMPARE(focused.copy(0, 0, plain.width(), 1), plain.copy(0, 0, plain.width(), 1));
+        QVERIFY(focused.copy(inner) != plain.copy(inner));
+        m_box.reset();
+    }
+
     void hostileItemsAreHarmless()
     {
         m_box->showPopup(); // without an item

@@ -1,14 +1,12 @@
 #include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
-#include "widgets/ImageShape.h"
-
 #include <ombrin/OmImageMaskedButton.h>
 
-#include <QtGui/QBitmap>
+#include <QtCore/QMap>
 #include <QtGui/QPainter>
 
-#include <memory>
+#include <functional>
 
 using ombrin::OmImageMaskedButton;
 using ombrin::OmImageMaskedWidget;
@@ -85,6 +83,41 @@ struct Button : OmImageMaskedButton
     int clicks = 0;
 };
 
+// One step of what happens to a button.
+void perform(const QString &step, Button *button)
+{
+    const auto release = [button](const QPoint &position) {
+        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, position);
+    };
+    const auto press = [button](Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(button, &event);
+        QVERIFY(event.isAccepted()); // also a key that means nothing to it
+    };
+    const QMap<QByteArray, std::function<void()>> steps = {
+            {"enter", [=] { sendEnter(button); }},
+            {"leave", [=] { sendLeave(button); }},
+            {"press", [=] { QTest::mousePress(button, Qt::LeftButton); }},
+            {"rightPress", [=] { QTest::mousePress(button, Qt::RightButton); }},
+            {"release", [=] { release(QPoint(19, 9)); }},
+            {"releaseRightOfIt", [=] { release(QPoint(20, 9)); }},
+            {"releaseAbove", [=] { release(QPoint(3, -1)); }},
+            {"rightRelease", [=] { QTest::mouseRelease(button, Qt::RightButton); }},
+            {"space", [=] { press(Qt::Key_Space); }},
+            {"keypadEnter", [=] { press(Qt::Key_Enter); }},
+            {"return", [=] { press(Qt::Key_Return); }},
+            {"escape", [=] { press(Qt::Key_Escape); }},
+            {"noNormal", [=] { button->setImage_Normal(QImage()); }},
+            {"noHovered", [=] { button->setImage_Hovered(QImage()); }},
+            {"noPressed", [=] { button->setImage_Pressed(QImage()); }},
+            {"disable", [=] { button->setEnabled(false); }},
+            {"enable", [=] { button->setEnabled(true); }},
+            {"hide", [=] { button->hide(); }},
+            {"show", [=] { button->show(); }},
+    };
+    steps.value(step.toLatin1())();
+}
+
 } // namespace
 
 class tst_OmImageMasked : public ombrin::test::TestCase
@@ -92,303 +125,193 @@ class tst_OmImageMasked : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void hasTheShapeOfItsImage_data();
-    void hasTheShapeOfItsImage();
-    void semiTransparentPixelsAreDrawnOpaque();
-    void denseImagesHaveTheirLogicalSize_data();
-    void denseImagesHaveTheirLogicalSize();
-    void nullImageLeavesNothing();
-    void fullyTransparentImageIsNeitherSeenNorTouched();
-    void cornersLetTheMouseThrough();
-    void hugeImageIsTaken();
+    void hasTheShapeOfItsImage_data()
+    {
+        QTest::addColumn<QImage>("image");
+        QTest::newRow("disc") << disc();
+        QTest::newRow("disc, premultiplied")
+                << disc().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QTest::newRow("disc, colour table")
+                << disc().convertToFormat(QImage::Format_Indexed8, Qt::AvoidDither);
+        QTest::newRow("disc, alpha alone") << disc().convertToFormat(QImage::Format_Alpha8);
+        QTest::newRow("noise") << noise();
+        QTest::newRow("alpha 1") << flat(0x01ffffff); // drawn opaque
+        QTest::newRow("opaque") << flat(kNormal);
+        QTest::newRow("no alpha channel") << disc().convertToFormat(QImage::Format_RGB888);
+        QTest::newRow("one row") << flat(kNormal, QSize(50, 1));
+    }
+    void hasTheShapeOfItsImage()
+    {
+        QFETCH(QImage, image);
+        OmImageMaskedWidget widget;
+        QVERIFY(widget.testAttribute(Qt::WA_NoSystemBackground));
+        widget.setImage(flat(kNormal, QSize(3, 3)));
+        widget.setImage(image);
+        QCOMPARE(widget.image(), image);
+        QCOMPARE(widget.size(), image.size());
+        QCOMPARE(widget.mask(), pixelsThatAreNotTransparent(image));
 
-    void buttonShowsItsState();
-    void buttonWithOneImageKeepsIt();
-    void nextStateImageReplacesTheShownOne();
-    void clicksAreReleasesInsideAfterAPress_data();
-    void clicksAreReleasesInsideAfterAPress();
-    void keysClick_data();
-    void keysClick();
-    void lostReleaseDoesNotLeaveTheButtonPressed();
-    void buttonMayBeDeletedInItsSlot_data();
-    void buttonMayBeDeletedInItsSlot();
-    void screenReadersSeeAButton();
-};
+        const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
+        QImage expected(image.size(), QImage::Format_ARGB32_Premultiplied);
+        expected.fill(Qt::transparent);
+        for (const QRect &rect : widget.mask())
+            QPainter(&expected).drawImage(rect, opaque, rect);
+        QCOMPARE(paintedOnNothing(&widget), expected);
+    }
 
-void tst_OmImageMasked::hasTheShapeOfItsImage_data()
-{
-    QTest::addColumn<QImage>("image");
-    QTest::newRow("disc") << disc();
-    QTest::newRow("disc, premultiplied")
-            << disc().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    QTest::newRow("disc, colour table")
-            << disc().convertToFormat(QImage::Format_Indexed8, Qt::AvoidDither);
-    QTest::newRow("disc, alpha alone") << disc().convertToFormat(QImage::Format_Alpha8);
-    QTest::newRow("noise") << noise();
-    QTest::newRow("alpha 1") << flat(0x01ffffff);
-    QTest::newRow("opaque") << flat(kNormal);
-    QTest::newRow("no alpha channel") << disc().convertToFormat(QImage::Format_RGB888);
-    QTest::newRow("one pixel") << flat(kNormal, QSize(1, 1));
-    QTest::newRow("one row") << flat(kNormal, QSize(50, 1));
-}
+    void denseImagesHaveTheirLogicalSize_data()
+    {
+        QTest::addColumn<qreal>("density");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QRect>("shape"); // of an image whose pixels 21 to 22 are opaque
+        QTest::newRow("1.5") << 1.5 << QSize(28, 14) << QRect(14, 14, 1, 1).translated(0, -7);
+        QTest::newRow("2") << 2.0 << QSize(21, 11) << QRect(10, 5, 2, 1);
+        QTest::newRow("3") << 3.0 << QSize(14, 7) << QRect(7, 3, 1, 1);
+    }
+    void denseImagesHaveTheirLogicalSize()
+    {
+        QFETCH(qreal, density);
+        QFETCH(QSize, size);
+        QFETCH(QRect, shape);
+        QImage image = flat(0, QSize(42, 21));
+        image.setPixel(21, 11, kNormal);
+        image.setPixel(22, 11, kNormal);
+        image.setDevicePixelRatio(density);
+        OmImageMaskedWidget widget;
+        widget.setImage(image);
+        QCOMPARE(widget.size(), size);
+        QCOMPARE(widget.mask(), QRegion(shape));
+    }
 
-void tst_OmImageMasked::hasTheShapeOfItsImage()
-{
-    QFETCH(QImage, image);
-    OmImageMaskedWidget widget;
-    QVERIFY(widget.testAttribute(Qt::WA_NoSystemBackground));
-    widget.setImage(flat(kNormal, QSize(3, 3)));
-    widget.setImage(image);
-    QCOMPARE(widget.image(), image);
-    QCOMPARE(widget.size(), image.size());
-    QCOMPARE(widget.mask(), pixelsThatAreNotTransparent(image));
+    void nullImageLeavesNothing()
+    {
+        OmImageMaskedWidget widget;
+        widget.setImage(disc());
+        const QRegion mask = widget.mask();
+        widget.setImage(QImage());
+        QCOMPARE(widget.size(), QSize(0, 0));
+        QCOMPARE(widget.mask(), mask);
+        // One that is there, but cannot be seen, takes its room and no clicks.
+        widget.setImage(flat(0));
+        QCOMPARE(widget.size(), QSize(20, 10));
+        QVERIFY(!widget.mask().intersects(widget.rect()));
+    }
 
-    const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
-    QImage expected(image.size(), QImage::Format_ARGB32_Premultiplied);
-    expected.fill(Qt::transparent);
-    for (const QRect &rect : widget.mask())
-        QPainter(&expected).drawImage(rect, opaque, rect);
-    QCOMPARE(paintedOnNothing(&widget), expected);
-}
+    void cornersLetTheMouseThrough()
+    {
+        QWidget window;
+        window.resize(60, 60);
+        OmImageMaskedButton button(&window);
+        button.setImage_Normal(disc());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QSignalSpy spy(&button, &OmImageMaskedButton::signalOnClicked);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+        QCOMPARE(spy.size(), 0);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 16));
+        QCOMPARE(spy.size(), 1);
+    }
 
-void tst_OmImageMasked::semiTransparentPixelsAreDrawnOpaque()
-{
-    OmImageMaskedWidget widget;
-    widget.setImage(flat(qRgba(10, 200, 30, 128)));
-    QCOMPARE(paintedOnNothing(&widget).pixel(3, 3), qRgb(10, 200, 30));
-}
-
-void tst_OmImageMasked::denseImagesHaveTheirLogicalSize_data()
-{
-    QTest::addColumn<qreal>("density");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QRect>("shape"); // of an image whose pixels 21 to 22 are opaque
-    QTest::newRow("1.5") << 1.5 << QSize(28, 14) << QRect(14, 14, 1, 1).translated(0, -7);
-    QTest::newRow("2") << 2.0 << QSize(21, 11) << QRect(10, 5, 2, 1);
-    QTest::newRow("3") << 3.0 << QSize(14, 7) << QRect(7, 3, 1, 1);
-}
-
-void tst_OmImageMasked::denseImagesHaveTheirLogicalSize()
-{
-    QFETCH(qreal, density);
-    QFETCH(QSize, size);
-    QFETCH(QRect, shape);
-    QImage image = flat(0, QSize(42, 21));
-    image.setPixel(21, 11, kNormal);
-    image.setPixel(22, 11, kNormal);
-    image.setDevicePixelRatio(density);
-    OmImageMaskedWidget widget;
-    widget.setImage(image);
-    QCOMPARE(widget.size(), size);
-    QCOMPARE(widget.mask(), QRegion(shape));
-}
-
-void tst_OmImageMasked::nullImageLeavesNothing()
-{
-    OmImageMaskedWidget widget;
-    widget.setImage(disc());
-    const QRegion mask = widget.mask();
-    widget.setImage(QImage());
-    QCOMPARE(widget.size(), QSize(0, 0));
-    QVERIFY(widget.image().isNull());
-    QCOMPARE(widget.mask(), mask);
-    widget.setImage(flat(kNormal));
-    QCOMPARE(widget.size(), QSize(20, 10));
-}
-
-void tst_OmImageMasked::fullyTransparentImageIsNeitherSeenNorTouched()
-{
-    QWidget window;
-    window.resize(60, 60);
-    OmImageMaskedWidget widget(&window);
-    widget.setImage(flat(0));
-    QCOMPARE(widget.size(), QSize(20, 10));
-    QVERIFY((widget.mask() & widget.rect()).isEmpty());
-    window.show();
-    QVERIFY(!window.childAt(5, 5));
-}
-
-void tst_OmImageMasked::cornersLetTheMouseThrough()
-{
-    QWidget window;
-    window.resize(60, 60);
-    OmImageMaskedButton button(&window);
-    button.setImage_Normal(disc());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QSignalSpy spy(&button, &OmImageMaskedButton::signalOnClicked);
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
-    QCOMPARE(spy.size(), 0);
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 16));
-    QCOMPARE(spy.size(), 1);
-}
-
-void tst_OmImageMasked::hugeImageIsTaken()
-{
-    QImage image = flat(0, QSize(10000, 10000));
-    QPainter(&image).fillRect(4000, 5000, 3000, 2000, Qt::red);
-    OmImageMaskedWidget widget;
-    widget.setImage(image);
-    QCOMPARE(widget.size(), image.size());
-    QCOMPARE(widget.mask(), QRegion(4000, 5000, 3000, 2000));
-}
-
-void tst_OmImageMasked::buttonShowsItsState()
-{
-    Button button;
-    QCOMPARE(button.shown(), QStringLiteral("normal"));
-    sendEnter(&button);
-    QCOMPARE(button.shown(), QStringLiteral("hovered"));
-    QTest::mousePress(&button, Qt::RightButton);
-    QCOMPARE(button.shown(), QStringLiteral("pressed"));
-    sendLeave(&button);
-    QCOMPARE(button.shown(), QStringLiteral("pressed"));
-    QTest::mouseRelease(&button, Qt::RightButton);
-    QCOMPARE(button.shown(), QStringLiteral("normal"));
-}
-
-void tst_OmImageMasked::buttonWithOneImageKeepsIt()
-{
-    Button button;
-    button.setImage_Hovered(QImage());
-    button.setImage_Pressed(QImage());
-    sendEnter(&button);
-    QCOMPARE(button.shown(), QStringLiteral("normal"));
-    QTest::mousePress(&button, Qt::LeftButton);
-    QCOMPARE(button.shown(), QStringLiteral("normal"));
-    button.setImage_Normal(QImage());
-    QTest::mouseRelease(&button, Qt::LeftButton);
-    QCOMPARE(button.shown(), QStringLiteral("normal"));
-    QVERIFY(button.image_Normal().isNull() && button.image_Pressed().isNull());
-}
-
-void tst_OmImageMasked::nextStateImageReplacesTheShownOne()
-{
-    Button button;
-    const QImage wide = flat(kHovered, QSize(40, 10));
-    button.setImage_Hovered(wide);
-    QCOMPARE(button.width(), 20);
-    sendEnter(&button);
-    QCOMPARE(button.width(), 40);
-    QCOMPARE(button.image_Hovered(), wide);
-    // An image that is shown already is not set again.
-    button.resize(7, 7);
-    button.setImage_Pressed(flat(kPressed));
-    QCOMPARE(button.width(), 7);
-    button.setImage_Hovered(flat(kHovered));
-    QCOMPARE(button.width(), 20);
-}
-
-void tst_OmImageMasked::clicksAreReleasesInsideAfterAPress_data()
-{
-    QTest::addColumn<bool>("press");
-    QTest::addColumn<QPoint>("release");
-    QTest::addColumn<int>("clicks");
-    QTest::newRow("inside") << true << QPoint(19, 9) << 1;
-    QTest::newRow("right of it") << true << QPoint(20, 9) << 0;
-    QTest::newRow("above") << true << QPoint(3, -1) << 0;
-    QTest::newRow("without a press") << false << QPoint(5, 5) << 0;
-}
-
-void tst_OmImageMasked::clicksAreReleasesInsideAfterAPress()
-{
-    QFETCH(bool, press);
-    QFETCH(QPoint, release);
-    QFETCH(int, clicks);
-    for (const auto mouseButton : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+    void buttonFollowsTheUser_data()
+    {
+        QTest::addColumn<QString>("images"); // after each step
+        QTest::addColumn<int>("clicks");
+        const auto row = [](const char *steps, const char *images, int clicks) {
+            QTest::newRow(steps) << images << clicks;
+        };
+        row("enter press leave release", "hovered pressed pressed normal", 1);
+        row("enter rightPress rightRelease leave", "hovered pressed hovered normal", 1);
+        row("press releaseRightOfIt release", "pressed normal normal", 0);
+        row("press releaseAbove release", "pressed normal normal", 0);
+        row("release", "normal", 0);
+        row("space", "normal", 1);
+        row("keypadEnter", "normal", 1);
+        row("return escape", "normal normal", 0);
+        // An image that is missing leaves the one before it.
+        row("noHovered enter noPressed press noNormal release",
+            "normal normal normal normal normal normal", 1);
+        // A release that the button does not see
+        row("press disable enable release", "pressed normal normal normal", 0);
+        row("show press hide show release", "normal pressed normal normal normal", 0);
+    }
+    void buttonFollowsTheUser()
+    {
+        QFETCH(QString, images);
+        QFETCH(int, clicks);
         Button button;
-        if (press)
-            QTest::mousePress(&button, mouseButton);
-        QTest::mouseRelease(&button, mouseButton, Qt::NoModifier, release);
-        QCOMPARE(button.clicks, clicks);
-        QCOMPARE(button.shown(), QStringLiteral("normal"));
-        QTest::mouseRelease(&button, mouseButton);
+        QStringList shown;
+        for (const QString &step : words(QTest::currentDataTag())) {
+            perform(step, &button);
+            shown.append(button.shown());
+        }
+        QCOMPARE(shown.join(QLatin1Char(' ')), images);
         QCOMPARE(button.clicks, clicks);
     }
-}
 
-void tst_OmImageMasked::keysClick_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("clicks");
-    QTest::newRow("space") << Qt::Key_Space << 1;
-    QTest::newRow("Enter of the keypad") << Qt::Key_Enter << 1;
-    QTest::newRow("Return") << Qt::Key_Return << 0;
-    QTest::newRow("Escape") << Qt::Key_Escape << 0;
-}
+    void nextStateImageReplacesTheShownOne()
+    {
+        Button button;
+        const QImage wide = flat(kHovered, QSize(40, 10));
+        button.setImage_Hovered(wide);
+        QCOMPARE(button.width(), 20);
+        sendEnter(&button);
+        QCOMPARE(button.width(), 40);
+        QCOMPARE(button.image_Hovered(), wide);
+        // An image that is shown already is not set again.
+        button.resize(7, 7);
+        button.setImage_Pressed(flat(kPressed));
+        QCOMPARE(button.width(), 7);
+        button.setImage_Hovered(flat(kHovered));
+        QCOMPARE(button.width(), 20);
+    }
 
-void tst_OmImageMasked::keysClick()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(int, clicks);
-    Button button;
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&button, &event);
-    QCOMPARE(button.clicks, clicks);
-    QVERIFY(event.isAccepted());
-}
+    void buttonMayBeDeletedInItsSlot_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("mouse") << 0;
+        QTest::newRow("key") << 1;
+        QTest::newRow("screen reader") << 2;
+    }
+    void buttonMayBeDeletedInItsSlot()
+    {
+        QFETCH(int, way);
+        QWidget window;
+        QPointer<Button> button(new Button);
+        button->setParent(&window);
+        window.show();
+        connect(button, &OmImageMaskedButton::signalOnClicked, this, [button] { delete button; });
+        if (way == 0)
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+        else if (way == 1)
+            QTest::keyClick(button.data(), Qt::Key_Space);
+        else
+            pressAccessibly(button);
+        QVERIFY(!button);
+    }
 
-void tst_OmImageMasked::lostReleaseDoesNotLeaveTheButtonPressed()
-{
-    Button button;
-    button.show();
-    for (const bool hide : {false, true}) {
+    void screenReadersSeeAButton()
+    {
+        Button button;
+        button.setToolTip(QStringLiteral("Now"));
+        QCOMPARE(accessible(&button)->role(), QAccessible::Button);
+        QCOMPARE(accessibleName(&button), QStringLiteral("Now"));
+        QVERIFY(!accessible(&button)->state().pressed && !accessible(&button)->state().hotTracked);
+        sendEnter(&button);
         QTest::mousePress(&button, Qt::LeftButton);
-        hide ? button.hide() : button.setEnabled(false);
-        QCOMPARE(button.shown(), QStringLiteral("normal"));
-        button.setEnabled(true);
+        QVERIFY(accessible(&button)->state().pressed && accessible(&button)->state().hotTracked);
+        sendLeave(&button);
         QTest::mouseRelease(&button, Qt::LeftButton);
-        QCOMPARE(button.clicks, 0);
+        QCOMPARE(button.clicks, 1);
+
+        QVERIFY(isAccessiblyPressable(&button));
+        pressAccessibly(&button);
+        QCOMPARE(button.clicks, 2);
+        button.setEnabled(false);
+        QVERIFY(!isAccessiblyPressable(&button));
+        pressAccessibly(&button);
+        QCOMPARE(button.clicks, 2);
     }
-}
-
-void tst_OmImageMasked::buttonMayBeDeletedInItsSlot_data()
-{
-    QTest::addColumn<int>("way");
-    QTest::newRow("mouse") << 0;
-    QTest::newRow("key") << 1;
-    QTest::newRow("screen reader") << 2;
-}
-
-void tst_OmImageMasked::buttonMayBeDeletedInItsSlot()
-{
-    QFETCH(int, way);
-    QWidget window;
-    QPointer<Button> button(new Button);
-    button->setParent(&window);
-    window.show();
-    connect(button, &OmImageMaskedButton::signalOnClicked, this, [button] { delete button; });
-    if (way == 0)
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    else if (way == 1)
-        QTest::keyClick(button.data(), Qt::Key_Space);
-    else
-        pressAccessibly(button);
-    QVERIFY(!button);
-}
-
-void tst_OmImageMasked::screenReadersSeeAButton()
-{
-    Button button;
-    button.setToolTip(QStringLiteral("Now"));
-    QCOMPARE(accessible(&button)->role(), QAccessible::Button);
-    QCOMPARE(accessibleName(&button), QStringLiteral("Now"));
-    QVERIFY(!accessible(&button)->state().pressed && !accessible(&button)->state().hotTracked);
-    sendEnter(&button);
-    QTest::mousePress(&button, Qt::LeftButton);
-    QVERIFY(accessible(&button)->state().pressed && accessible(&button)->state().hotTracked);
-    sendLeave(&button);
-    QTest::mouseRelease(&button, Qt::LeftButton);
-    QCOMPARE(button.clicks, 1);
-
-    QVERIFY(isAccessiblyPressable(&button));
-    pressAccessibly(&button);
-    QCOMPARE(button.clicks, 2);
-    button.setEnabled(false);
-    QVERIFY(!isAccessiblyPressable(&button));
-    pressAccessibly(&button);
-    QCOMPARE(button.clicks, 2);
-}
+};
 
 OMBRIN_TEST_MAIN(tst_OmImageMasked)
 #include "tst_omimagemasked.moc"

@@ -45,295 +45,231 @@ class tst_OmLabel : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsAsAPlainLabel();
-    void metaObjectKnowsTheWholeText();
-    void showsWhatFitsAtEveryWidth_data();
-    void showsWhatFitsAtEveryWidth();
-    void settersShowNothingBeforeTheNextTextOrSize();
-    void followsItsFont();
-    void plainLabelShowsTheWholeText();
-    void whatTheHostShowsThroughQLabelStays();
-    void layoutsGiveRoomForTheWholeTextButNeedNone();
-    void hugeTextsAreShortened();
-    void linkFollowsTheMouse();
-    void onlyLeftReleasesInsideALinkClick_data();
-    void onlyLeftReleasesInsideALinkClick();
-    void realClicksReachALink();
-    void mayBeDeletedInItsSlots_data();
-    void mayBeDeletedInItsSlots();
-    void screenReadersSeeTextOrALink();
-};
-
-void tst_OmLabel::startsAsAPlainLabel()
-{
-    const OmLabel plain;
-    QVERIFY(!plain.isElided() && !plain.isLink());
-    QCOMPARE(plain.elideMode(), Qt::ElideRight);
-    QCOMPARE(plain.text(), QString());
-    QVERIFY(!plain.testAttribute(Qt::WA_SetCursor));
-    QVERIFY(OmLabel(true, nullptr).isElided());
-}
-
-void tst_OmLabel::metaObjectKnowsTheWholeText()
-{
-    ShownLabel test;
-    QVERIFY(test.label->setProperty("text", kText));
-    QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
-    QCOMPARE(test.label->property("text").toString(), kText);
-    QVERIFY(QMetaObject::invokeMethod(test.label, "setText",
-                                      Q_ARG(QString, kText + QLatin1Char('!'))));
-    QCOMPARE(test.label->text(), kText + QLatin1Char('!'));
-    QVERIFY(test.label->setProperty("elide", false) && test.label->setProperty("link", true));
-    QVERIFY(!test.label->isElided() && test.label->isLink());
-    QVERIFY(!test.label->property("elide").toBool() && test.label->property("link").toBool());
-}
-
-void tst_OmLabel::showsWhatFitsAtEveryWidth_data()
-{
-    QTest::addColumn<Qt::TextElideMode>("mode");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("right") << Qt::ElideRight << kText;
-    QTest::newRow("left") << Qt::ElideLeft << kText;
-    QTest::newRow("middle") << Qt::ElideMiddle << kText;
-    QTest::newRow("none") << Qt::ElideNone << kText;
-    QTest::newRow("right-to-left")
-            << Qt::ElideRight << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd Ada, \u05d0\u05d1");
-    QTest::newRow("combining") << Qt::ElideMiddle
-                               << QStringLiteral(u"Ae\u0301\u0323o\u0308\u0308y");
-}
-
-void tst_OmLabel::showsWhatFitsAtEveryWidth()
-{
-    QFETCH(Qt::TextElideMode, mode);
-    QFETCH(QString, text);
-    ShownLabel test;
-    test.label->setElideMode(mode);
-    test.label->setText(text);
-    // Up, down, and to and fro, as a splitter is dragged.
-    QVector<int> widths;
-    for (int width = 0; width < 300; ++width)
-        widths << width;
-    for (int width = 300; width >= 0; width -= 3)
-        widths << width << width + 2;
-    for (const int width : qAsConst(widths)) {
-        test.label->resize(width, 20);
-        QCOMPARE(shownText(*test.label), expectedText(*test.label, text));
-        QCOMPARE(test.label->text(), text);
+    void metaObjectKnowsTheWholeText()
+    {
+        ShownLabel test;
+        QVERIFY(test.label->setProperty("text", kText));
+        QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
+        QCOMPARE(test.label->property("text").toString(), kText);
+        QVERIFY(test.label->setProperty("elide", false) && !test.label->isElided());
+        QVERIFY(test.label->setProperty("link", true) && test.label->isLink());
     }
-}
 
-void tst_OmLabel::settersShowNothingBeforeTheNextTextOrSize()
-{
-    ShownLabel test(60, false);
-    OmLabel &label = *test.label;
-    label.setText(kText);
-    label.enableElide(true);
-    QCOMPARE(shownText(label), kText);
-    label.resize(60, 21);
-    QCOMPARE(shownText(label), expectedText(label, kText));
-
-    const QString before = shownText(label);
-    label.setElideMode(Qt::ElideLeft);
-    QCOMPARE(shownText(label), before);
-    label.resize(60, 22);
-    QVERIFY(shownText(label) != before);
-    QCOMPARE(shownText(label), expectedText(label, kText));
-
-    label.enableElide(false);
-    label.resize(40, 20);
-    QVERIFY(shownText(label).startsWith(QChar(0x2026)));
-    label.setText(kText);
-    QCOMPARE(shownText(label), kText);
-}
-
-void tst_OmLabel::followsItsFont()
-{
-    ShownLabel test(100);
-    test.label->setText(kText);
-    const QString before = shownText(*test.label);
-    QFont font = test.label->font();
-    font.setPixelSize(24);
-    test.label->setFont(font);
-    QVERIFY(shownText(*test.label).size() < before.size());
-    QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
-}
-
-void tst_OmLabel::plainLabelShowsTheWholeText()
-{
-    ShownLabel test(60, false);
-    QLabel reference(kText);
-    test.label->setText(kText);
-    test.label->resize(30, 20);
-    QCOMPARE(shownText(*test.label), kText);
-    QCOMPARE(test.label->sizeHint(), reference.sizeHint());
-    QCOMPARE(test.label->minimumSizeHint(), reference.minimumSizeHint());
-}
-
-void tst_OmLabel::whatTheHostShowsThroughQLabelStays()
-{
-    ShownLabel test;
-    test.label->setText(kText);
-    test.label->setPixmap(QPixmap(8, 8));
-    test.label->resize(90, 20);
-    QVERIFY(!test.label->pixmap(Qt::ReturnByValue).isNull());
-    QCOMPARE(accessible(test.label)->role(), QAccessible::Graphic);
-    test.label->setNum(7);
-    test.label->resize(100, 20);
-    QCOMPARE(shownText(*test.label), QStringLiteral("7"));
-    test.label->setText(kText);
-    QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
-}
-
-void tst_OmLabel::layoutsGiveRoomForTheWholeTextButNeedNone()
-{
-    QLabel reference(kText);
-    QWidget window;
-    QHBoxLayout row(&window);
-    row.setContentsMargins(0, 0, 0, 0);
-    auto *const label = new OmLabel(true, &window);
-    row.addWidget(label);
-    row.addStretch();
-    label->setText(kText);
-    window.resize(600, 40);
-    window.show();
-    QCOMPARE(label->sizeHint(), reference.sizeHint());
-    QCOMPARE(label->width(), reference.sizeHint().width());
-    QCOMPARE(shownText(*label), kText);
-
-    window.resize(window.minimumSizeHint());
-    QVERIFY(label->width() < 25);
-    QCOMPARE(label->sizeHint(), reference.sizeHint());
-    window.resize(600, 40);
-    QCOMPARE(shownText(*label), kText);
-}
-
-void tst_OmLabel::hugeTextsAreShortened()
-{
-    const QString texts[] = {QString(100000, QLatin1Char('x')), QString(100000, QChar(0x05d0)),
-                             QString(100000, QChar(0x0301))};
-    ShownLabel test(100);
-    for (const QString &text : texts) {
+    void showsWhatFitsAtEveryWidth_data()
+    {
+        QTest::addColumn<Qt::TextElideMode>("mode");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("right") << Qt::ElideRight << kText;
+        QTest::newRow("left") << Qt::ElideLeft << kText;
+        QTest::newRow("middle") << Qt::ElideMiddle << kText;
+        QTest::newRow("none") << Qt::ElideNone << kText;
+        QTest::newRow("right-to-left")
+                << Qt::ElideRight << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd Ada, \u05d0\u05d1");
+        QTest::newRow("combining")
+                << Qt::ElideMiddle << QStringLiteral(u"Ae\u0301\u0323o\u0308\u0308y");
+    }
+    void showsWhatFitsAtEveryWidth()
+    {
+        QFETCH(Qt::TextElideMode, mode);
+        QFETCH(QString, text);
+        ShownLabel test;
+        test.label->setElideMode(mode);
         test.label->setText(text);
-        QCOMPARE(test.label->text(), text);
-        QCOMPARE(shownText(*test.label), expectedText(*test.label, text));
-        QVERIFY(test.label->sizeHint().width() >= 0);
-        test.label->grab();
+        // Up, down, and to and fro, as a splitter is dragged.
+        QVector<int> widths;
+        for (int width = 0; width < 300; ++width)
+            widths << width;
+        for (int width = 300; width >= 0; width -= 3)
+            widths << width << width + 2;
+        for (const int width : qAsConst(widths)) {
+            test.label->resize(width, 20);
+            QCOMPARE(shownText(*test.label), expectedText(*test.label, text));
+            QCOMPARE(test.label->text(), text);
+        }
     }
-}
 
-void tst_OmLabel::linkFollowsTheMouse()
-{
-    OmLabel label;
-    QSignalSpy spy(&label, &OmLabel::hovered);
-    sendEnter(&label);
-    sendLeave(&label);
-    QCOMPARE(spy.size(), 0);
-    QVERIFY(!label.testAttribute(Qt::WA_SetCursor));
+    void settersShowNothingBeforeTheNextTextOrSize()
+    {
+        ShownLabel test(60, false);
+        OmLabel &label = *test.label;
+        label.setText(kText);
+        label.resize(50, 20);
+        QCOMPARE(shownText(label), kText);
+        QCOMPARE(label.minimumSizeHint(), QLabel(kText).minimumSizeHint());
+        label.enableElide(true);
+        QCOMPARE(shownText(label), kText);
+        label.resize(60, 21);
+        QCOMPARE(shownText(label), expectedText(label, kText));
 
-    label.enableLink(true);
-    sendEnter(&label);
-    QCOMPARE(label.cursor().shape(), Qt::PointingHandCursor);
-    QCOMPARE(spy.takeFirst().first().toBool(), true);
-    sendLeave(&label);
-    QCOMPARE(label.cursor().shape(), Qt::ArrowCursor);
-    QCOMPARE(spy.takeFirst().first().toBool(), false);
-}
+        const QString before = shownText(label);
+        label.setElideMode(Qt::ElideLeft);
+        QCOMPARE(shownText(label), before);
+        label.resize(60, 22);
+        QVERIFY(shownText(label) != before);
+        QCOMPARE(shownText(label), expectedText(label, kText));
 
-void tst_OmLabel::onlyLeftReleasesInsideALinkClick_data()
-{
-    QTest::addColumn<bool>("link");
-    QTest::addColumn<bool>("left");
-    QTest::addColumn<QPoint>("position");
-    QTest::addColumn<int>("clicks");
-    QTest::newRow("link") << true << true << QPoint(59, 19) << 1;
-    QTest::newRow("outside") << true << true << QPoint(60, 19) << 0;
-    QTest::newRow("right button") << true << false << QPoint(5, 5) << 0;
-    QTest::newRow("no link") << false << true << QPoint(5, 5) << 0;
-}
-
-void tst_OmLabel::onlyLeftReleasesInsideALinkClick()
-{
-    QFETCH(bool, link);
-    QFETCH(bool, left);
-    QFETCH(QPoint, position);
-    QFETCH(int, clicks);
-    OmLabel label;
-    label.resize(60, 20);
-    label.enableLink(link);
-    QSignalSpy spy(&label, &OmLabel::clicked);
-    QTest::mouseRelease(&label, left ? Qt::LeftButton : Qt::RightButton, Qt::NoModifier, position);
-    QCOMPARE(spy.size(), clicks);
-}
-
-void tst_OmLabel::realClicksReachALink()
-{
-    ShownLabel test;
-    QVERIFY(QTest::qWaitForWindowExposed(&test.window));
-    test.label->enableLink(true);
-    QSignalSpy spy(test.label, &OmLabel::clicked);
-    QWindow *const window = test.window.windowHandle();
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    QCOMPARE(spy.size(), 1);
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(200, 50));
-    QCOMPARE(spy.size(), 1);
-}
-
-void tst_OmLabel::mayBeDeletedInItsSlots_data()
-{
-    QTest::addColumn<QString>("signal");
-    QTest::newRow("clicked") << "clicked";
-    QTest::newRow("entered") << "entered";
-    QTest::newRow("left") << "left";
-}
-
-void tst_OmLabel::mayBeDeletedInItsSlots()
-{
-    QFETCH(QString, signal);
-    ShownLabel test;
-    test.label->enableLink(true);
-    const auto destroy = [&test] { delete test.label; };
-    if (signal == QLatin1String("clicked")) {
-        connect(test.label, &OmLabel::clicked, this, destroy);
-        QTest::mouseClick(test.window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    } else {
-        connect(test.label, &OmLabel::hovered, this, destroy);
-        signal == QLatin1String("entered") ? sendEnter(test.label) : sendLeave(test.label);
+        label.enableElide(false);
+        label.resize(40, 20);
+        QVERIFY(shownText(label).startsWith(QChar(0x2026)));
+        label.setText(kText);
+        QCOMPARE(shownText(label), kText);
     }
-    QVERIFY(!test.label);
-}
 
-void tst_OmLabel::screenReadersSeeTextOrALink()
-{
-    ShownLabel test;
-    OmLabel &label = *test.label;
-    label.setText(kText);
-    QCOMPARE(accessible(&label)->role(), QAccessible::StaticText);
-    QCOMPARE(accessibleName(&label), kText);
-    QVERIFY(accessible(&label)->state().readOnly && !accessible(&label)->state().linked);
-    QVERIFY(!isAccessiblyPressable(&label));
+    void followsItsFont()
+    {
+        ShownLabel test(100);
+        test.label->setText(kText);
+        const QString before = shownText(*test.label);
+        QFont font = test.label->font();
+        font.setPixelSize(24);
+        test.label->setFont(font);
+        QVERIFY(shownText(*test.label).size() < before.size());
+        QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
+    }
 
-    QSignalSpy spy(&label, &OmLabel::clicked);
-    pressAccessibly(&label);
-    QCOMPARE(spy.size(), 0);
-    label.enableLink(true);
-    QCOMPARE(accessible(&label)->role(), QAccessible::Link);
-    QVERIFY(accessible(&label)->state().linked && isAccessiblyPressable(&label));
-    pressAccessibly(&label);
-    QCOMPARE(spy.size(), 1);
+    void whatTheHostShowsThroughQLabelStays()
+    {
+        ShownLabel test;
+        test.label->setText(kText);
+        test.label->setPixmap(QPixmap(8, 8));
+        test.label->resize(90, 20);
+        QVERIFY(!test.label->pixmap(Qt::ReturnByValue).isNull());
+        QCOMPARE(accessible(test.label)->role(), QAccessible::Graphic);
+        test.label->setNum(7);
+        test.label->resize(100, 20);
+        QCOMPARE(shownText(*test.label), QStringLiteral("7"));
+        test.label->setText(kText);
+        QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
+    }
 
-    label.setText(QStringLiteral("<b>Ada</b> &amp; Max"));
-    QCOMPARE(accessibleName(&label), QStringLiteral("Ada & Max"));
-    label.setTextFormat(Qt::PlainText);
-    QCOMPARE(accessibleName(&label), QStringLiteral("<b>Ada</b> &amp; Max"));
-    QLineEdit edit;
-    label.setBuddy(&edit);
-    label.setText(QStringLiteral("&Name && more"));
-    QCOMPARE(accessibleName(&label), QStringLiteral("Name & more"));
-    const auto relations = accessible(&label)->relations(QAccessible::Labelled);
-    QCOMPARE(relations.size(), 1);
-    QCOMPARE(relations.first().first->object(), &edit);
-}
+    void layoutsGiveRoomForTheWholeTextButNeedNone()
+    {
+        QLabel reference(kText);
+        QWidget window;
+        QHBoxLayout row(&window);
+        row.setContentsMargins(0, 0, 0, 0);
+        auto *const label = new OmLabel(true, &window);
+        row.addWidget(label);
+        row.addStretch();
+        label->setText(kText);
+        window.resize(600, 40);
+        window.show();
+        QCOMPARE(label->sizeHint(), reference.sizeHint());
+        QCOMPARE(label->width(), reference.sizeHint().width());
+        QCOMPARE(shownText(*label), kText);
+
+        window.resize(window.minimumSizeHint());
+        QVERIFY(label->width() < 25);
+        QCOMPARE(label->sizeHint(), reference.sizeHint());
+        window.resize(600, 40);
+        QCOMPARE(shownText(*label), kText);
+    }
+
+    void hugeTextsAreShortened()
+    {
+        const QString texts[] = {QString(100000, QLatin1Char('x')), QString(100000, QChar(0x05d0)),
+                                 QString(100000, QChar(0x0301))};
+        ShownLabel test(100);
+        for (const QString &text : texts) {
+            test.label->setText(text);
+            QCOMPARE(test.label->text(), text);
+            QCOMPARE(shownText(*test.label), expectedText(*test.label, text));
+            QVERIFY(test.label->sizeHint().width() >= 0);
+            test.label->grab();
+        }
+    }
+
+    void linkFollowsTheMouse()
+    {
+        OmLabel label;
+        QSignalSpy spy(&label, &OmLabel::hovered);
+        sendEnter(&label);
+        sendLeave(&label);
+        QCOMPARE(spy.size(), 0);
+        QVERIFY(!label.testAttribute(Qt::WA_SetCursor));
+
+        label.enableLink(true);
+        sendEnter(&label);
+        QCOMPARE(label.cursor().shape(), Qt::PointingHandCursor);
+        QCOMPARE(spy.takeFirst().first().toBool(), true);
+        sendLeave(&label);
+        QCOMPARE(label.cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(spy.takeFirst().first().toBool(), false);
+    }
+
+    void onlyLeftReleasesInsideALinkClick()
+    {
+        ShownLabel test;
+        QVERIFY(QTest::qWaitForWindowExposed(&test.window));
+        const auto clicksFor = [&test](Qt::MouseButton button, const QPoint &release) {
+            QSignalSpy spy(test.label, &OmLabel::clicked);
+            QWindow *const window = test.window.windowHandle();
+            QTest::mousePress(window, button, Qt::NoModifier, QPoint(5, 5));
+            QTest::mouseRelease(window, button, Qt::NoModifier, release);
+            return spy.size();
+        };
+        QCOMPARE(clicksFor(Qt::LeftButton, {59, 19}), 0);
+        test.label->enableLink(true);
+        QCOMPARE(clicksFor(Qt::LeftButton, {59, 19}), 1);
+        QCOMPARE(clicksFor(Qt::LeftButton, {60, 19}), 0);
+        QCOMPARE(clicksFor(Qt::RightButton, {5, 5}), 0);
+    }
+
+    void mayBeDeletedInItsSlots_data()
+    {
+        QTest::addColumn<QString>("signal");
+        for (const char *signal : {"clicked", "entered", "left"})
+            QTest::newRow(signal) << signal;
+    }
+    void mayBeDeletedInItsSlots()
+    {
+        QFETCH(QString, signal);
+        ShownLabel test;
+        test.label->enableLink(true);
+        const auto destroy = [&test] { delete test.label; };
+        if (signal == QLatin1String("clicked")) {
+            connect(test.label, &OmLabel::clicked, this, destroy);
+            QTest::mouseClick(test.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              QPoint(5, 5));
+        } else {
+            connect(test.label, &OmLabel::hovered, this, destroy);
+            signal == QLatin1String("entered") ? sendEnter(test.label) : sendLeave(test.label);
+        }
+        QVERIFY(!test.label);
+    }
+
+    void screenReadersSeeTextOrALink()
+    {
+        ShownLabel test;
+        OmLabel &label = *test.label;
+        label.setText(kText);
+        QCOMPARE(accessible(&label)->role(), QAccessible::StaticText);
+        QCOMPARE(accessibleName(&label), kText);
+        QVERIFY(accessible(&label)->state().readOnly && !accessible(&label)->state().linked);
+        QVERIFY(!isAccessiblyPressable(&label));
+
+        QSignalSpy spy(&label, &OmLabel::clicked);
+        pressAccessibly(&label);
+        QCOMPARE(spy.size(), 0);
+        label.enableLink(true);
+        QCOMPARE(accessible(&label)->role(), QAccessible::Link);
+        QVERIFY(accessible(&label)->state().linked && isAccessiblyPressable(&label));
+        pressAccessibly(&label);
+        QCOMPARE(spy.size(), 1);
+
+        label.setText(QStringLiteral("<b>Ada</b> &amp; Max"));
+        QCOMPARE(accessibleName(&label), QStringLiteral("Ada & Max"));
+        label.setTextFormat(Qt::PlainText);
+        QCOMPARE(accessibleName(&label), QStringLiteral("<b>Ada</b> &amp; Max"));
+        QLineEdit edit;
+        label.setBuddy(&edit);
+        label.setText(QStringLiteral("&Name && more"));
+        QCOMPARE(accessibleName(&label), QStringLiteral("Name & more"));
+        const auto relations = accessible(&label)->relations(QAccessible::Labelled);
+        QCOMPARE(relations.size(), 1);
+        QCOMPARE(relations.first().first->object(), &edit);
+    }
+};
 
 OMBRIN_TEST_MAIN(tst_OmLabel)
 #include "tst_omlabel.moc"

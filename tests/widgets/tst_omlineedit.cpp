@@ -2,7 +2,6 @@
 
 #include <ombrin/OmLineEdit.h>
 
-#include <QtGui/QInputMethodEvent>
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCompleter>
@@ -10,6 +9,7 @@
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QMenu>
 
+using namespace ombrin::test;
 using ombrin::OmLineEdit;
 
 namespace {
@@ -48,6 +48,26 @@ struct Form
     }
     bool isReady() { return QTest::qWaitForWindowActive(&window); }
 
+    // One step of a user or a host, with a text behind ':'.
+    void perform(const QString &step)
+    {
+        const QString text = step.section(QLatin1Char(':'), 1);
+        if (step == QLatin1String("focus"))
+            edit->setFocus();
+        else if (step == QLatin1String("leave"))
+            other->setFocus();
+        else if (step == QLatin1String("update"))
+            edit->updateFocusMessage();
+        else if (step == QLatin1String("undo"))
+            edit->undo();
+        else if (step.startsWith(QLatin1String("type:")))
+            QTest::keyClicks(edit, text);
+        else if (step.startsWith(QLatin1String("setText:")))
+            edit->setText(text);
+        else if (step.startsWith(QLatin1String("message:")))
+            edit->setNoFocusMessage(text);
+    }
+
     QWidget window;
     OmLineEdit *const edit = new OmLineEdit;
     QLineEdit *const other = new QLineEdit;
@@ -60,312 +80,189 @@ class tst_OmLineEdit : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void messageIsShownAtOnceInGrey();
-    void focusTakesTheMessageAwayAndBringsItBack();
-    void typedTextStays();
-    void typingTheMessageIsTypingNothing();
-    void updateShowsTheMessageInAnEmptyEditWithoutFocus();
-    void messageReplacesTextAndKeepsItsColour();
-    void textOfTheHostHasTheTextColour();
-    void withoutParentTextHasTheColourOfLineEdits();
-    void emptyMessageIsHarmless();
-    void cutOffMessagesStillCountAsMessages_data();
-    void cutOffMessagesStillCountAsMessages();
-    void messageCannotBeBroughtBackByUndoing();
-    void contextMenuDoesNotCountAsLeaving();
-    void propertyAndMappersNeverSeeTheMessage();
-    void receiversOfTextChangedNeverSeeTheMessage();
-    void mayBeDeletedWhenTheHostShowsItsMessage_data();
-    void mayBeDeletedWhenTheHostShowsItsMessage();
-    void completesWhatIsTyped();
-    void readOnlyEditShowsItsMessageToo();
-    void composedTextCountsOnceItIsCommitted();
-};
+    void messageIsShownAtOnceInGrey()
+    {
+        OmLineEdit edit;
+        QVERIFY(edit.setProperty("noFocusMessage", kMessage));
+        QCOMPARE(edit.property("noFocusMessage").toString(), kMessage);
+        QCOMPARE(shownText(edit), kMessage);
+        QCOMPARE(shownColor(&edit), kGrey);
+        QCOMPARE(edit.text(), QString());
+    }
 
-void tst_OmLineEdit::messageIsShownAtOnceInGrey()
-{
-    OmLineEdit edit;
-    QCOMPARE(shownColor(&edit), kGrey);
-    QCOMPARE(edit.noFocusMessage(), QString());
-    QCOMPARE(edit.text(), QString());
-    QVERIFY(edit.setProperty("noFocusMessage", kMessage));
-    QCOMPARE(edit.property("noFocusMessage").toString(), kMessage);
-    QCOMPARE(shownText(edit), kMessage);
-    QCOMPARE(shownColor(&edit), kGrey);
-    QCOMPARE(edit.text(), QString());
-}
+    void messageComesAndGoes_data()
+    {
+        QTest::addColumn<QString>("shown"); // after each step; "*" says grey, "_" nothing
+        const auto row = [](const char *steps, const char *shown) {
+            QTest::newRow(steps) << shown;
+        };
+        row("focus leave focus leave", "_ Hint* _ Hint*");
+        row("focus type:Ada leave focus", "_ Ada Ada Ada");
+        row("focus type:Hint leave focus", "_ Hint Hint* _"); // which is typing nothing
+        row("setText:Ada update focus", "Ada Ada Ada");
+        row("setText: update", "_ Hint*");
+        row("focus update", "_ _");
+        row("focus undo", "_ _");
+        row("focus type:Ada message:Somebody", "_ Ada Somebody"); // whose colour stays
+        row("message: focus type:a setText: leave", "_ _ a _ _");
+    }
+    void messageComesAndGoes()
+    {
+        QFETCH(QString, shown);
+        Form form;
+        form.edit->setNoFocusMessage(QStringLiteral("Hint"));
+        QVERIFY(form.isReady());
+        QStringList seen;
+        for (const QString &step : words(QTest::currentDataTag())) {
+            form.perform(step);
+            const QString text = shownText(*form.edit);
+            const bool isMessage = text == form.edit->noFocusMessage();
+            QCOMPARE(form.edit->text(), isMessage ? QString() : text);
+            const QColor color = shownColor(form.edit);
+            QVERIFY(color == kGrey || color == kTextColor);
+            if (text.isEmpty())
+                seen.append(QStringLiteral("_"));
+            else
+                seen.append(color == kGrey ? text + QLatin1Char('*') : text);
+        }
+        QCOMPARE(seen.join(QLatin1Char(' ')), shown);
+    }
 
-void tst_OmLineEdit::focusTakesTheMessageAwayAndBringsItBack()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    QCOMPARE(shownText(*form.edit), kMessage);
-    for (int round = 0; round < 2; ++round) {
+    void withoutParentTextHasTheColourOfLineEdits()
+    {
+        OmLineEdit edit;
+        edit.setNoFocusMessage(kMessage);
+        edit.show();
+        edit.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&edit));
+        edit.setFocus();
+        QCOMPARE(shownText(edit), QString());
+        QCOMPARE(shownColor(&edit), QApplication::palette(&edit).color(QPalette::Text));
+    }
+
+    void cutOffMessagesStillCountAsMessages_data()
+    {
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<int>("maxLength");
+        QTest::newRow("short field") << kMessage << 4;
+        QTest::newRow("100,000 characters") << QString(100000, QLatin1Char('x')) << 32767;
+        QTest::newRow("right-to-left") << QString(40, QChar(0x05d0)) << 10;
+        QTest::newRow("lines") << QStringLiteral("one\ntwo") << 32767;
+    }
+    void cutOffMessagesStillCountAsMessages()
+    {
+        QFETCH(QString, message);
+        QFETCH(int, maxLength);
+        Form form;
+        QVERIFY(form.isReady());
+        form.edit->setMaxLength(maxLength);
+        form.edit->setNoFocusMessage(message);
+        QCOMPARE(form.edit->noFocusMessage(), message);
+        QVERIFY(!shownText(*form.edit).isEmpty());
+        QCOMPARE(form.edit->text(), QString());
+        form.edit->grab();
         form.edit->setFocus();
         QCOMPARE(shownText(*form.edit), QString());
+    }
+
+    void contextMenuDoesNotCountAsLeaving()
+    {
+        Form form;
+        QVERIFY(form.isReady());
+        form.edit->setFocus();
+        QMenu menu;
+        menu.addAction(QStringLiteral("Paste"));
+        menu.popup(form.window.pos());
+        QCOMPARE(shownText(*form.edit), QString());
+        menu.close();
+        QTest::keyClicks(form.edit, QStringLiteral("a"));
+        QCOMPARE(form.edit->text(), QStringLiteral("a"));
+    }
+
+    void propertyAndMappersNeverSeeTheMessage()
+    {
+        Form form;
+        QCOMPARE(form.edit->property("text").toString(), QString());
+        QCOMPARE(QByteArray(form.edit->metaObject()->userProperty().name()), QByteArray("text"));
+
+        QStandardItemModel model(1, 1);
+        model.setData(model.index(0, 0), QStringLiteral("Ada"));
+        QDataWidgetMapper mapper;
+        mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
+        mapper.setModel(&model);
+        mapper.addMapping(form.edit, 0);
+        mapper.toFirst();
+        QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
+        form.edit->clear();
+        form.edit->updateFocusMessage();
+        mapper.submit();
+        QCOMPARE(model.data(model.index(0, 0)).toString(), QString());
+    }
+
+    void receiversOfTextChangedNeverSeeTheMessage()
+    {
+        Form form;
+        QVERIFY(form.isReady());
+        QStringList seen;
+        connect(form.edit, &QLineEdit::textChanged, this, [&] { seen << form.edit->text(); });
+        form.edit->setNoFocusMessage(QStringLiteral("Other"));
+        form.edit->setFocus();
+        form.other->setFocus();
+        const QStringList nothing{QString(), QString(), QString()};
+        QCOMPARE(seen, nothing);
+    }
+
+    void mayBeDeletedWhenTheHostShowsItsMessage_data()
+    {
+        QTest::addColumn<bool>("textSignal");
+        QTest::addColumn<bool>("update");
+        QTest::newRow("text, new message") << true << false;
+        QTest::newRow("text, update") << true << true;
+        QTest::newRow("cursor, new message") << false << false;
+        QTest::newRow("cursor, update") << false << true;
+    }
+    void mayBeDeletedWhenTheHostShowsItsMessage()
+    {
+        QFETCH(bool, textSignal);
+        QFETCH(bool, update);
+        Form form;
+        if (update)
+            form.edit->clear();
+        const QPointer<OmLineEdit> edit(form.edit);
+        const auto destroy = [edit] { delete edit; };
+        if (textSignal)
+            connect(edit, &QLineEdit::textChanged, this, destroy);
+        else
+            connect(edit, &QLineEdit::cursorPositionChanged, this, destroy);
+        if (update)
+            edit->updateFocusMessage();
+        else
+            edit->setNoFocusMessage(QStringLiteral("Somebody"));
+        QVERIFY(!edit);
+    }
+
+    void completesWhatIsTyped()
+    {
+        Form form;
+        QVERIFY(form.isReady());
+        auto *const completer =
+                new QCompleter({QStringLiteral("Ada"), QStringLiteral("Adele")}, form.edit);
+        form.edit->setCompleter(completer);
+        form.edit->setFocus();
+        QTest::keyClicks(form.edit, QStringLiteral("Ad"));
+        QTRY_VERIFY(completer->popup()->isVisible());
+        QCOMPARE(form.edit->text(), QStringLiteral("Ad"));
+        QTest::keyClick(completer->popup(), Qt::Key_Down);
+        QTest::keyClick(completer->popup(), Qt::Key_Return);
+        QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
         QCOMPARE(shownColor(form.edit), kTextColor);
+
+        form.edit->clear();
         form.other->setFocus();
         QCOMPARE(shownText(*form.edit), kMessage);
-        QCOMPARE(shownColor(form.edit), kGrey);
-        QCOMPARE(form.edit->text(), QString());
+        QVERIFY(!completer->popup()->isVisible());
     }
-}
-
-void tst_OmLineEdit::typedTextStays()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setFocus();
-    QTest::keyClicks(form.edit, QStringLiteral("Ada"));
-    form.other->setFocus();
-    QCOMPARE(shownText(*form.edit), QStringLiteral("Ada"));
-    QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
-    QCOMPARE(shownColor(form.edit), kTextColor);
-    form.edit->setFocus();
-    QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
-}
-
-void tst_OmLineEdit::typingTheMessageIsTypingNothing()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setFocus();
-    QTest::keyClicks(form.edit, kMessage);
-    QCOMPARE(form.edit->text(), QString());
-    form.other->setFocus();
-    QCOMPARE(shownText(*form.edit), kMessage);
-    QCOMPARE(shownColor(form.edit), kGrey);
-}
-
-void tst_OmLineEdit::updateShowsTheMessageInAnEmptyEditWithoutFocus()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setText(QStringLiteral("Ada"));
-    form.edit->updateFocusMessage();
-    QCOMPARE(shownText(*form.edit), QStringLiteral("Ada"));
-    form.edit->clear();
-    form.edit->updateFocusMessage();
-    QCOMPARE(shownText(*form.edit), kMessage);
-    QCOMPARE(shownColor(form.edit), kGrey);
-    form.edit->setFocus();
-    form.edit->updateFocusMessage();
-    QCOMPARE(shownText(*form.edit), QString());
-    QCOMPARE(shownColor(form.edit), kTextColor);
-}
-
-void tst_OmLineEdit::messageReplacesTextAndKeepsItsColour()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setFocus();
-    QTest::keyClicks(form.edit, QStringLiteral("Ada"));
-    form.edit->setNoFocusMessage(QStringLiteral("Somebody"));
-    QCOMPARE(shownText(*form.edit), QStringLiteral("Somebody"));
-    QCOMPARE(form.edit->text(), QString());
-    QCOMPARE(shownColor(form.edit), kTextColor);
-}
-
-void tst_OmLineEdit::textOfTheHostHasTheTextColour()
-{
-    Form form;
-    form.edit->setText(QStringLiteral("Ada"));
-    QCOMPARE(shownColor(form.edit), kTextColor);
-    QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
-}
-
-void tst_OmLineEdit::withoutParentTextHasTheColourOfLineEdits()
-{
-    OmLineEdit edit;
-    edit.setNoFocusMessage(kMessage);
-    edit.show();
-    edit.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&edit));
-    edit.setFocus();
-    QCOMPARE(shownText(edit), QString());
-    QCOMPARE(shownColor(&edit), QApplication::palette(&edit).color(QPalette::Text));
-}
-
-void tst_OmLineEdit::emptyMessageIsHarmless()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setNoFocusMessage(QString());
-    form.edit->setFocus();
-    QTest::keyClicks(form.edit, QStringLiteral("a"));
-    QCOMPARE(shownColor(form.edit), kTextColor);
-    QTest::keyClick(form.edit, Qt::Key_Backspace);
-    form.other->setFocus();
-    QCOMPARE(shownText(*form.edit), QString());
-    QCOMPARE(form.edit->text(), QString());
-}
-
-void tst_OmLineEdit::cutOffMessagesStillCountAsMessages_data()
-{
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<int>("maxLength");
-    QTest::newRow("short field") << kMessage << 4;
-    QTest::newRow("100,000 characters") << QString(100000, QLatin1Char('x')) << 32767;
-    QTest::newRow("right-to-left") << QString(40, QChar(0x05d0)) << 10;
-    QTest::newRow("lines") << QStringLiteral("one\ntwo") << 32767;
-}
-
-void tst_OmLineEdit::cutOffMessagesStillCountAsMessages()
-{
-    QFETCH(QString, message);
-    QFETCH(int, maxLength);
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setMaxLength(maxLength);
-    form.edit->setNoFocusMessage(message);
-    QCOMPARE(form.edit->noFocusMessage(), message);
-    QVERIFY(!shownText(*form.edit).isEmpty());
-    QCOMPARE(form.edit->text(), QString());
-    form.edit->grab();
-    form.edit->setFocus();
-    QCOMPARE(shownText(*form.edit), QString());
-}
-
-void tst_OmLineEdit::messageCannotBeBroughtBackByUndoing()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setFocus();
-    QVERIFY(!form.edit->isUndoAvailable());
-    form.edit->undo();
-    QCOMPARE(shownText(*form.edit), QString());
-}
-
-void tst_OmLineEdit::contextMenuDoesNotCountAsLeaving()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setFocus();
-    QMenu menu;
-    menu.addAction(QStringLiteral("Paste"));
-    menu.popup(form.window.pos());
-    QCOMPARE(shownText(*form.edit), QString());
-    menu.close();
-    QTest::keyClicks(form.edit, QStringLiteral("a"));
-    QCOMPARE(form.edit->text(), QStringLiteral("a"));
-}
-
-void tst_OmLineEdit::propertyAndMappersNeverSeeTheMessage()
-{
-    Form form;
-    QCOMPARE(form.edit->property("text").toString(), QString());
-    QCOMPARE(QByteArray(form.edit->metaObject()->userProperty().name()), QByteArray("text"));
-
-    QStandardItemModel model(1, 1);
-    model.setData(model.index(0, 0), QStringLiteral("Ada"));
-    QDataWidgetMapper mapper;
-    mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
-    mapper.setModel(&model);
-    mapper.addMapping(form.edit, 0);
-    mapper.toFirst();
-    QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
-    form.edit->clear();
-    form.edit->updateFocusMessage();
-    mapper.submit();
-    QCOMPARE(model.data(model.index(0, 0)).toString(), QString());
-}
-
-void tst_OmLineEdit::receiversOfTextChangedNeverSeeTheMessage()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    QStringList seen;
-    connect(form.edit, &QLineEdit::textChanged, this, [&] { seen << form.edit->text(); });
-    form.edit->setNoFocusMessage(QStringLiteral("Other"));
-    form.edit->setFocus();
-    form.other->setFocus();
-    const QStringList nothing{QString(), QString(), QString()};
-    QCOMPARE(seen, nothing);
-}
-
-void tst_OmLineEdit::mayBeDeletedWhenTheHostShowsItsMessage_data()
-{
-    QTest::addColumn<bool>("textSignal");
-    QTest::addColumn<bool>("update");
-    QTest::newRow("text, new message") << true << false;
-    QTest::newRow("text, update") << true << true;
-    QTest::newRow("cursor, new message") << false << false;
-    QTest::newRow("cursor, update") << false << true;
-}
-
-void tst_OmLineEdit::mayBeDeletedWhenTheHostShowsItsMessage()
-{
-    QFETCH(bool, textSignal);
-    QFETCH(bool, update);
-    Form form;
-    if (update)
-        form.edit->clear();
-    const QPointer<OmLineEdit> edit(form.edit);
-    const auto destroy = [edit] { delete edit; };
-    if (textSignal)
-        connect(edit, &QLineEdit::textChanged, this, destroy);
-    else
-        connect(edit, &QLineEdit::cursorPositionChanged, this, destroy);
-    if (update)
-        edit->updateFocusMessage();
-    else
-        edit->setNoFocusMessage(QStringLiteral("Somebody"));
-    QVERIFY(!edit);
-}
-
-void tst_OmLineEdit::completesWhatIsTyped()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    auto *const completer =
-            new QCompleter({QStringLiteral("Ada"), QStringLiteral("Adele")}, form.edit);
-    form.edit->setCompleter(completer);
-    form.edit->setFocus();
-    QTest::keyClicks(form.edit, QStringLiteral("Ad"));
-    QTRY_VERIFY(completer->popup()->isVisible());
-    QCOMPARE(form.edit->text(), QStringLiteral("Ad"));
-    QTest::keyClick(completer->popup(), Qt::Key_Down);
-    QTest::keyClick(completer->popup(), Qt::Key_Return);
-    QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
-    QCOMPARE(shownColor(form.edit), kTextColor);
-
-    form.edit->clear();
-    form.other->setFocus();
-    QCOMPARE(shownText(*form.edit), kMessage);
-    QVERIFY(!completer->popup()->isVisible());
-}
-
-void tst_OmLineEdit::readOnlyEditShowsItsMessageToo()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setReadOnly(true);
-    QCOMPARE(form.edit->text(), QString());
-    form.edit->setFocus();
-    QCOMPARE(shownText(*form.edit), QString());
-    QTest::keyClicks(form.edit, QStringLiteral("a"));
-    form.other->setFocus();
-    QCOMPARE(shownText(*form.edit), kMessage);
-    QCOMPARE(form.edit->text(), QString());
-}
-
-void tst_OmLineEdit::composedTextCountsOnceItIsCommitted()
-{
-    Form form;
-    QVERIFY(form.isReady());
-    form.edit->setFocus();
-    QInputMethodEvent composing(QStringLiteral("ni"), {});
-    QCoreApplication::sendEvent(form.edit, &composing);
-    QCOMPARE(form.edit->text(), QString());
-    form.edit->updateFocusMessage();
-    QCOMPARE(shownText(*form.edit), QString());
-    QInputMethodEvent committing;
-    committing.setCommitString(QStringLiteral("\u4f60"));
-    QCoreApplication::sendEvent(form.edit, &committing);
-    form.other->setFocus();
-    QCOMPARE(form.edit->text(), QStringLiteral("\u4f60"));
-    QCOMPARE(shownColor(form.edit), kTextColor);
-}
+};
 
 OMBRIN_TEST_MAIN(tst_OmLineEdit)
 #include "tst_omlineedit.moc"

@@ -118,6 +118,7 @@ private Q_SLOTS:
         QFETCH(Qt::LayoutDirection, direction);
         Button button(text);
         QCOMPARE(button.cursor().shape(), Qt::PointingHandCursor);
+        QCOMPARE(button.sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed));
         button.setEnabled(enabled);
         button.setLayoutDirection(direction);
         QImage expected = blank(button.size());

@@ -48,8 +48,11 @@ void OmContactCardList::addCard(OmContactCard *card)
         return;
     card->setBig(m_cards.isEmpty());
     m_layout->insertWidget(m_layout->count() - kItemsBehindCards, card);
-    connect(card, &OmContactCard::clicked, this, &OmContactCardList::slotClicked);
-    connect(card, &OmContactCard::actionId, this, &OmContactCardList::slotAction);
+    // As slotClicked() and slotAction(), which would have to look for the sender among all cards.
+    connect(card, &OmContactCard::clicked, this, [this, card] { makeOnlyBig(card); });
+    connect(card, &OmContactCard::actionId, this, [this, card](const QString &id) {
+        Q_EMIT actionId(id, card->ombrinId());
+    });
     m_cards.append(card);
     if (card->isBig())
         m_layout->noteBig(card);

@@ -66,8 +66,8 @@ Q_SIGNALS:
     void added(OmContactCard *card);
 
 private Q_SLOTS:
-    // For signals of a card: records it as the current card, and makes it big shortly afterwards.
-    // The host may connect to it by name.
+    // For signals of a card. The first records it as the current card, and makes it big shortly
+    // afterwards; the host may connect to it by name.
     void slotClickedTimer();
     void slotClicked();
     void slotAction(const QString &id);

@@ -27,6 +27,8 @@ QByteArray pathOf(const QString &file)
 // memory ends; nothing may leave this class, since nobody catches it in the service's thread.
 std::unique_ptr<SpellingBackend> HunspellBackend::create(const SpellingFiles &files)
 {
+    if (!areUsable(files)) // Removed by now; Hunspell would print it.
+        return nullptr;
     try {
         std::unique_ptr<HunspellBackend> backend(new HunspellBackend(files));
         if (backend->m_encoding.isKnown())

@@ -91,6 +91,11 @@ void setSpellingBackendFactory(const SpellingBackendFactory &factory)
     factoryInUse() = factory;
 }
 
+bool areUsable(const SpellingFiles &files)
+{
+    return isReadableFile(files.affixes) && isWordFile(files.words);
+}
+
 QHash<QString, SpellingFiles> installedDictionaries()
 {
     QHash<QString, SpellingFiles> dictionaries;
@@ -100,11 +105,10 @@ QHash<QString, SpellingFiles> installedDictionaries()
         for (const QFileInfo &words : files) {
             const QString name = words.completeBaseName();
             const QString affixes = words.path() + QLatin1Char('/') + name + QStringLiteral(".aff");
+            const SpellingFiles pair{affixes, words.filePath()};
             // A comma separates names.
-            const bool isUsable = !dictionaries.contains(name) && !name.contains(QLatin1Char(','))
-                                  && isReadableFile(affixes) && isWordFile(words.filePath());
-            if (isUsable)
-                dictionaries.insert(name, {affixes, words.filePath()});
+            if (!dictionaries.contains(name) && !name.contains(QLatin1Char(',')) && areUsable(pair))
+                dictionaries.insert(name, pair);
         }
     }
     return dictionaries;

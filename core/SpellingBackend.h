@@ -44,6 +44,9 @@ OMBRIN_CORE_AUTOTEST_EXPORT SpellingBackendFactory spellingBackendFactory();
 /// Loads all dictionaries through \a factory from now on, for tests. Choose no dictionary first.
 OMBRIN_CORE_AUTOTEST_EXPORT void setSpellingBackendFactory(const SpellingBackendFactory &factory);
 
+/// Whether both files can be read and look like a dictionary's.
+bool areUsable(const SpellingFiles &files);
+
 /// The dictionaries in all folders that are searched, by their names.
 OMBRIN_CORE_AUTOTEST_EXPORT QHash<QString, SpellingFiles> installedDictionaries();
 

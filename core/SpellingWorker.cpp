@@ -110,6 +110,20 @@ bool SpellingWorker::isAccepted(const QString &word, bool regardCase)
     if (regardCase)
         return false;
     const QStringList forms = otherCapitalisations(word);
+    return std::any_of(forms.cbegin(), forms.cend(), [&](const QString &form) {
+        return isAcceptedAsItIs(form) && !(form == word.toUpper() && isMeantWithSharpS(word));
+    });
+}
+
+// Capitals do not tell ss from sharp s: "Strasse" is not right because "STRASSE" is.
+bool SpellingWorker::isMeantWithSharpS(const QString &word)
+{
+    const QString sharp = word.toLower().replace(QLatin1String("ss"), QString(QChar(0xdf)));
+    if (!sharp.contains(QChar(0xdf)))
+        return false;
+    QStringList forms = otherCapitalisations(sharp);
+    forms.removeAll(sharp.toUpper());
+    forms.append(sharp);
     return std::any_of(forms.cbegin(), forms.cend(),
                        [this](const QString &form) { return isAcceptedAsItIs(form); });
 }

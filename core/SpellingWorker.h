@@ -68,6 +68,7 @@ private:
     void findSuggestions(std::unique_lock<std::mutex> &lock);
     void exchangeDictionaries(const std::vector<SpellingFiles> &wanted);
     bool isAccepted(const QString &word, bool regardCase);
+    bool isMeantWithSharpS(const QString &word);
     bool isAcceptedAsItIs(const QString &word);
     QStringList computeSuggestions(const QString &word);
     void want(const QString &word);

@@ -92,13 +92,12 @@ private Q_SLOTS:
                 const QRect inside = image.rect().adjusted(side, top, -side, -side);
                 for (int y = 0; y < image.height(); ++y) {
                     for (int x = 0; x < image.width(); ++x) {
-                        // All pieces have this much blue, and nothing between them has.
+                        // All pieces have this red and blue, and nothing between them has.
                         const QRgb pixel = image.pixel(x, y);
                         const bool isPiece = qRed(pixel) == 0x40 && qBlue(pixel) == 0xc0;
-                        QVERIFY2(
-                                isPiece || inside.contains(x, y),
-                                qPrintable(
-                                        QStringLiteral("%1, %2 at %3").arg(x).arg(y).arg(density)));
+                        if (!isPiece && !inside.contains(x, y))
+                            QFAIL(qPrintable(
+                                    QStringLiteral("%1, %2 at %3").arg(x).arg(y).arg(density)));
                     }
                 }
             }
@@ -115,7 +114,7 @@ private Q_SLOTS:
 
     void shapeLacksThreePixelsAtEachCorner()
     {
-        for (const QSize &size : {QSize(174, 35), QSize(401, 300), QSize(5, 5), QSize(4, 9),
+        for (const QSize &size : {QSize(174, 35), QSize(41, 30), QSize(5, 5), QSize(4, 9),
                                   QSize(3, 3), QSize(1, 1), QSize(0, 0)}) {
             const QRegion shape = frameShape(size);
             const QRect all(QPoint(0, 0), size);

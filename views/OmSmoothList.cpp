@@ -1,0 +1,162 @@
+#include <ombrin/OmSmoothList.h>
+
+#include <ombrin/OmQtCompat.h>
+#include <ombrin/OmSmoothDelegate.h>
+
+#include <QtCore/QSignalBlocker>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+
+#include <algorithm>
+
+namespace ombrin {
+
+namespace {
+
+constexpr int kRowsBeyond = 1000;
+constexpr QColor kLine(192, 192, 192);
+constexpr QColor kHoveredText(128, 128, 128);
+
+// Compares first: each change is told to the view.
+void setLook(QListWidgetItem *entry, const QColor &color, bool underline)
+{
+    if (entry->foreground() != QBrush(color))
+        entry->setForeground(color);
+    QFont font = entry->font();
+    if (font.underline() != underline) {
+        font.setUnderline(underline);
+        entry->setFont(font);
+    }
+}
+
+} // namespace
+
+OmSmoothList::OmSmoothList(QWidget *parent)
+    : QListWidget(parent)
+    , m_delegate(new OmSmoothDelegate(this))
+    , m_lineColor(kLine)
+{
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+    setFrameShadow(QFrame::Plain);
+    setFrameShape(QFrame::NoFrame);
+    takeColors();
+    setItemDelegate(m_delegate);
+    connect(this, &QListWidget::itemSelectionChanged, this,
+            &OmSmoothList::slotRestoreDefaultColoursAndFont);
+}
+
+OmSmoothList::~OmSmoothList() = default;
+
+void OmSmoothList::slotRestoreDefaultColoursAndFont()
+{
+    restoreEntries();
+    viewport()->update();
+}
+
+void OmSmoothList::mouseMoveEvent(QMouseEvent *event)
+{
+    hover(itemAt(mousePosition(event)), mousePosition(event));
+}
+
+void OmSmoothList::leaveEvent(QEvent *event)
+{
+    slotRestoreDefaultColoursAndFont();
+    QListWidget::leaveEvent(event);
+    m_delegate->setHovered(count() + kRowsBeyond, QPoint());
+    setCursor(Qt::ArrowCursor);
+}
+
+void OmSmoothList::resizeEvent(QResizeEvent *event)
+{
+    m_delegate->setListRect(geometry());
+    QListWidget::resizeEvent(event);
+}
+
+void OmSmoothList::paintEvent(QPaintEvent *event)
+{
+    QListWidget::paintEvent(event);
+    paintBorder();
+}
+
+void OmSmoothList::changeEvent(QEvent *event)
+{
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        takeColors();
+        slotRestoreDefaultColoursAndFont();
+    }
+}
+
+void OmSmoothList::takeColors()
+{
+    m_textColor = palette().color(QPalette::Text);
+    m_windowColor = palette().color(QPalette::Window);
+    m_tabTextColor = palette().color(QPalette::Text);
+    m_delegate->setFillColor(m_windowColor);
+    m_delegate->setOutlineColor(m_lineColor);
+    m_delegate->setTextColor(m_tabTextColor);
+}
+
+void OmSmoothList::restoreEntries()
+{
+    for (int row = 0; row < count(); ++row)
+        setLook(item(row), m_textColor, false);
+    m_hoveredRow = -1;
+}
+
+// Entries are looked through only when the mouse has come to another one.
+void OmSmoothList::hover(QListWidgetItem *entry, const QPoint &position)
+{
+    const bool isLink = entry && (entry->flags() & Qt::ItemIsEnabled) != 0;
+    const int hoveredRow = isLink ? row(entry) : -1;
+    if (hoveredRow != m_hoveredRow)
+        restoreEntries();
+    if (isLink) {
+        setLook(entry, kHoveredText, true);
+        m_hoveredRow = hoveredRow;
+    }
+    m_delegate->setHovered(isLink ? hoveredRow : count() + kRowsBeyond, position);
+    setCursor(isLink && isOverText(entry) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    viewport()->update();
+}
+
+bool OmSmoothList::isOverText(const QListWidgetItem *entry) const
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+#else
+    QStyleOptionViewItem option = viewOptions();
+#endif
+    option.rect = visualItemRect(entry);
+    return m_delegate->isOverText(option, indexFromItem(entry));
+}
+
+void OmSmoothList::paintBorder()
+{
+    QPainter painter(viewport());
+    painter.setPen(m_lineColor);
+    painter.drawLine(0, 0, 0, height());
+    painter.drawLine(0, 0, width(), 0);
+    painter.drawLine(0, height() - 1, width(), height() - 1);
+
+    QVector<QRect> tabs;
+    const QList<QListWidgetItem *> selected = selectedItems();
+    for (const QListWidgetItem *entry : selected) {
+        const QRect tab = visualItemRect(entry);
+        if (tab.isValid())
+            tabs.append(tab);
+    }
+    std::sort(tabs.begin(), tabs.end(),
+              [](const QRect &a, const QRect &b) { return a.top() < b.top(); });
+    const int right = width() - 1;
+    int y = 0;
+    for (const QRect &tab : std::as_const(tabs)) {
+        painter.drawLine(right, y, right, tab.top() + 2);
+        y = tab.bottom() - 1;
+    }
+    painter.drawLine(right, y, right, height());
+}
+
+} // namespace ombrin

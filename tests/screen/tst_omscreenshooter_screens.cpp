@@ -1,0 +1,91 @@
+#include "support/TestCase.h"
+#include "support/XUser.h"
+
+#include <ombrin/OmScreenShooter.h>
+#include <ombrin/OmScreenShooter_FullscreenCutter.h>
+
+#include <QtGui/QScreen>
+
+using namespace ombrin::test;
+
+namespace {
+
+constexpr QPoint kSecond(1280, 0); // the second screen's corner, for the X server and for Qt
+
+} // namespace
+
+// Two screens on a real X server, the second twice as dense as the first.
+class tst_OmScreenShooterScreens : public TestCase
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void shot(QPixmap picture) { m_picture = picture; }
+
+private Q_SLOTS:
+    void cutsHaveTheRealPixelsOfTheirScreens_data();
+    void cutsHaveTheRealPixelsOfTheirScreens();
+
+private:
+    QPixmap m_picture;
+};
+
+void tst_OmScreenShooterScreens::cutsHaveTheRealPixelsOfTheirScreens_data()
+{
+    QTest::addColumn<QPoint>("from"); // in pixels of the X server
+    QTest::addColumn<QPoint>("by");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<qreal>("density");
+    QTest::newRow("first") << QPoint(100, 100) << QPoint(60, 40) << QSize(61, 41) << 1.0;
+    QTest::newRow("second") << kSecond + QPoint(100, 100) << QPoint(60, 40) << QSize(62, 42) << 2.0;
+    QTest::newRow("from the first to the second")
+            << kSecond + QPoint(-40, 100) << QPoint(80, 60) << QSize(122, 42) << 2.0;
+}
+
+void tst_OmScreenShooterScreens::cutsHaveTheRealPixelsOfTheirScreens()
+{
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, by);
+    QCOMPARE(QGuiApplication::screens().size(), 2);
+    QWidget first(nullptr, Qt::FramelessWindowHint);
+    first.setPalette(QPalette(Qt::red));
+    first.setGeometry(50, 50, 300, 300);
+    QWidget second(nullptr, Qt::FramelessWindowHint);
+    second.setPalette(QPalette(Qt::green));
+    second.setGeometry(QRect(kSecond + QPoint(20, 20), QSize(200, 200)));
+    for (QWidget *window : {&first, &second}) {
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+    }
+    QTest::qWait(200);
+    const QImage whole = OmScreenShooter::shootSimple().toImage();
+    QCOMPARE(whole.devicePixelRatio(), 2.0);
+    QCOMPARE(whole.size(), QGuiApplication::primaryScreen()->virtualGeometry().size() * 2);
+    QCOMPARE(whole.pixelColor(200, 200), QColor(Qt::red));
+    QCOMPARE(whole.pixelColor((kSecond + QPoint(30, 30)) * 2), QColor(Qt::green));
+
+    m_picture = QPixmap();
+    OmScreenShooter::shootUserCutted(0, false, this, SLOT(shot(QPixmap)), nullptr, nullptr);
+    QVERIFY(waitFor([] {
+        const auto *cutter =
+                qobject_cast<OmScreenShooter_FullscreenCutter *>(QApplication::activeWindow());
+        return cutter && cutter->isVisible();
+    }));
+    dragBy(from, by);
+    xdo(QStringLiteral("key Return"));
+    QVERIFY(waitFor([this] { return !m_picture.isNull(); }));
+    QTEST(m_picture.size(), "size");
+    QTEST(m_picture.devicePixelRatio(), "density");
+    const QColor corner = m_picture.toImage().pixelColor(0, 0);
+    const QColor end =
+            m_picture.toImage().pixelColor(m_picture.width() - 1, m_picture.height() - 1);
+    const auto expected = [](const QPoint &native) {
+        return native.x() < kSecond.x() ? (native.x() < 350 ? QColor(Qt::red) : QColor(Qt::black))
+                                        : QColor(Qt::green);
+    };
+    QCOMPARE(corner, expected(from));
+    QCOMPARE(end, expected(from + by));
+}
+
+OMBRIN_TEST_MAIN(tst_OmScreenShooterScreens)
+#include "tst_omscreenshooter_screens.moc"

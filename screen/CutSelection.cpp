@@ -76,8 +76,8 @@ CutSelection::CutSelection(const QSize &size, const QSize &snapSize, const QSize
 // Not QRect::normalized(), which in some versions of Qt makes a flipped rectangle smaller.
 QRect CutSelection::normalized(const Corners &corners)
 {
-    const auto [left, right] = std::minmax(corners.first.x(), corners.second.x());
-    const auto [top, bottom] = std::minmax(corners.first.y(), corners.second.y());
+    const auto [left, right] = std::minmax({corners.first.x(), corners.second.x()});
+    const auto [top, bottom] = std::minmax({corners.first.y(), corners.second.y()});
     return QRect(QPoint(left, top), QPoint(right, bottom));
 }
 

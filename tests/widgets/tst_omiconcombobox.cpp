@@ -202,28 +202,24 @@ private Q_SLOTS:
         m_box.reset();
     }
 
-    void theClosedBoxDrawsNoEditField_data()
-    {
-        QTest::addColumn<bool>("editable");
-        QTest::newRow("plain") << false;
-        QTest::newRow("editable") << true;
-    }
     void theClosedBoxDrawsNoEditField()
     {
-        QFETCH(bool, editable);
         RecordingStyle style;
         addItems(3);
         m_box->setStyle(&style);
-        m_box->setEditable(editable);
         QPalette palette = m_box->palette();
         palette.setColor(QPalette::Text, QColor(1, 2, 3));
         m_box->setPalette(palette);
         m_box->resize(100, 24);
-        paintedOnNothing(m_box.get());
-        QCOMPARE(style.log.first(), QStringLiteral("complex %1").arg(QStyle::CC_ComboBox));
-        QVERIFY(style.log.contains(QStringLiteral("control %1").arg(QStyle::CE_ComboBoxLabel)));
-        QCOMPARE(style.subControls, QStyle::SC_All & ~QStyle::SC_ComboBoxEditField);
-        QCOMPARE(style.pen, QColor(1, 2, 3));
+        for (const bool editable : {false, true}) {
+            m_box->setEditable(editable);
+            style.log.clear();
+            paintedOnNothing(m_box.get());
+            QCOMPARE(style.log.first(), QStringLiteral("complex %1").arg(QStyle::CC_ComboBox));
+            QVERIFY(style.log.contains(QStringLiteral("control %1").arg(QStyle::CE_ComboBoxLabel)));
+            QCOMPARE(style.subControls, QStyle::SC_All & ~QStyle::SC_ComboBoxEditField);
+            QCOMPARE(style.pen, QColor(1, 2, 3));
+        }
         m_box.reset();
     }
 

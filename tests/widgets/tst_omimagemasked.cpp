@@ -265,28 +265,25 @@ private Q_SLOTS:
         QCOMPARE(button.width(), 20);
     }
 
-    void buttonMayBeDeletedInItsSlot_data()
-    {
-        QTest::addColumn<int>("way");
-        QTest::newRow("mouse") << 0;
-        QTest::newRow("key") << 1;
-        QTest::newRow("screen reader") << 2;
-    }
     void buttonMayBeDeletedInItsSlot()
     {
-        QFETCH(int, way);
-        QWidget window;
-        QPointer<Button> button(new Button);
-        button->setParent(&window);
-        window.show();
-        connect(button, &OmImageMaskedButton::signalOnClicked, this, [button] { delete button; });
-        if (way == 0)
-            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        else if (way == 1)
-            QTest::keyClick(button.data(), Qt::Key_Space);
-        else
-            pressAccessibly(button);
-        QVERIFY(!button);
+        const std::function<void(Button *)> clicks[] = {
+                [](Button *button) {
+                    QTest::mouseClick(button->window()->windowHandle(), Qt::LeftButton, {}, {5, 5});
+                },
+                [](Button *button) { QTest::keyClick(button, Qt::Key_Space); },
+                [](Button *button) { pressAccessibly(button); },
+        };
+        for (const auto &click : clicks) {
+            QWidget window;
+            QPointer<Button> button(new Button);
+            button->setParent(&window);
+            window.show();
+            connect(button, &OmImageMaskedButton::signalOnClicked, this,
+                    [button] { delete button; });
+            click(button);
+            QVERIFY(!button);
+        }
     }
 
     void screenReadersSeeAButton()

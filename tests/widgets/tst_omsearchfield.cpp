@@ -6,7 +6,6 @@
 
 #include <QtCore/QResource>
 #include <QtGui/QPainter>
-#include <QtWidgets/QStyleFactory>
 
 using ombrin::OmSearchField;
 using namespace ombrin::test;
@@ -81,18 +80,13 @@ private Q_SLOTS:
                                             + QStringLiteral("/skins/ombrin.res")));
     }
 
-    void leavesRoomForTheIcons_data()
-    {
-        QTest::addColumn<bool>("ownStyle");
-        QTest::newRow("under the application's style") << true;
-        QTest::newRow("under another style") << false;
-    }
     void leavesRoomForTheIcons()
     {
-        QFETCH(bool, ownStyle);
-        if (ownStyle)
-            QApplication::setStyle(new ombrin::OmStyle2);
-        {
+        for (const bool ownStyle : {true, false}) {
+            if (ownStyle)
+                QApplication::setStyle(new ombrin::OmStyle2);
+            else
+                prepareApplication();
             BareField bare;
             bare.resize(kSize);
             const QImage empty = picture(&bare);
@@ -102,7 +96,6 @@ private Q_SLOTS:
                 QCOMPARE(full.copy(side), empty.copy(side));
             QVERIFY(full.copy(kTextRect) != empty.copy(kTextRect));
         }
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
     }
 
     void drawsTheIconsOfItsState_data()

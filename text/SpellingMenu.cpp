@@ -18,10 +18,11 @@ constexpr int kOtherRows = 3;
 } // namespace
 
 SpellingMenu::SpellingMenu(const QString &word, const QPoint &position)
-    : QMenu(OmTextEdit::tr("Spelling"))
+    // Qualified in full, so that lupdate finds the context.
+    : QMenu(ombrin::OmTextEdit::tr("Spelling"))
     , m_word(word)
     , m_separator(addSeparator())
-    , m_addAction(addAction(OmTextEdit::tr("Add to Dictionary")))
+    , m_addAction(addAction(ombrin::OmTextEdit::tr("Add to Dictionary")))
 {
     const QScreen *screen = QGuiApplication::screenAt(position);
     m_screen = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
@@ -31,7 +32,7 @@ SpellingMenu::SpellingMenu(const QString &word, const QPoint &position)
         showSuggestions(word);
         return;
     }
-    insertNote(OmTextEdit::tr("Looking for Suggestions..."));
+    insertNote(ombrin::OmTextEdit::tr("Looking for Suggestions..."));
     m_note->setEnabled(false);
     connect(spelling, &OmSpelling::suggestionsReady, this, &SpellingMenu::showSuggestions);
 }
@@ -58,7 +59,7 @@ void SpellingMenu::showSuggestions(const QString &word)
         insertAction(m_separator, action);
     }
     if (suggestions.isEmpty())
-        insertNote(OmTextEdit::tr("No Suggestions Found"));
+        insertNote(ombrin::OmTextEdit::tr("No Suggestions Found"));
     if (isVisible())
         keepOnScreen();
 }

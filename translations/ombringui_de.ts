@@ -230,6 +230,25 @@
     </message>
 </context>
 <context>
+    <name>ombrin::OmTextEdit</name>
+    <message>
+        <source>Spelling</source>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message>
+        <source>Add to Dictionary</source>
+        <translation>Zum Wörterbuch hinzufügen</translation>
+    </message>
+    <message>
+        <source>Looking for Suggestions...</source>
+        <translation>Vorschläge werden gesucht ...</translation>
+    </message>
+    <message>
+        <source>No Suggestions Found</source>
+        <translation>Keine Vorschläge gefunden</translation>
+    </message>
+</context>
+<context>
     <name>ombrin::OmWindow</name>
     <message>
         <source>Minimize</source>

@@ -99,6 +99,136 @@
     </message>
 </context>
 <context>
+    <name>ombrin::OmContactCard</name>
+    <message>
+        <source>Kick Contact</source>
+        <translation>Kontakt hinauswerfen</translation>
+    </message>
+    <message>
+        <source>Kick contact</source>
+        <translation>Wirft den Kontakt hinaus</translation>
+    </message>
+    <message>
+        <source>Chat with Contact</source>
+        <translation>Mit Kontakt chatten</translation>
+    </message>
+    <message>
+        <source>Chat with contact</source>
+        <translation>Chattet mit dem Kontakt</translation>
+    </message>
+    <message>
+        <source>Call Contact</source>
+        <translation>Kontakt anrufen</translation>
+    </message>
+    <message>
+        <source>Call contact</source>
+        <translation>Ruft den Kontakt an</translation>
+    </message>
+    <message>
+        <source>Send File</source>
+        <translation>Datei senden</translation>
+    </message>
+    <message>
+        <source>Send file</source>
+        <translation>Sendet eine Datei</translation>
+    </message>
+    <message>
+        <source>Open Web Folder</source>
+        <translation>Webordner öffnen</translation>
+    </message>
+    <message>
+        <source>Open web folder</source>
+        <translation>Öffnet den Webordner</translation>
+    </message>
+    <message>
+        <source>Show Profile</source>
+        <translation>Profil anzeigen</translation>
+    </message>
+    <message>
+        <source>Show profile</source>
+        <translation>Zeigt das Profil an</translation>
+    </message>
+    <message>
+        <source>Block Contact</source>
+        <translation>Kontakt sperren</translation>
+    </message>
+    <message>
+        <source>Block contact</source>
+        <translation>Sperrt den Kontakt</translation>
+    </message>
+    <message>
+        <source>Authenticate Contact</source>
+        <translation>Kontakt bestätigen</translation>
+    </message>
+    <message>
+        <source>Authenticate contact</source>
+        <translation>Bestätigt den Kontakt</translation>
+    </message>
+    <message>
+        <source>Unblock Contact</source>
+        <translation>Kontakt entsperren</translation>
+    </message>
+    <message>
+        <source>Unblock contact</source>
+        <translation>Entsperrt den Kontakt</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>Online</translation>
+    </message>
+    <message>
+        <source>Away</source>
+        <translation>Abwesend</translation>
+    </message>
+    <message>
+        <source>Extended away</source>
+        <translation>Länger abwesend</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
+    </message>
+    <message>
+        <source>Do not disturb</source>
+        <translation>Bitte nicht stören</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
+    </message>
+    <message>
+        <source>Invisible for everyone</source>
+        <translation>Für alle unsichtbar</translation>
+    </message>
+    <message>
+        <source>Change My User Picture...</source>
+        <translation>Mein Bild ändern ...</translation>
+    </message>
+    <message>
+        <source>Save User Picture...</source>
+        <translation>Bild des Kontakts speichern ...</translation>
+    </message>
+    <message>
+        <source>Save User Picture as...</source>
+        <translation>Bild des Kontakts speichern unter ...</translation>
+    </message>
+    <message>
+        <source>Joint Photographic Experts Group</source>
+        <translation>JPEG-Bild</translation>
+    </message>
+</context>
+<context>
+    <name>ombrin::OmContactCardList</name>
+    <message>
+        <source>Add Contact(s)</source>
+        <translation>Kontakt(e) hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>ombrin::OmDialog2</name>
     <message>
         <source>Minimize</source>

@@ -195,11 +195,11 @@ private Q_SLOTS:
 
     void underlinesFollowEverywhereAndSurviveSwitchingOff()
     {
-        m_edit->setPlainText(text("helu one.\ncat\nhelu two helu\n"));
+        m_edit->setPlainText(text("qelu one.\ncat\nqelu two qelu\n"));
         m_edit->moveCursor(QTextCursor::End);
         QCOMPARE(underlined(m_edit->document()), QStringList());
-        QTest::keyClicks(m_edit.get(), text("helu "));
-        const QStringList three = {text("helu"), text("helu"), text("helu")};
+        QTest::keyClicks(m_edit.get(), text("qelu "));
+        const QStringList three = {text("qelu"), text("qelu"), text("qelu")};
         QCOMPARE(underlined(m_edit->document()), three);
 
         const int listeners = m_edit->listeners();
@@ -212,8 +212,8 @@ private Q_SLOTS:
         QCOMPARE(underlined(m_edit->document()), three);
 
         // A word that became correct.
-        OmSpelling::instance()->addToDictionary(text("helu"));
-        QTest::keyClicks(m_edit.get(), text("helu "));
+        OmSpelling::instance()->addToDictionary(text("qelu"));
+        QTest::keyClicks(m_edit.get(), text("qelu "));
         QCOMPARE(underlined(m_edit->document()), QStringList());
     }
 

@@ -216,8 +216,8 @@ void ZebraLayout::locate(const Item &item, Entry *entry)
     const qint64 width = item.size().width();
     const qint64 left = item.isAlignedLeftOrRight() ? poleX : poleX - width;
     const auto [top, bottom] = m_lines.span(entry->row);
-    const int y = top + (bottom - top + 1 - entry->height) / 2;
-    entry->place = QPoint(bounded(left), y);
+    const qint64 y = top + (qint64(bottom) - top + 1 - entry->height) / 2;
+    entry->place = QPoint(bounded(left), bounded(y));
 
     entry->shownRow = entry->row;
     m_shownRows.add(entry->shownRow);

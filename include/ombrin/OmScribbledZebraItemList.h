@@ -7,7 +7,10 @@ namespace ombrin {
 class ZebraLayout;
 }
 
+// A Windows library keeps no inline functions for others, who so make the class for themselves.
+#if !defined(Q_OS_WIN) || defined(OMBRIN_BUILD_GUI)
 extern template class OMBRIN_GUI_EXPORT COmMonitoredList<OmScribbledZebraItemBase *>;
+#endif
 
 /// The items of an OmScribbledZebraView, in an order that means nothing to the eye.
 ///

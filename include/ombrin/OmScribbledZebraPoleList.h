@@ -3,7 +3,10 @@
 #include <ombrin/COmMonitoredList.h>
 #include <ombrin/OmScribbledZebraPole.h>
 
+// A Windows library keeps no inline functions for others, who so make the class for themselves.
+#if !defined(Q_OS_WIN) || defined(OMBRIN_BUILD_GUI)
 extern template class OMBRIN_GUI_EXPORT COmMonitoredList<OmScribbledZebraPole *>;
+#endif
 
 /// The poles of an OmScribbledZebraView. The index of a pole is the column of its items.
 ///

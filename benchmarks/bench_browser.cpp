@@ -35,6 +35,18 @@ const RatioCase appending(
         [](benchmark::State &state) { appendMessages<OmTextBrowser>(state, 10000); },
         [](benchmark::State &state) { appendMessages<QTextBrowser>(state, 10000); });
 
+// In brackets, which change nothing, as QRegExp shares what the recognisers have built of the same
+// expressions.
+QString inBrackets(const char *pattern)
+{
+    QString inner = QString::fromLatin1(pattern);
+    if (inner.startsWith(QLatin1Char('^')))
+        inner.remove(0, 1);
+    if (inner.endsWith(QLatin1Char('$')))
+        inner.chop(1);
+    return QStringLiteral("(?:%1)").arg(inner);
+}
+
 const RatioCase building(
         "phone number recognised vs expressions built per call", 0.05,
         [](benchmark::State &state) {
@@ -43,10 +55,13 @@ const RatioCase building(
                         vhutilities::IsPossiblePhoneNumber(QStringLiteral("12-34")));
         },
         [](benchmark::State &state) {
+            QStringList patterns;
+            for (const char *pattern : vhutilities::kPhonePatterns)
+                patterns.append(inBrackets(pattern));
             for (auto _ : state) {
-                for (const char *pattern : vhutilities::kPhonePatterns)
+                for (const QString &pattern : std::as_const(patterns))
                     benchmark::DoNotOptimize(vhutilities::IsStringMatchingWithRegularExpression(
-                            QStringLiteral("12-34"), QString::fromLatin1(pattern)));
+                            QStringLiteral("12-34"), pattern));
             }
         });
 

@@ -99,6 +99,21 @@
     </message>
 </context>
 <context>
+    <name>ombrin::OmCheckBoxAssortmentView</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Aufklappen</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Zuklappen</translation>
+    </message>
+</context>
+<context>
     <name>ombrin::OmContactCard</name>
     <message>
         <source>Kick Contact</source>

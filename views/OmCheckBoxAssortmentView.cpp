@@ -1,13 +1,13 @@
 #include <ombrin/OmCheckBoxAssortmentView.h>
 
 #include "skin/SkinPixmap.h"
+#include "views/ColoredCheckBox.h"
 
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmLabel.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QListWidget>
 
 #include <algorithm>
@@ -239,24 +239,20 @@ void OmCheckBoxAssortmentView::refreshRows()
 void OmCheckBoxAssortmentView::refreshRow(Row *row, const OmCheckBoxAssortmentItem &item)
 {
     row->stamp = item.m_stamp;
-    QCheckBox *checkBox = row->checkBox;
+    ColoredCheckBox *checkBox = row->checkBox;
     if (checkBox->text() != item.m_text)
         checkBox->setText(item.m_text);
-    QPalette palette = checkBox->palette();
-    if (palette.color(QPalette::WindowText) != item.m_color) {
-        palette.setBrush(QPalette::WindowText, QBrush(item.m_color));
-        checkBox->setPalette(palette);
-    }
+    checkBox->setTextColor(item.m_color);
     if (checkBox->isChecked() != item.m_value) {
         const QSignalBlocker blocker(checkBox);
         checkBox->setChecked(item.m_value);
     }
 }
 
-QCheckBox *OmCheckBoxAssortmentView::addRow()
+ColoredCheckBox *OmCheckBoxAssortmentView::addRow()
 {
     auto *row = new QListWidgetItem(m_listWidget);
-    auto *checkBox = new QCheckBox(m_listWidget);
+    auto *checkBox = new ColoredCheckBox(m_listWidget);
     m_listWidget->setItemWidget(row, checkBox);
     connect(checkBox, &QCheckBox::stateChanged, this,
             &OmCheckBoxAssortmentView::slotOnCheckboxStateChanged);

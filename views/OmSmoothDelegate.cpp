@@ -111,6 +111,9 @@ void OmSmoothDelegate::paintTab(QPainter *painter, const QRect &rect) const
     painter->save();
     painter->fillRect(QRect(QPoint(left + 4, top + 4), QPoint(right, bottom - 2)), m_fillColor);
     painter->setPen(m_outlineColor);
+    // On a denser screen a line lies around its coordinates, here it is to lie below and right.
+    if (painter->device()->devicePixelRatioF() > 1)
+        painter->translate(0.5, 0.5);
     painter->drawLine(right, top + 3, left + 8, top + 3);
     painter->drawArc(left + 3, top + 3, 9, 8, kQuarter, kQuarter);
     painter->drawLine(left + 3, top + 8, left + 3, bottom - 5);

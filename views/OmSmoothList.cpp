@@ -136,10 +136,9 @@ bool OmSmoothList::isOverText(const QListWidgetItem *entry) const
 void OmSmoothList::paintBorder()
 {
     QPainter painter(viewport());
-    painter.setPen(m_lineColor);
-    painter.drawLine(0, 0, 0, height());
-    painter.drawLine(0, 0, width(), 0);
-    painter.drawLine(0, height() - 1, width(), height() - 1);
+    painter.fillRect(0, 0, 1, height(), m_lineColor);
+    painter.fillRect(0, 0, width(), 1, m_lineColor);
+    painter.fillRect(0, height() - 1, width(), 1, m_lineColor);
 
     QVector<QRect> tabs;
     const QList<QListWidgetItem *> selected = selectedItems();
@@ -150,13 +149,16 @@ void OmSmoothList::paintBorder()
     }
     std::sort(tabs.begin(), tabs.end(),
               [](const QRect &a, const QRect &b) { return a.top() < b.top(); });
-    const int right = width() - 1;
+    // Rectangles, as lines would not be crisp on every screen.
+    const auto drawRightLine = [&](int from, int to) {
+        painter.fillRect(QRect(QPoint(width() - 1, from), QPoint(width() - 1, to)), m_lineColor);
+    };
     int y = 0;
     for (const QRect &tab : std::as_const(tabs)) {
-        painter.drawLine(right, y, right, tab.top() + 2);
+        drawRightLine(y, tab.top() + 2);
         y = tab.bottom() - 1;
     }
-    painter.drawLine(right, y, right, height());
+    drawRightLine(y, height());
 }
 
 } // namespace ombrin

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QtWidgets/QListWidget>
+#include <ombrin/OmSmoothList.h>
 
 namespace gallery {
 
-/// The list of pages at the left of the gallery, under the headings of their groups.
-class NavigationList : public QListWidget
+/// The list of pages at the left of the gallery, under the headings of their groups. The page on
+/// show is a tab that opens into the page.
+class NavigationList : public ombrin::OmSmoothList
 {
     Q_OBJECT
 

@@ -15,6 +15,7 @@ class QListWidget;
 
 namespace ombrin {
 
+class ColoredCheckBox;
 class OmImageButton;
 class OmLabel;
 
@@ -80,7 +81,7 @@ private:
     // What a row shows, and as of which change of its item.
     struct Row
     {
-        QCheckBox *checkBox;
+        ColoredCheckBox *checkBox;
         quint64 stamp;
     };
 
@@ -90,7 +91,7 @@ private:
     void refreshRows();
     void refreshRow(Row *row, const OmCheckBoxAssortmentItem &item);
     void refreshRetractButton();
-    QCheckBox *addRow();
+    ColoredCheckBox *addRow();
     void removeRowsFrom(int row);
     void resizeWidget();
     void DoOnChanged();

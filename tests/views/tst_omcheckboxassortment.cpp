@@ -75,6 +75,18 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
     }
 
+    void colorsSurviveStyleSheets()
+    {
+        qApp->setStyleSheet(QStringLiteral("QToolTip { color: blue }"));
+        add("A", true, Qt::red);
+        QWidget window;
+        m_view->setParent(&window);
+        window.show();
+        QCOMPARE(checkBox(0)->palette().color(QPalette::WindowText), QColor(Qt::red));
+        qApp->setStyleSheet(QString());
+        QCOMPARE(checkBox(0)->palette().color(QPalette::WindowText), QColor(Qt::red));
+    }
+
     void clicksAndValuesAreTold()
     {
         add("A");

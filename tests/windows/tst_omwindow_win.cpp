@@ -84,7 +84,7 @@ void dragByHand(const QPoint &from, const QPoint &to)
             const QPoint position = from + (to - from) * step / steps;
             SetCursorPos(position.x(), position.y());
         }
-        Sleep(100);
+        Sleep(300); // a busy machine takes a while to follow
         press(MOUSEEVENTF_LEFTUP);
         Sleep(100);
         isDone = true;

@@ -33,10 +33,12 @@ ColumnLayout::Silence::~Silence()
 
 void ColumnLayout::resized(QWidget *card, bool isBig, int growth)
 {
-    if (isBig)
+    if (isBig) {
         noteBig(card);
-    else
+        Q_EMIT becameBig(card);
+    } else {
         m_bigCards.erase(std::remove(m_bigCards.begin(), m_bigCards.end(), card), m_bigCards.end());
+    }
     // Otherwise it is about to be laid out anyway.
     if (!m_isLaidOut || card->isHidden())
         return;

@@ -49,6 +49,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSize() const override;
 
+Q_SIGNALS:
+    void becameBig(QWidget *card);
+
 private:
     struct Change
     {

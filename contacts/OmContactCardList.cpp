@@ -26,6 +26,7 @@ OmContactCardList::OmContactCardList(QWidget *parent)
 {
     auto *column = new ContactColumn([this](const QObject *child) { forget(child); });
     m_layout = static_cast<ColumnLayout *>(column->layout());
+    connect(m_layout, &ColumnLayout::becameBig, this, &OmContactCardList::scrollTo);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     setWidget(column);
@@ -50,9 +51,8 @@ void OmContactCardList::addCard(OmContactCard *card)
     m_layout->insertWidget(m_layout->count() - kItemsBehindCards, card);
     // As slotClicked() and slotAction(), which would have to look for the sender among all cards.
     connect(card, &OmContactCard::clicked, this, [this, card] { makeOnlyBig(card); });
-    connect(card, &OmContactCard::actionId, this, [this, card](const QString &id) {
-        Q_EMIT actionId(id, card->ombrinId());
-    });
+    connect(card, &OmContactCard::actionId, this,
+            [this, card](const QString &id) { Q_EMIT actionId(id, card->ombrinId()); });
     m_cards.append(card);
     if (card->isBig())
         m_layout->noteBig(card);
@@ -74,9 +74,7 @@ void OmContactCardList::removeCard(OmContactCard *card)
     delete card;
     if (!guard || !wasCurrent || m_cards.isEmpty())
         return;
-    OmContactCard *const next = m_cards.at(qMin(index, size() - 1));
-    next->setBig(true);
-    scrollTo(next);
+    m_cards.at(qMin(index, size() - 1))->setBig(true);
 }
 
 int OmContactCardList::size() const
@@ -154,13 +152,14 @@ void OmContactCardList::makeOnlyBig(OmContactCard *card)
 }
 
 // Once there is room for the card.
-void OmContactCardList::scrollTo(OmContactCard *card)
+void OmContactCardList::scrollTo(QWidget *card)
 {
-    const auto scroll = [this, guard = QPointer<OmContactCard>(card)] {
+    const auto scroll = [this, guard = QPointer<QWidget>(card)] {
         QCoreApplication::sendPostedEvents(widget(), QEvent::LayoutRequest);
         QCoreApplication::sendPostedEvents(viewport(), QEvent::LayoutRequest);
-        if (guard && guard->isBig())
-            ensureWidgetVisible(guard, 0, 0);
+        auto *const bigCard = qobject_cast<OmContactCard *>(guard.data());
+        if (bigCard && bigCard->isBig() && bigCard->parentWidget() == widget())
+            ensureWidgetVisible(bigCard, 0, 0);
     };
     QMetaObject::invokeMethod(this, scroll, Qt::QueuedConnection);
 }

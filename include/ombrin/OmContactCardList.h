@@ -14,7 +14,8 @@ class ColumnLayout;
 
 /// A list of contact cards, one above the other, which scrolls.
 ///
-/// A click makes a card big and all others small; the list scrolls to it. What the user chooses on
+/// A click makes a card big and all others small. The list scrolls to a card that becomes big, also
+/// when the host makes it so, for example because of a key. What the user chooses on
 /// a card is reported together with the account id of the card. Below the cards there can be a
 /// button that adds contacts.
 ///
@@ -76,7 +77,7 @@ private:
     OmContactCard *sendingCard() const;
     void forget(const QObject *card);
     void makeOnlyBig(OmContactCard *card);
-    void scrollTo(OmContactCard *card);
+    void scrollTo(QWidget *card);
 
     QList<OmContactCard *> m_cards;
     ColumnLayout *m_layout;

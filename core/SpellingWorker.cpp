@@ -57,7 +57,8 @@ void SpellingWorker::load(const std::vector<SpellingFiles> &dictionaries,
         m_suggestions.clear();
         m_suggestionOrder.clear();
     }
-    post([this, dictionaries, personalWords] {
+    post([this, dictionaries, personalWords, make = spellingBackendFactory()] {
+        m_make = make;
         m_personalWords = personalWords;
         exchangeDictionaries(dictionaries);
     });
@@ -74,14 +75,14 @@ void SpellingWorker::exchangeDictionaries(const std::vector<SpellingFiles> &want
     }
     if (!isOutdated) {
         Dictionaries next;
-        const SpellingBackendFactory make = spellingBackendFactory();
         for (const SpellingFiles &files : wanted) {
             const auto loaded =
                     std::find_if(dictionaries.cbegin(), dictionaries.cend(),
                                  [&files](const auto &other) { return other->files == files; });
             auto dictionary = loaded != dictionaries.cend() ? *loaded : nullptr;
-            if (!dictionary && make)
-                dictionary = std::make_shared<Dictionary>(Dictionary{files, make(files), nullptr});
+            if (!dictionary && m_make)
+                dictionary =
+                        std::make_shared<Dictionary>(Dictionary{files, m_make(files), nullptr});
             if (dictionary && dictionary->checker)
                 next.push_back(std::move(dictionary));
         }
@@ -265,11 +266,10 @@ void SpellingWorker::findSuggestions(std::unique_lock<std::mutex> &lock)
 QStringList SpellingWorker::computeSuggestions(const QString &word)
 {
     const QString plain = withPlainApostrophes(word);
-    const SpellingBackendFactory make = spellingBackendFactory();
     std::vector<QStringList> lists;
     for (const auto &dictionary : m_dictionaries) {
-        if (!dictionary->suggester && make) {
-            dictionary->suggester = make(dictionary->files);
+        if (!dictionary->suggester && m_make) {
+            dictionary->suggester = m_make(dictionary->files);
             for (const QString &personal : std::as_const(m_personalWords)) {
                 if (dictionary->suggester)
                     dictionary->suggester->addWord(personal);

@@ -96,6 +96,7 @@ private:
     int m_loads = 0;
 
     // Of the thread alone.
+    SpellingBackendFactory m_make;
     QStringList m_personalWords;
 };
 

@@ -7,6 +7,7 @@
 #include <ombrin/OmScribbledZebraView.h>
 
 #include <QtCore/QRandomGenerator>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QGraphicsRectItem>
 #include <QtWidgets/QScrollBar>
 

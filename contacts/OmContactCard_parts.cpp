@@ -10,7 +10,7 @@
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmLabel.h>
 
-#include <QtWidgets/QAction>
+#include <QAction>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QToolBar>
 

@@ -15,7 +15,7 @@
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtGui/QImage>
-#include <QtWidgets/QAction>
+#include <QAction>
 #include <QtWidgets/QMenu>
 
 namespace ombrin {

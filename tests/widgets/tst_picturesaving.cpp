@@ -15,14 +15,143 @@ class PictureSavingTest : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void proposesOnlyAName_data();
-    void proposesOnlyAName();
-    void savesUnderTheChosenName_data();
-    void savesUnderTheChosenName();
-    void opensInAFolderThatExists();
-    void neverReplacesAnUnconfirmedFile();
-    void keepsTheOldFileWithoutAPicture();
-    void outlivesItsParent();
+    void proposesOnlyAName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("proposal");
+
+        QTest::newRow("plain") << "Dr. Anna (home)"
+                               << "Dr. Anna (home)";
+        QTest::newRow("folders") << "../../etc/pass\\wd"
+                                 << "_._.._etc_pass_wd";
+        QTest::newRow("parent folder") << ".."
+                                       << "_.";
+        QTest::newRow("home") << "~root"
+                              << "_root";
+        QTest::newRow("several files") << R"("a" "b")"
+                                       << "_a_ _b_";
+        QTest::newRow("control characters") << "a\nb\tc\x7f"
+                                            << "a_b_c_";
+        QTest::newRow("backwards") << QStringLiteral("a\u202Egpj.exe") << "a_gpj.exe";
+        QTest::newRow("nothing to see") << " \n "
+                                        << "";
+        QTest::newRow("endless") << QString(100000, QLatin1Char('x'))
+                                 << QString(80, QLatin1Char('x'));
+        const QString smiley = QStringLiteral("\U0001F600");
+        QTest::newRow("cut in a character")
+                << QLatin1Char('x') + smiley.repeated(60) << QLatin1Char('x') + smiley.repeated(39);
+    }
+
+    void proposesOnlyAName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, proposal);
+        QCOMPARE(proposedFileName(name), proposal);
+    }
+
+    void savesUnderTheChosenName_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("saved");
+
+        QTest::newRow("no suffix") << "anna"
+                                   << "anna.jpg";
+        QTest::newRow("jpg") << "anna.jpg"
+                             << "anna.jpg";
+        QTest::newRow("jpeg") << "anna.jpeg"
+                              << "anna.jpeg";
+        QTest::newRow("capitals") << "anna.JPG"
+                                  << "anna.JPG.jpg";
+        QTest::newRow("another suffix") << "anna.png"
+                                        << "anna.png.jpg";
+    }
+
+    void savesUnderTheChosenName()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, saved);
+        const QString folder = path("chosen");
+        QVERIFY(QDir().mkpath(folder));
+        rememberFolder(m_folder->path());
+
+        const FileDialogUser user([&](QFileDialog *dialog) {
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("Save as..."));
+            QCOMPARE(dialog->nameFilters(), {QStringLiteral("Picture (*.jpeg *.jpg)")});
+            QCOMPARE(dialog->directory(), QDir(m_folder->path()));
+            QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("Anna"));
+            FileDialogUser::save(dialog, folder + QLatin1Char('/') + typed);
+        });
+        save(picture());
+
+        QCOMPARE(user.count(), 1);
+        QCOMPARE(QDir(folder).entryList(QDir::Files), {saved});
+        QCOMPARE(QImage(folder + QLatin1Char('/') + saved, "jpg").size(), picture().size());
+        QCOMPARE(QDir(rememberedFolder()), QDir(folder));
+    }
+
+    void opensInAFolderThatExists()
+    {
+        rememberFolder(path("removed"));
+        const FileDialogUser user([](QFileDialog *dialog) {
+            QVERIFY(dialog->directory().exists());
+            QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("anna@home"));
+            dialog->reject();
+        });
+        save(picture(), QStringLiteral("\n"));
+        QCOMPARE(user.count(), 1);
+        QCOMPARE(rememberedFolder(), path("removed"));
+    }
+
+    // The user confirms a name to which the suffix is added afterwards.
+    void neverReplacesAnUnconfirmedFile()
+    {
+        const QString existing = path("anna.JPG.jpg");
+        QVERIFY(picture().save(existing));
+        QStringList proposals;
+        const FileDialogUser user([&](QFileDialog *dialog) {
+            proposals.append(FileDialogUser::proposal(dialog));
+            if (proposals.size() == 1)
+                FileDialogUser::save(dialog, path("anna.JPG"));
+            else
+                dialog->reject();
+        });
+        save(picture(qRgb(0, 0, 255)));
+        QCOMPARE(proposals, QStringList({QStringLiteral("Anna"), QStringLiteral("anna.JPG.jpg")}));
+        QVERIFY(QImage(existing).pixelColor(5, 5).red() > 128);
+    }
+
+    void keepsTheOldFileWithoutAPicture()
+    {
+        const QString existing = path("anna.jpg");
+        QVERIFY(picture().save(existing));
+        const qint64 size = QFileInfo(existing).size();
+        const FileDialogUser user([&](QFileDialog *dialog) {
+            dialog->setOption(QFileDialog::DontConfirmOverwrite);
+            FileDialogUser::save(dialog, existing);
+        });
+        save(QImage());
+        QCOMPARE(user.count(), 1);
+        QCOMPARE(QFileInfo(existing).size(), size);
+        // Nor anything where nothing can be written.
+        const FileDialogUser other(
+                [&](QFileDialog *dialog) { FileDialogUser::save(dialog, path("none/anna.jpg")); });
+        save(picture());
+        QVERIFY(!QFileInfo::exists(path("none")));
+    }
+
+    void outlivesItsParent()
+    {
+        bool isAsked = false;
+        const FileDialogUser user([this](QFileDialog *) { delete m_parent; });
+        savePictureAsJpeg(m_parent,
+                          {QString(), QString(), key(), QStringLiteral("Anna"), QString()},
+                          [&isAsked] {
+                              isAsked = true;
+                              return QImage();
+                          });
+        QCOMPARE(user.count(), 1);
+        QVERIFY(!isAsked);
+    }
 
 protected:
     void setUp() override
@@ -65,142 +194,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     QPointer<QWidget> m_parent;
 };
-
-void PictureSavingTest::proposesOnlyAName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("proposal");
-
-    QTest::newRow("plain") << "Dr. Anna (home)"
-                           << "Dr. Anna (home)";
-    QTest::newRow("folders") << "../../etc/pass\\wd"
-                             << "_._.._etc_pass_wd";
-    QTest::newRow("parent folder") << ".."
-                                   << "_.";
-    QTest::newRow("home") << "~root"
-                          << "_root";
-    QTest::newRow("several files") << R"("a" "b")"
-                                   << "_a_ _b_";
-    QTest::newRow("control characters") << "a\nb\tc\x7f"
-                                        << "a_b_c_";
-    QTest::newRow("backwards") << QStringLiteral("a\u202Egpj.exe") << "a_gpj.exe";
-    QTest::newRow("nothing to see") << " \n "
-                                    << "";
-    QTest::newRow("endless") << QString(100000, QLatin1Char('x')) << QString(80, QLatin1Char('x'));
-    const QString smiley = QStringLiteral("\U0001F600");
-    QTest::newRow("cut in a character")
-            << QLatin1Char('x') + smiley.repeated(60) << QLatin1Char('x') + smiley.repeated(39);
-}
-
-void PictureSavingTest::proposesOnlyAName()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, proposal);
-    QCOMPARE(proposedFileName(name), proposal);
-}
-
-void PictureSavingTest::savesUnderTheChosenName_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("saved");
-
-    QTest::newRow("no suffix") << "anna"
-                               << "anna.jpg";
-    QTest::newRow("jpg") << "anna.jpg"
-                         << "anna.jpg";
-    QTest::newRow("jpeg") << "anna.jpeg"
-                          << "anna.jpeg";
-    QTest::newRow("capitals") << "anna.JPG"
-                              << "anna.JPG.jpg";
-    QTest::newRow("another suffix") << "anna.png"
-                                    << "anna.png.jpg";
-}
-
-void PictureSavingTest::savesUnderTheChosenName()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, saved);
-    const QString folder = path("chosen");
-    QVERIFY(QDir().mkpath(folder));
-    rememberFolder(m_folder->path());
-
-    const FileDialogUser user([&](QFileDialog *dialog) {
-        QCOMPARE(dialog->windowTitle(), QStringLiteral("Save as..."));
-        QCOMPARE(dialog->nameFilters(), {QStringLiteral("Picture (*.jpeg *.jpg)")});
-        QCOMPARE(dialog->directory(), QDir(m_folder->path()));
-        QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("Anna"));
-        FileDialogUser::save(dialog, folder + QLatin1Char('/') + typed);
-    });
-    save(picture());
-
-    QCOMPARE(user.count(), 1);
-    QCOMPARE(QDir(folder).entryList(QDir::Files), {saved});
-    QCOMPARE(QImage(folder + QLatin1Char('/') + saved, "jpg").size(), picture().size());
-    QCOMPARE(QDir(rememberedFolder()), QDir(folder));
-}
-
-void PictureSavingTest::opensInAFolderThatExists()
-{
-    rememberFolder(path("removed"));
-    const FileDialogUser user([](QFileDialog *dialog) {
-        QVERIFY(dialog->directory().exists());
-        QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("anna@home"));
-        dialog->reject();
-    });
-    save(picture(), QStringLiteral("\n"));
-    QCOMPARE(user.count(), 1);
-    QCOMPARE(rememberedFolder(), path("removed"));
-}
-
-// The user confirms a name to which the suffix is added afterwards.
-void PictureSavingTest::neverReplacesAnUnconfirmedFile()
-{
-    const QString existing = path("anna.JPG.jpg");
-    QVERIFY(picture().save(existing));
-    QStringList proposals;
-    const FileDialogUser user([&](QFileDialog *dialog) {
-        proposals.append(FileDialogUser::proposal(dialog));
-        if (proposals.size() == 1)
-            FileDialogUser::save(dialog, path("anna.JPG"));
-        else
-            dialog->reject();
-    });
-    save(picture(qRgb(0, 0, 255)));
-    QCOMPARE(proposals, QStringList({QStringLiteral("Anna"), QStringLiteral("anna.JPG.jpg")}));
-    QVERIFY(QImage(existing).pixelColor(5, 5).red() > 128);
-}
-
-void PictureSavingTest::keepsTheOldFileWithoutAPicture()
-{
-    const QString existing = path("anna.jpg");
-    QVERIFY(picture().save(existing));
-    const qint64 size = QFileInfo(existing).size();
-    const FileDialogUser user([&](QFileDialog *dialog) {
-        dialog->setOption(QFileDialog::DontConfirmOverwrite);
-        FileDialogUser::save(dialog, existing);
-    });
-    save(QImage());
-    QCOMPARE(user.count(), 1);
-    QCOMPARE(QFileInfo(existing).size(), size);
-    // Nor anything where nothing can be written.
-    const FileDialogUser other(
-            [&](QFileDialog *dialog) { FileDialogUser::save(dialog, path("none/anna.jpg")); });
-    save(picture());
-    QVERIFY(!QFileInfo::exists(path("none")));
-}
-
-void PictureSavingTest::outlivesItsParent()
-{
-    bool isAsked = false;
-    const FileDialogUser user([this](QFileDialog *) { delete m_parent; });
-    savePictureAsJpeg(m_parent, {QString(), QString(), key(), QStringLiteral("Anna"), QString()},
-                      [&isAsked] {
-                          isAsked = true;
-                          return QImage();
-                      });
-    QCOMPARE(user.count(), 1);
-    QVERIFY(!isAsked);
-}
 
 OMBRIN_TEST_MAIN(PictureSavingTest)
 #include "tst_picturesaving.moc"

@@ -8,6 +8,7 @@
 
 #include <ombrin/OmAvatarSmall.h>
 
+#include <QAction>
 #include <QtCore/QDir>
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
@@ -15,7 +16,6 @@
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtGui/QImage>
-#include <QAction>
 #include <QtWidgets/QMenu>
 
 namespace ombrin {

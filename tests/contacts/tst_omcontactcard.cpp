@@ -7,6 +7,7 @@
 #include <ombrin/OmLabel.h>
 #include <ombrin/OmSettings.h>
 
+#include <QAction>
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMimeData>
 #include <QtCore/QResource>
@@ -14,7 +15,6 @@
 #include <QtCore/QTranslator>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollArea>

@@ -3,10 +3,10 @@
 
 #include <ombrin/OmContactCardList.h>
 
+#include <QAction>
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QResource>
 #include <QtGui/QMouseEvent>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollBar>

@@ -78,8 +78,8 @@ private Q_SLOTS:
         QTest::newRow("affixes cut off") << QByteArray("SET UTF-8\nSFX A Y 40\nSFX A 0 s")
                                          << QByteArray("2\nhello/A\nx/A\n");
         QTest::newRow("numbers too large")
-                << QByteArray("SET UTF-8\nFLAG num\nSFX 99999999 Y 2000000000\nREP 2000000000\n"
-                              "MAP -1\nCOMPOUNDMIN -5\nAF 99999999\n")
+                << QByteArray("SET UTF-8\nFLAG num\nSFX 99999999 Y 200000\nREP 200000\n"
+                              "MAP -1\nCOMPOUNDMIN -5\nAF 200000\n")
                 << QByteArray("2\nhello/99999999999\nx/-1\n");
         QTest::newRow("letters of another encoding")
                 << QByteArray("SET UTF-8\n") << QByteArray("2\nhall\xF6\n\xFF\xFE\xC3\n");

@@ -48,6 +48,14 @@
     </message>
 </context>
 <context>
+    <name>OmScreenShooter_FullscreenCutter</name>
+    <message>
+        <source>Please select the area on the screen that you want as an image by pressing the left mouse button and dragging your mouse.</source>
+        <comment>hint if user doesn&apos;t select anything</comment>
+        <translation>Bitte wählen Sie den Bereich des Bildschirms, den Sie als Bild haben möchten: Drücken Sie dazu die linke Maustaste und ziehen Sie die Maus.</translation>
+    </message>
+</context>
+<context>
     <name>OmWizard_Standard2</name>
     <message>
         <source>Assistant</source>

@@ -38,6 +38,12 @@ void tst_Translations::dialogsSpeakGerman_data()
     row("&Yes", "ombrin::OmMessageBox", "&Ja");
     row("&No", "ombrin::OmMessageBox", "&Nein");
     row("&Cancel", "ombrin::OmInputDialog", "&Abbrechen");
+    row("Please select the area on the screen that you want as an image by pressing the left mouse "
+        "button and dragging your mouse.",
+        "OmScreenShooter_FullscreenCutter",
+        "Bitte wählen Sie den Bereich des Bildschirms, den Sie als Bild haben möchten: Drücken Sie "
+        "dazu die linke Maustaste und ziehen Sie die Maus.",
+        "hint if user doesn't select anything");
     row("Choose a Date", "ombrin::OmCalendar", "Datum auswählen");
 }
 

@@ -153,28 +153,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *typed, const QStringList &expected) {
-            QTest::newRow(typed) << text(typed) << expected;
-        };
         const QString helo = text("helo");
-        row("helo", {});
-        row("helo ", {helo});
-        row("helo,", {helo});
-        row("helo?", {helo});
-        row("helo!", {helo});
-        row("helo.", {helo});
-        row("helo;", {});
-        row("hello ", {});
-        row("HELLO ", {});
-        row("world helo hello helo ", {helo, helo});
-        row("helo world", {helo});
-        row("helox helo ", {text("helox"), helo});
-        row("(helo) ", {});
-        row("(helo) helo ", {helo});
-        row("don't ", {});
-        row("\xD1\x81\xD0\xBB\xD0\xBE\xD0\xBD ", {text("\xD1\x81\xD0\xBB\xD0\xBE\xD0\xBD")});
-        row(" ", {});
-        row("... ", {});
+        for (const char *end : {" ", ",", "?", "!", "."})
+            QTest::newRow(end) << helo + text(end) << QStringList(helo);
+        for (const char *right :
+             {"helo", "helo;", "hello ", "HELLO ", "(helo) ", "don't ", " ", "... "})
+            QTest::newRow(right) << text(right) << QStringList();
+        QTest::newRow("four") << text("world helo hello helo ") << QStringList({helo, helo});
+        QTest::newRow("inside") << text("helox helo ") << QStringList({text("helox"), helo});
+        QTest::newRow("brackets") << text("(helo) helo ") << QStringList(helo);
+        QTest::newRow("other script") << text("слон ") << QStringList(text("слон"));
     }
     void wrongWordIsUnderlinedWhenItEnds()
     {
@@ -274,43 +262,34 @@ private Q_SLOTS:
         QTEST(m_edit->toPlainText(), "expected");
     }
 
-    void keysObeyTheLimit_data()
-    {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<int>("sent");
-        const auto row = [](const char *name, int key, int modifiers, const char *expected,
-                            int sent = 0) {
-            QTest::newRow(name) << key << modifiers << text(expected) << sent;
-        };
-        const int none = Qt::NoModifier;
-        row("letter", Qt::Key_X, none, "abc");
-        row("shifted letter", Qt::Key_X, Qt::ShiftModifier, "abcx");
-        row("cursor and delete", Qt::Key_Delete, none, "abc");
-        row("backspace", Qt::Key_Backspace, none, "ab");
-        row("tab", Qt::Key_Tab, none, "abc\t");
-        row("return", Qt::Key_Return, none, "abc", 1);
-        row("enter", Qt::Key_Enter, Qt::KeypadModifier, "abc", 1);
-        row("shift and return", Qt::Key_Return, Qt::ShiftModifier, "abc\n");
-    }
     void keysObeyTheLimit()
     {
-        QFETCH(int, key);
-        QFETCH(int, modifiers);
-        QSignalSpy sent(m_edit.get(), &OmTextEdit::enterPressed);
+        struct Case
+        {
+            Qt::Key key;
+            Qt::KeyboardModifier modifier;
+            const char *typed, *expected;
+            int sent;
+        };
+        constexpr Case cases[] = {{Qt::Key_X, Qt::NoModifier, "x", "abc", 0},
+                                  {Qt::Key_X, Qt::ShiftModifier, "X", "abcX", 0},
+                                  {Qt::Key_Home, Qt::NoModifier, "", "abc", 0},
+                                  {Qt::Key_Backspace, Qt::NoModifier, "", "ab", 0},
+                                  {Qt::Key_Tab, Qt::NoModifier, "\t", "abc\t", 0},
+                                  {Qt::Key_Return, Qt::NoModifier, "", "abc", 1},
+                                  {Qt::Key_Enter, Qt::KeypadModifier, "", "abc", 1},
+                                  {Qt::Key_Return, Qt::ShiftModifier, "", "abc\n", 0}};
         m_edit->setMaxLength(3);
-        QTest::keyClicks(m_edit.get(), text("abcd"));
-        QCOMPARE(m_edit->toPlainText(), text("abc"));
-        if (key == Qt::Key_Delete)
-            QTest::keyClick(m_edit.get(), Qt::Key_Left);
-        const QString typed = key == Qt::Key_X     ? text("x")
-                              : key == Qt::Key_Tab ? text("\t")
-                                                   : QString();
-        QTest::sendKeyEvent(QTest::Click, m_edit.get(), Qt::Key(key), typed,
-                            Qt::KeyboardModifiers(modifiers));
-        QTEST(m_edit->toPlainText(), "expected");
-        QTEST(int(sent.count()), "sent");
+        for (const Case &test : cases) {
+            QSignalSpy sent(m_edit.get(), &OmTextEdit::enterPressed);
+            m_edit->clear();
+            QTest::keyClicks(m_edit.get(), text("abcd"));
+            QTest::sendKeyEvent(QTest::Click, m_edit.get(), test.key, text(test.typed),
+                                test.modifier);
+            QCOMPARE(m_edit->toPlainText(), text(test.expected));
+            QCOMPARE(int(sent.count()), test.sent);
+            QCOMPARE(m_edit->textCursor().atEnd(), true);
+        }
     }
 
     void suggestionReplacesTheWordInOneStep()

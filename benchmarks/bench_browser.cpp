@@ -25,6 +25,9 @@ void appendMessages(benchmark::State &state, int count)
         Browser browser;
         browser.resize(400, 300);
         browser.ensurePolished();
+        // Links look alike in both: a style sheet costs the same wherever it comes from.
+        browser.document()->setDefaultStyleSheet(
+                QStringLiteral("a { text-decoration: underline; color: #009cff }"));
         for (int i = 0; i < count; ++i)
             browser.append(message);
     }

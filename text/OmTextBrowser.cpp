@@ -5,7 +5,6 @@
 #include "text/LinkToolTip.h"
 #include "widgets/PictureSaving.h"
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
 #include <QtGui/QClipboard>
@@ -246,7 +245,9 @@ void OmTextBrowser::savePicture(const QString &source)
     saving.title = tr("Save Smiley as...");
     saving.formatName = tr("Joint Photographic Experts Group");
     saving.settingsKey = QStringLiteral("save_smiley_path");
-    saving.proposedName = QFileInfo(source).fileName();
+    // What lies in the address itself has no name.
+    if (url.scheme() != QLatin1String("data"))
+        saving.proposedName = url.fileName(QUrl::FullyDecoded);
     savePictureAsJpeg(this, saving, [url] { return readChatPicture(url); });
 }
 

@@ -12,7 +12,7 @@ namespace {
 using Data = COmMonitoredListData::Data;
 
 constexpr std::size_t kNodeSize = sizeof(void *);
-constexpr int kSmallestCapacity = 4;
+constexpr int kSmallestCapacity = 8;
 constexpr int kLargestCapacity = static_cast<int>(std::min<std::size_t>(
         std::numeric_limits<int>::max(),
         (std::numeric_limits<std::ptrdiff_t>::max() - sizeof(Data)) / kNodeSize));
@@ -30,6 +30,32 @@ int capacityFor(int nodes)
     return std::max(kSmallestCapacity, 2 * nodes);
 }
 
+int enlargedCapacity(const Data *d)
+{
+    if (d->alloc == kLargestCapacity)
+        qBadAlloc();
+    return capacityFor(d->alloc);
+}
+
+// Where nodes lie that are to be added to in front: with some room behind them, so that a list that
+// grows at both ends in turn does not slide to and fro.
+int beginBehindRoom(int capacity, int count)
+{
+    const int room = capacity - count;
+    return room - room / 8;
+}
+
+// A block of its own with the nodes of another.
+Data *copyOf(Data *other, int capacity, int begin)
+{
+    const int count = other->end - other->begin;
+    void *const memory = std::malloc(sizeof(Data) + bytesOf(capacity));
+    Q_CHECK_PTR(memory);
+    Data *const copy = new (memory) Data{QAtomicInt(1), capacity, begin, begin + count, 1};
+    std::memcpy(copy->nodes() + begin, other->nodes() + other->begin, bytesOf(count));
+    return copy;
+}
+
 // What is slid rather than enlarged: a block so empty that many nodes can be added until the next
 // slide, which makes up for the time that each slide takes.
 bool isRoomy(const Data *d)
@@ -44,13 +70,8 @@ COmMonitoredListData::Data COmMonitoredListData::shared_null = {QAtomicInt(1), 0
 
 COmMonitoredListData::Data *COmMonitoredListData::detach()
 {
-    const int count = size();
-    const int capacity = capacityFor(count);
-    void *const memory = std::malloc(sizeof(Data) + bytesOf(capacity));
-    Q_CHECK_PTR(memory);
     Data *const old = d;
-    d = new (memory) Data{QAtomicInt(1), capacity, 0, count, 1};
-    std::memcpy(d->nodes(), old->nodes() + old->begin, bytesOf(count));
+    d = copyOf(old, capacityFor(size()), 0);
     return old->ref.deref() ? nullptr : old;
 }
 
@@ -83,7 +104,7 @@ void **COmMonitoredListData::insert(int i)
     return begin() + i;
 }
 
-void COmMonitoredListData::remove(int i)
+void COmMonitoredListData::removeInside(int i)
 {
     void **const first = begin();
     const int behind = size() - 1 - i;
@@ -123,21 +144,22 @@ void COmMonitoredListData::makeRoomBehind()
         enlarge();
 }
 
-// Some room is left behind the nodes, so that a list that grows at both ends in turn does not slide
-// to and fro.
 void COmMonitoredListData::makeRoomBefore()
 {
-    if (!isRoomy(d))
-        enlarge();
-    const int room = d->alloc - size();
-    slideTo(room - room / 4);
+    if (isRoomy(d)) {
+        slideTo(beginBehindRoom(d->alloc, size()));
+        return;
+    }
+    const int capacity = enlargedCapacity(d);
+    Data *const old = d;
+    d = copyOf(old, capacity, beginBehindRoom(capacity, size()));
+    d->sharable = old->sharable;
+    freeBlock(old);
 }
 
 void COmMonitoredListData::enlarge()
 {
-    if (d->alloc == kLargestCapacity)
-        qBadAlloc();
-    const int capacity = capacityFor(d->alloc);
+    const int capacity = enlargedCapacity(d);
     // A header is plain numbers while only one handle points to it.
     void *const memory = std::realloc(static_cast<void *>(d), sizeof(Data) + bytesOf(capacity));
     Q_CHECK_PTR(memory);

@@ -12,6 +12,7 @@
 #include <list>
 #include <new>
 #include <type_traits>
+#include <typeinfo>
 
 /// A list of pointers that reports every change through hooks.
 ///
@@ -232,6 +233,8 @@ private:
     int indexInBlock(const T *node) const;
     int indexNear(const T &item, int i) const;
 
+    template <typename Opener>
+    void addAndNotify(const T &item, Opener open);
     template <typename Operation>
     auto withSafeArgument(const T &item, Operation operation);
     template <typename Opener>
@@ -240,6 +243,11 @@ private:
     void replaceNode(int i, T &item);
     T takeAsIs(int i);
     void appendAll(const COmMonitoredList &other);
+    bool hasHooks() const;
+    bool mayAdd(T &item);
+    bool mayRemove(T &item);
+    void tellAdded(T &item);
+    void tellRemoved(T &item);
     void endBatch(bool changed);
     void notify();
 

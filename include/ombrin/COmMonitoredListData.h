@@ -92,7 +92,15 @@ public:
     /// nearer end.
     void **insert(int i);
     /// Closes the \a i-th node, which must exist.
-    void remove(int i);
+    void remove(int i)
+    {
+        if (i == size() - 1)
+            --d->end;
+        else if (i == 0)
+            ++d->begin;
+        else
+            removeInside(i);
+    }
     /// Moves the \a from-th node so that it becomes the \a to-th; both must exist.
     void move(int from, int to);
     /// Closes the node at the address \a node; returns the address of the one that follows.
@@ -105,6 +113,7 @@ public:
     Data *d; ///< The block; never null.
 
 private:
+    void removeInside(int i);
     void makeRoomBefore();
     void makeRoomBehind();
     void enlarge();

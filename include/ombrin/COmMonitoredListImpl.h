@@ -126,28 +126,19 @@ int COmMonitoredList<T>::IndexOfIterator(const_iterator it)
 template <typename T>
 void COmMonitoredList<T>::append(const T &item)
 {
-    withSafeArgument(item, [this](T &safe) {
-        if (add(safe, [this] { return d.append(); }) >= 0)
-            notify();
-    });
+    addAndNotify(item, [this] { return d.append(); });
 }
 
 template <typename T>
 void COmMonitoredList<T>::prepend(const T &item)
 {
-    withSafeArgument(item, [this](T &safe) {
-        if (add(safe, [this] { return d.prepend(); }) >= 0)
-            notify();
-    });
+    addAndNotify(item, [this] { return d.prepend(); });
 }
 
 template <typename T>
 void COmMonitoredList<T>::insert(int i, const T &item)
 {
-    withSafeArgument(item, [this, i](T &safe) {
-        if (add(safe, [this, i] { return d.insert(i); }) >= 0)
-            notify();
-    });
+    addAndNotify(item, [this, i] { return d.insert(i); });
 }
 
 template <typename T>
@@ -191,6 +182,22 @@ void COmMonitoredList<T>::appendAll(const COmMonitoredList &other)
         append(item);
 }
 
+template <typename T>
+template <typename Opener>
+void COmMonitoredList<T>::addAndNotify(const T &item, Opener open)
+{
+    if (!hasHooks()) {
+        const T copy = item; // it may live in this list
+        detach();
+        new (open()) T(copy);
+        return;
+    }
+    withSafeArgument(item, [this, open](T &safe) {
+        if (add(safe, open) >= 0)
+            notify();
+    });
+}
+
 // Gives the operation the caller's own argument, through which a hook may answer, or a copy of it
 // if it lives in this list, whose nodes move.
 template <typename T>
@@ -209,13 +216,12 @@ template <typename T>
 template <typename Opener>
 int COmMonitoredList<T>::add(T &item, Opener open)
 {
-    if (m_addHooksSuppressed == 0 && !Override_BeforeItemAdded(item))
+    if (!mayAdd(item))
         return -1;
     detach();
     const T *const node = new (open()) T(item);
     const int place = static_cast<int>(node - nodes());
-    if (m_addHooksSuppressed == 0)
-        Override_AfterItemAdded(item);
+    tellAdded(item);
     return place;
 }
 
@@ -226,6 +232,11 @@ void COmMonitoredList<T>::removeAt(int i)
 {
     if (!isIndex(i))
         return;
+    if (!hasHooks()) {
+        detach();
+        d.remove(i);
+        return;
+    }
     T item = nodes()[i];
     if (removeNode(i, item) >= 0)
         notify();
@@ -246,8 +257,10 @@ T COmMonitoredList<T>::takeAt(int i)
 template <typename T>
 T COmMonitoredList<T>::takeAsIs(int i)
 {
-    const T item = value(i);
+    if (!isIndex(i))
+        return nullptr;
     detach();
+    const T item = nodes()[i];
     removeAt(i);
     return item;
 }
@@ -319,15 +332,14 @@ template <typename T>
 int COmMonitoredList<T>::removeNode(int i, T &item)
 {
     const T element = nodes()[i];
-    if (m_deleteHooksSuppressed == 0 && !Override_BeforeItemDeleted(item))
+    if (!mayRemove(item))
         return -1;
     const int place = indexNear(element, i);
     if (place < 0)
         return -1;
     detach();
     d.remove(place);
-    if (m_deleteHooksSuppressed == 0)
-        Override_AfterItemDeleted(item);
+    tellRemoved(item);
     return place;
 }
 
@@ -344,23 +356,19 @@ void COmMonitoredList<T>::replaceNode(int i, T &item)
 {
     if (!isIndex(i))
         return;
-    if (m_addHooksSuppressed == 0 && !Override_BeforeItemAdded(item))
-        return;
-    if (!isIndex(i))
+    if (!mayAdd(item) || !isIndex(i))
         return;
     const T element = nodes()[i];
     T old = element;
-    if (m_deleteHooksSuppressed == 0 && !Override_BeforeItemDeleted(old))
+    if (!mayRemove(old))
         return;
     const int place = indexNear(element, i);
     if (place < 0)
         return;
     detach();
     nodes()[place] = item;
-    if (m_deleteHooksSuppressed == 0)
-        Override_AfterItemDeleted(old);
-    if (m_addHooksSuppressed == 0)
-        Override_AfterItemAdded(item);
+    tellRemoved(old);
+    tellAdded(item);
     notify();
 }
 
@@ -473,6 +481,39 @@ void COmMonitoredList<T>::notify()
 {
     if (m_changesIgnored == 0)
         Override_ChangesHappened();
+}
+
+// Whether there is a hook that does anything: one that does not is not worth its call.
+template <typename T>
+bool COmMonitoredList<T>::hasHooks() const
+{
+    return &typeid(*this) != &typeid(COmMonitoredList);
+}
+
+template <typename T>
+bool COmMonitoredList<T>::mayAdd(T &item)
+{
+    return m_addHooksSuppressed != 0 || Override_BeforeItemAdded(item);
+}
+
+template <typename T>
+bool COmMonitoredList<T>::mayRemove(T &item)
+{
+    return m_deleteHooksSuppressed != 0 || Override_BeforeItemDeleted(item);
+}
+
+template <typename T>
+void COmMonitoredList<T>::tellAdded(T &item)
+{
+    if (m_addHooksSuppressed == 0)
+        Override_AfterItemAdded(item);
+}
+
+template <typename T>
+void COmMonitoredList<T>::tellRemoved(T &item)
+{
+    if (m_deleteHooksSuppressed == 0)
+        Override_AfterItemDeleted(item);
 }
 
 // The index of the element at the address node, or -1 if that is no element of this list.

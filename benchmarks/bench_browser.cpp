@@ -80,7 +80,7 @@ bool isAddress(const QString &text)
     return vhutilities::IsPossibleEMailAddress(text, false);
 }
 
-// Ten times the text may take ten times as long, and a little more.
+// Ten times the text may take ten times as long; the rest is for what no longer fits a cache.
 RatioCase linear(const char *name, const char *unit, Recogniser recognise)
 {
     const auto body = [unit, recognise](int kilobytes, int rounds) {
@@ -93,7 +93,7 @@ RatioCase linear(const char *name, const char *unit, Recogniser recognise)
             }
         };
     };
-    return RatioCase(name, 1.2, body(100, 1), body(10, 10));
+    return RatioCase(name, 1.5, body(100, 1), body(10, 10));
 }
 
 const RatioCase growth[] = {

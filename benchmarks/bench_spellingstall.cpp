@@ -23,9 +23,9 @@ using ombrin::bench::RatioCase;
 namespace {
 
 constexpr int kLongestStallMs = 30;
-constexpr int kWords = 1000;
-constexpr int kWrongOneIn = 5;
-constexpr int kKeysBetweenMenus = 500;
+constexpr int kWords = 400;
+constexpr int kWrongOneIn = 2;
+constexpr int kKeysBetweenMenus = 250;
 constexpr int kMenuOpenMs = 40;
 
 // Measures the time between two turns of the event loop.

@@ -11,7 +11,7 @@ namespace ombrin {
 namespace {
 
 // Short enough not to be noticed, long enough for suggestions that are almost there.
-constexpr int kPatienceMs = 15;
+constexpr int kPatienceMs = 5;
 // The separator, "Add to Dictionary" and the frame.
 constexpr int kOtherRows = 3;
 

@@ -152,6 +152,21 @@ Body clicking(int contacts, int first, int second, int clicks)
     };
 }
 
+// A visible contact comes and goes, and its card is painted.
+Body changingStatus(int contacts)
+{
+    return [=](benchmark::State &state) {
+        const std::unique_ptr<QWidget> shown = shownList(contacts);
+        OmContactCard *const card = static_cast<OmContactCardList *>(shown.get())->card(3);
+        bool isAway = false;
+        for (auto _ : state) {
+            isAway = !isAway;
+            card->setStatus(isAway ? ombrin::Om::Away : ombrin::Om::Online);
+            QCoreApplication::sendPostedEvents();
+        }
+    };
+}
+
 const RatioCase kCases[] = {
         {"10,000 contacts, time to fill and show : six children each", 0.15,
          filling(shownList, kMany), filling(shownOrdinaryList, kMany)},
@@ -161,6 +176,8 @@ const RatioCase kCases[] = {
          filling(shownList, kFew, 10)},
         {"click, all cards move, 10,000 : ten times 1,000", 3, clicking(kMany, 0, kMany - 1, 1),
          clicking(kFew, 0, kFew - 1, 10)},
+        {"contact changes status, among 10,000 : among 1,000", 3, changingStatus(kMany),
+         changingStatus(kFew)},
         {"click, one card moves, 10,000 : 1,000", 3, clicking(kMany, 3, 4, 10),
          clicking(kFew, 3, 4, 10)},
 };

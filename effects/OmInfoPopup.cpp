@@ -80,6 +80,8 @@ bool OmInfoPopup::eventFilter(QObject *watched, QEvent *event)
             keepPopup();
         else if (event->type() == QEvent::Leave)
             hidePopup();
+        else if (event->type() == QEvent::Hide)
+            endFades(); // which are not painted any more, and so would never end
     }
     return QLabel::eventFilter(watched, event);
 }

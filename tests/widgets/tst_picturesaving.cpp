@@ -15,61 +15,41 @@ class PictureSavingTest : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void proposesOnlyAName_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("proposal");
-
-        QTest::newRow("plain") << "Dr. Anna (home)"
-                               << "Dr. Anna (home)";
-        QTest::newRow("folders") << "../../etc/pass\\wd"
-                                 << "_._.._etc_pass_wd";
-        QTest::newRow("parent folder") << ".."
-                                       << "_.";
-        QTest::newRow("home") << "~root"
-                              << "_root";
-        QTest::newRow("several files") << R"("a" "b")"
-                                       << "_a_ _b_";
-        QTest::newRow("control characters") << "a\nb\tc\x7f"
-                                            << "a_b_c_";
-        QTest::newRow("backwards") << QStringLiteral("a\u202Egpj.exe") << "a_gpj.exe";
-        QTest::newRow("nothing to see") << " \n "
-                                        << "";
-        QTest::newRow("endless") << QString(100000, QLatin1Char('x'))
-                                 << QString(80, QLatin1Char('x'));
-        const QString smiley = QStringLiteral("\U0001F600");
-        QTest::newRow("cut in a character")
-                << QLatin1Char('x') + smiley.repeated(60) << QLatin1Char('x') + smiley.repeated(39);
-    }
-
     void proposesOnlyAName()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, proposal);
-        QCOMPARE(proposedFileName(name), proposal);
+        const QString smiley = QStringLiteral("\U0001F600");
+        const QPair<QString, QString> rows[] = {
+                {QStringLiteral("Dr. Anna (home)"), QStringLiteral("Dr. Anna (home)")},
+                {QStringLiteral("../../etc/pass\\wd"), QStringLiteral("_._.._etc_pass_wd")},
+                {QStringLiteral(".."), QStringLiteral("_.")},
+                {QStringLiteral("~root"), QStringLiteral("_root")},
+                {QStringLiteral("\"a\" \"b\""), QStringLiteral("_a_ _b_")},
+                {QStringLiteral("a\nb\tc\x7f"), QStringLiteral("a_b_c_")},
+                {QStringLiteral("a\u202Egpj.exe"), QStringLiteral("a_gpj.exe")},
+                {QStringLiteral(" \n "), QString()},
+                {QString(100000, QLatin1Char('x')), QString(80, QLatin1Char('x'))},
+                {QLatin1Char('x') + smiley.repeated(60), QLatin1Char('x') + smiley.repeated(39)},
+        };
+        for (const auto &row : rows)
+            QCOMPARE(proposedFileName(row.first), row.second);
     }
 
     void savesUnderTheChosenName_data()
     {
-        QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("saved");
-
-        QTest::newRow("no suffix") << "anna"
-                                   << "anna.jpg";
-        QTest::newRow("jpg") << "anna.jpg"
-                             << "anna.jpg";
-        QTest::newRow("jpeg") << "anna.jpeg"
-                              << "anna.jpeg";
-        QTest::newRow("capitals") << "anna.JPG"
-                                  << "anna.JPG.jpg";
-        QTest::newRow("another suffix") << "anna.png"
-                                        << "anna.png.jpg";
+        const QPair<const char *, const char *> rows[] = {{"anna", "anna.jpg"},
+                                                          {"anna.jpg", "anna.jpg"},
+                                                          {"anna.jpeg", "anna.jpeg"},
+                                                          {"anna.JPG", "anna.JPG.jpg"},
+                                                          {"anna.png", "anna.png.jpg"}};
+        for (const auto &row : rows)
+            QTest::newRow(row.first) << QString::fromLatin1(row.second);
     }
 
     void savesUnderTheChosenName()
     {
-        QFETCH(QString, typed);
         QFETCH(QString, saved);
+        const QString typed = QLatin1String(QTest::currentDataTag());
         const QString folder = path("chosen");
         QVERIFY(QDir().mkpath(folder));
         rememberFolder(m_folder->path());

@@ -17,6 +17,7 @@ packages_build=(
 packages_test=(
   xvfb openbox xdotool x11-utils x11-xserver-utils
   xserver-xorg-core xserver-xorg-video-dummy
+  dbus-daemon
 )
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev)
 packages_clang=(clang)

@@ -14,8 +14,12 @@ public:
 
     void add(int number)
     {
-        if (isEmpty() || number > largest())
+        // Numbers mostly come in ascending order.
+        const auto last = m_counts.rbegin();
+        if (last == m_counts.rend() || last->first < number)
             m_counts.emplace_hint(m_counts.end(), number, 1);
+        else if (last->first == number)
+            ++last->second;
         else
             ++m_counts[number];
     }

@@ -152,7 +152,7 @@ void ZebraLayout::count(Item *item, Entry *entry)
     entry->row = row;
     entry->height = height;
     if (row >= 0)
-        m_rows.emplace(row, item);
+        m_rows.emplace_hint(m_rows.end(), row, item); // where rows mostly come
     m_lines.add(row, height);
 }
 

@@ -237,7 +237,7 @@ void tst_OmScreenShooter::everyRequestReportsOnce_data()
             [](Cutter *) { shown<OmImageMaskedButton>()->deleteLater(); }, "failed");
     row(
             "button clicked twice", false, true,
-            [click](Cutter *) {
+            [](Cutter *) {
                 auto *button = shown<OmImageMaskedButton>();
                 Q_EMIT button->signalOnClicked();
                 Q_EMIT button->signalOnClicked();

@@ -61,7 +61,7 @@ void OmContactCardList::addCard(OmContactCard *card)
 
 void OmContactCardList::removeCard(OmContactCard *card)
 {
-    const int index = m_cards.indexOf(card);
+    const auto index = static_cast<int>(m_cards.indexOf(card));
     if (index < 0)
         return;
     const bool wasCurrent = card == currentCard();

@@ -79,6 +79,14 @@ QSlider *slider(int minimum, int maximum, int value)
     return result;
 }
 
+// As much of the card as there is, however high the scene is.
+void addToCard(QWidget *view, Card *card)
+{
+    view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    view->setMinimumHeight(140);
+    card->body()->addWidget(view, 1);
+}
+
 class ZebraPage : public QWidget
 {
     Q_DECLARE_TR_FUNCTIONS(ZebraPage)
@@ -116,7 +124,7 @@ QWidget *ZebraPage::createProfileCard()
     m_profile->poles().append(8, false);
     fillProfile();
     auto *card = new Card(tr("A profile"));
-    card->body()->addWidget(m_profile, 1);
+    addToCard(m_profile, card);
     card->body()->addWidget(m_log);
     return card;
 }
@@ -170,7 +178,7 @@ QWidget *ZebraPage::createPolesCard()
     add(0, 5, false, tr("left,"));
     add(0, 5, true, tr(" right"));
     auto *card = new Card(tr("Poles, measured from either edge"));
-    card->body()->addWidget(view);
+    addToCard(view, card);
     return card;
 }
 

@@ -45,6 +45,15 @@ void placeInTheMiddle(QWidget *widget, int top)
     widget->move(QGuiApplication::screenAt(centre) ? position : place(screen->geometry()));
 }
 
+/// Not deleted at once: it may be what is calling, as the button is that has been clicked.
+void removeFromScreen(QWidget *widget)
+{
+    if (!widget)
+        return;
+    widget->hide();
+    widget->deleteLater();
+}
+
 QString countdownImage(int seconds)
 {
     return QStringLiteral(":/countdown-%1-128.png").arg(qBound(1, seconds, kHighestNumber));
@@ -100,6 +109,8 @@ void OmScreenShooter_Private::slotOnDelayProgress()
 {
     if (m_triggered)
         return;
+    // Showing a window can run the event loop, in which the delay may end.
+    QTimer::singleShot(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
     m_remainingSeconds = std::max(m_remainingSeconds - 1, 0);
     const QPointer<OmImageMaskedWidget> previous = m_countdownImage;
     m_countdownImage = new OmImageMaskedWidget(nullptr, kWindowFlags);
@@ -108,24 +119,17 @@ void OmScreenShooter_Private::slotOnDelayProgress()
     m_countdownImage->setWindowOpacity(kCountdownOpacity);
     m_countdownImage->show();
     // After the new one is there, so that the number never flickers away.
-    if (previous)
-        previous->hide();
-    delete previous;
-    QTimer::singleShot(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
+    removeFromScreen(previous);
 }
 
 void OmScreenShooter_Private::hideWidgets()
 {
-    if (m_countdownImage)
-        m_countdownImage->hide();
-    delete m_countdownImage;
-    if (m_nowButton) {
-        // It may be what is calling: it has been clicked.
+    removeFromScreen(m_countdownImage);
+    m_countdownImage.clear();
+    if (m_nowButton)
         m_nowButton->removeEventFilter(this);
-        m_nowButton->hide();
-        m_nowButton->deleteLater();
-        m_nowButton.clear();
-    }
+    removeFromScreen(m_nowButton);
+    m_nowButton.clear();
 }
 
 /// A button that somebody else closes, as an application that closes all its windows does, or

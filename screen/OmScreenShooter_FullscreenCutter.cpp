@@ -161,6 +161,11 @@ void OmScreenShooter_FullscreenCutter::handleMouse(QWidget *window, QMouseEvent 
         return;
     const QPoint point = desktopPosition(window, event);
     const bool isLeft = event->button() == Qt::LeftButton;
+    if (m_doubleClick != DoubleClick::None) {
+        if (isLeft && event->type() == QEvent::MouseButtonRelease)
+            endDoubleClick();
+        return;
+    }
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         if (isLeft)
@@ -243,11 +248,21 @@ void OmScreenShooter_FullscreenCutter::release(const QPoint &point)
 void OmScreenShooter_FullscreenCutter::doubleClick(const QPoint &point)
 {
     if (!m_selection->wasValid() || !m_selection->previousRect().contains(point)) {
-        close();
+        m_doubleClick = DoubleClick::Outside;
         return;
     }
     m_selection->restorePrevious();
-    takePicture();
+    m_doubleClick = DoubleClick::Inside;
+}
+
+/// Only now that the button is up: Qt under X11 can keep a window that goes away with a button down
+/// as the pressed one, and crash on it later.
+void OmScreenShooter_FullscreenCutter::endDoubleClick()
+{
+    if (std::exchange(m_doubleClick, DoubleClick::None) == DoubleClick::Inside)
+        takePicture();
+    else
+        close();
 }
 
 void OmScreenShooter_FullscreenCutter::noteSelection()

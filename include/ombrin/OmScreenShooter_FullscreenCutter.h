@@ -70,6 +70,8 @@ private:
         bool isHovered = false;
     };
 
+    enum class DoubleClick { None, Inside, Outside };
+
     static Button loadButton(const QString &name);
     static void prepareWindow(QWidget *window, QScreen *screen);
     void coverDesktop();
@@ -82,6 +84,7 @@ private:
     void moveTo(const QPoint &point);
     void release(const QPoint &point);
     void doubleClick(const QPoint &point);
+    void endDoubleClick();
     void hover(const QPoint &point);
     void noteSelection();
     void takePicture();
@@ -100,6 +103,7 @@ private:
     bool m_shotTaken = false;
     bool m_userHasSelected = false;
     bool m_showHint = false;
+    DoubleClick m_doubleClick = DoubleClick::None;
     Button m_snap;
     Button m_close;
     QString m_hint;

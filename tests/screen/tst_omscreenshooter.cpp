@@ -298,6 +298,7 @@ void tst_OmScreenShooter::cutterEndsAsTheUserSays_data()
         return [point](Cutter *cutter) {
             QTest::mouseClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
             QTest::mouseDClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
+            QTest::mouseRelease(cutter, Qt::LeftButton, Qt::NoModifier, point);
         };
     };
     const auto dragged = [](const QPoint &from, const QPoint &to, const Act &then) {

@@ -5,8 +5,8 @@
 /// \file
 /// Export macros of the two libraries.
 ///
-/// \c OMBRIN_AUTOTEST_EXPORT, and \c OMBRIN_CORE_AUTOTEST_EXPORT in the core library, mark what is not
-/// part of the interface and what only the library's own tests and benchmarks link to: it is
+/// \c OMBRIN_AUTOTEST_EXPORT, and \c OMBRIN_CORE_AUTOTEST_EXPORT in the core library, mark what is
+/// not part of the interface and what only the library's own tests and benchmarks link to: it is
 /// exported in builds with those and hidden in all others.
 
 #ifdef OMBRIN_BUILD_CORE

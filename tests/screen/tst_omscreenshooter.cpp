@@ -1,3 +1,4 @@
+#include "ShownWindow.h"
 #include "screen/ScreenGrabber.h"
 #include "skin/SkinPixmap.h"
 #include "support/TestCase.h"
@@ -33,17 +34,6 @@ QPixmap pattern(QScreen *screen)
     }
     image.setDevicePixelRatio(screen->devicePixelRatio());
     return QPixmap::fromImage(image);
-}
-
-template <typename Widget>
-Widget *shown()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *found = qobject_cast<Widget *>(widget); found && found->isVisible())
-            return found;
-    }
-    return nullptr;
 }
 
 const OmImageMaskedWidget *countdown()

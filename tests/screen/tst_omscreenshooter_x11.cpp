@@ -1,3 +1,4 @@
+#include "ShownWindow.h"
 #include "support/TestCase.h"
 #include "support/XUser.h"
 
@@ -12,17 +13,6 @@ using namespace ombrin::test;
 using Cutter = OmScreenShooter_FullscreenCutter;
 
 namespace {
-
-template <typename Widget>
-Widget *shown()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *found = qobject_cast<Widget *>(widget); found && found->isVisible())
-            return found;
-    }
-    return nullptr;
-}
 
 void key(const char *name)
 {

@@ -18,8 +18,9 @@ packages_test=(
   xvfb openbox xdotool x11-utils x11-xserver-utils
   xserver-xorg-core xserver-xorg-video-dummy
   dbus-daemon
+  qttools5-dev qttools5-dev-tools # translations, the Designer plug-in and Designer itself
 )
-packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev)
+packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-tools-dev qt6-l10n-tools)
 packages_clang=(clang)
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb x11-utils xz-utils)
 packages_benchmark=(libbenchmark-dev hunspell-fr)

@@ -26,7 +26,7 @@ public:
 
     /// Runs the event loop until \a condition holds or \a timeoutMs milliseconds are over.
     template <typename Condition>
-    static bool waitFor(Condition condition, int timeoutMs = 5000)
+    static bool waitFor(Condition condition, int timeoutMs = 20000)
     {
         return QTest::qWaitFor(condition, timeoutMs);
     }

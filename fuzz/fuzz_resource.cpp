@@ -1,0 +1,54 @@
+// A skin's resource file: what isIntactResourceFile() lets through must not harm Qt, which follows
+// its offsets unchecked.
+
+#include "FuzzTarget.h"
+
+#include "skin/ResourceFile.h"
+#include "skin/SkinPixmap.h"
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QResource>
+#include <QtGui/QPixmapCache>
+
+namespace {
+
+constexpr int kMostFiles = 200;
+
+QString fileName()
+{
+    return ombrin::fuzz::folder().filePath(QStringLiteral("skin.res"));
+}
+
+void readAll(const QString &root)
+{
+    int files = 0;
+    QDirIterator found(root, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (found.hasNext() && files++ < kMostFiles) {
+        const QString path = found.next();
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly) && file.size() <= 1024 * 1024)
+            file.readAll();
+        ombrin::skinPixmap(path, 2.0);
+    }
+}
+
+void run(ombrin::fuzz::Input input)
+{
+    const QString name = fileName();
+    // Written anew: a file that Qt has mapped must not change.
+    QFile::remove(name);
+    ombrin::fuzz::writeFile(name, input.rest());
+    if (!ombrin::isIntactResourceFile(name))
+        return;
+    const QString root = QStringLiteral("/fuzz");
+    if (!QResource::registerResource(name, root))
+        return;
+    readAll(QLatin1Char(':') + root);
+    QPixmapCache::clear();
+    QResource::unregisterResource(name, root);
+}
+
+} // namespace
+
+OMBRIN_FUZZ_TARGET(run)

@@ -1,13 +1,11 @@
-#include "ScreenshotJob.h"
-
-#include "CommandLine.h"
+#include "common/ScreenshotJob.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QProcessEnvironment>
 #include <QtCore/QTemporaryFile>
 
-namespace gallery {
+namespace example {
 
 namespace {
 
@@ -29,14 +27,15 @@ QProcessEnvironment environmentForDensity(int density)
 
 } // namespace
 
-ScreenshotJob::ScreenshotJob(const QString &directory, const QString &page, QObject *parent)
+ScreenshotJob::ScreenshotJob(const QString &directory, const QStringList &arguments,
+                             QObject *parent)
     : QObject(parent)
     , m_directory(QDir(directory).absolutePath())
     , m_shownDirectory(QDir::toNativeSeparators(m_directory))
     , m_densities({1, 2})
 {
     m_process.setProgram(QCoreApplication::applicationFilePath());
-    m_process.setArguments(CommandLine::oneDensityArguments(m_directory, page));
+    m_process.setArguments(arguments);
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
     connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &ScreenshotJob::onProcessFinished);
@@ -89,7 +88,7 @@ void ScreenshotJob::onProcessError(QProcess::ProcessError error)
     if (error == QProcess::FailedToStart)
         Q_EMIT finished(
                 false,
-                tr("The gallery could not be started again: %1").arg(m_process.errorString()));
+                tr("The program could not be started again: %1").arg(m_process.errorString()));
 }
 
-} // namespace gallery
+} // namespace example

@@ -3,11 +3,12 @@
 #include <QtCore/QObject>
 #include <QtCore/QProcess>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVector>
 
-namespace gallery {
+namespace example {
 
-/// Has the pages photographed by processes of their own, one for each density.
+/// Has this program photograph its windows in processes of their own, one for each density.
 ///
 /// A process has one display scale for its whole life, and a picture of a dense screen is sharp
 /// only if everything in it was loaded and laid out for that screen. It is also the way to pictures
@@ -17,9 +18,10 @@ class ScreenshotJob : public QObject
     Q_OBJECT
 
 public:
-    /// Pictures of \a page, or of every page if it is empty, into \a directory, which is made where
-    /// it does not exist.
-    ScreenshotJob(const QString &directory, const QString &page, QObject *parent = nullptr);
+    /// Starts this program with \a arguments, which must make it save its pictures in \a directory;
+    /// that folder is made where it does not exist.
+    ScreenshotJob(const QString &directory, const QStringList &arguments,
+                  QObject *parent = nullptr);
 
     /// Starts; finished() follows, never from within this call.
     void start();
@@ -40,4 +42,4 @@ private:
     QProcess m_process;
 };
 
-} // namespace gallery
+} // namespace example

@@ -3,9 +3,6 @@
 #include "AccountPages.h"
 #include "PageKit.h"
 
-#include <QtGui/QPainter>
-#include <QtWidgets/QApplication>
-
 namespace gallery {
 
 namespace {
@@ -24,48 +21,6 @@ QString stepName(AccountMission::Step step)
         break;
     }
     return AccountMission::tr("Summary");
-}
-
-/// The list of steps with the current one marked, white on blue.
-QPixmap paintSidebar(AccountMission::Step current)
-{
-    constexpr int lineHeight = 30;
-    constexpr int firstLine = 66;
-    constexpr int dotDiameter = 18;
-    const qreal density = qApp->devicePixelRatio();
-    QPixmap sidebar(kSidebarSize * density);
-    sidebar.setDevicePixelRatio(density);
-    sidebar.fill(Qt::transparent);
-
-    QPainter painter(&sidebar);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient gradient(0, 0, 0, kSidebarSize.height());
-    gradient.setColorAt(0, QColor(0x5f, 0xa8, 0xea));
-    gradient.setColorAt(1, QColor(0x2a, 0x6f, 0xbb));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(gradient);
-    painter.drawRoundedRect(QRectF(QPointF(), QSizeF(kSidebarSize)), 4, 4);
-    painter.drawPixmap(QPoint((kSidebarSize.width() - 32) / 2, 18),
-                       skinPicture(QStringLiteral("chat-32")));
-
-    QFont font = QApplication::font();
-    for (int step = 0; step < AccountMission::StepCount; ++step) {
-        const bool isCurrent = step == current;
-        const int y = firstLine + step * lineHeight;
-        const QRectF dot(10, y + (lineHeight - dotDiameter) / 2.0, dotDiameter, dotDiameter);
-        font.setBold(isCurrent);
-        painter.setFont(font);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(255, 255, 255, isCurrent ? 255 : 70));
-        painter.drawEllipse(dot);
-        painter.setPen(isCurrent ? QColor(0x2a, 0x6f, 0xbb) : QColor(Qt::white));
-        painter.drawText(dot, Qt::AlignCenter, QString::number(step + 1));
-        painter.setPen(QColor(255, 255, 255, isCurrent ? 255 : 200));
-        painter.drawText(QRectF(dot.right() + 7, y, kSidebarSize.width() - 38, lineHeight),
-                         Qt::AlignLeft | Qt::AlignVCenter,
-                         stepName(static_cast<AccountMission::Step>(step)));
-    }
-    return sidebar;
 }
 
 } // namespace
@@ -175,7 +130,9 @@ QPixmap AccountMission::MissionSidebar()
     // Kept, since a wizard tells pictures apart by their serial number.
     QPixmap &sidebar = m_sidebars[step()];
     if (sidebar.isNull())
-        sidebar = paintSidebar(step());
+        sidebar = example::stepSidebar(
+                {stepName(ServerStep), stepName(SignInStep), stepName(SummaryStep)}, step(),
+                kSidebarSize);
     return sidebar;
 }
 

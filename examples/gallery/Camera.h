@@ -17,10 +17,6 @@ public:
     /// Saves into \a directory, which must exist.
     explicit Camera(const QString &directory);
 
-    /// Makes the pictures independent of the user's font, cursor and animations. Call it once,
-    /// before OmSkin::init() and before any widget is made.
-    static void pinLook();
-
     /// Photographs the page called \a page, or every page if it is empty. Returns what went wrong,
     /// or an empty text.
     QString takeAll(const QString &page) const;

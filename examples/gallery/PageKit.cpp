@@ -4,8 +4,6 @@
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QPushButton>
 
-#include <algorithm>
-
 namespace gallery {
 
 namespace {
@@ -87,23 +85,6 @@ QPushButton *pushButton(const QString &text, const QString &statusTip)
     auto *button = new QPushButton(text);
     button->setStatusTip(statusTip);
     return button;
-}
-
-QIcon skinIcon(const QString &name)
-{
-    return QIcon(QStringLiteral(":/") + name);
-}
-
-QPixmap skinPicture(const QString &name)
-{
-    // QIcon finds the variants for denser screens; its smallest size is the one for density 1.
-    const QIcon icon = skinIcon(name);
-    const QList<QSize> sizes = icon.availableSizes();
-    if (sizes.isEmpty())
-        return QPixmap();
-    const QSize size = *std::min_element(sizes.begin(), sizes.end(),
-                                         [](QSize a, QSize b) { return a.width() < b.width(); });
-    return icon.pixmap(size);
 }
 
 void pinState(QWidget *widget)

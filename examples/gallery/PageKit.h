@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/SkinPictures.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtGui/QIcon>
 #include <QtGui/QPixmap>
@@ -14,6 +16,9 @@ class QVBoxLayout;
 /// What the pages of the gallery are built from.
 
 namespace gallery {
+
+using example::skinIcon;
+using example::skinPicture;
 
 /// Distances of the gallery's layouts, in pixels.
 constexpr int kPageMargin = 16;
@@ -48,11 +53,6 @@ QLabel *note(const QString &text);
 
 /// A push button that shows \a statusTip in the window's status bar.
 QPushButton *pushButton(const QString &text, const QString &statusTip);
-
-/// The skin's picture \a name (without ":/") in all its densities.
-QIcon skinIcon(const QString &name);
-/// The skin's picture \a name (without ":/") at the density of the screen; null if there is none.
-QPixmap skinPicture(const QString &name);
 
 /// Puts \a widget out of reach of mouse and keyboard, so that it keeps the state it is in.
 void pinState(QWidget *widget);

@@ -1,7 +1,8 @@
 #include "Camera.h"
 #include "CommandLine.h"
 #include "GalleryWindow.h"
-#include "ScreenshotJob.h"
+#include "common/ScreenshotJob.h"
+#include "common/WindowCamera.h"
 
 #include <ombrin/OmDesktop.h>
 #include <ombrin/OmSkin.h>
@@ -38,11 +39,14 @@ void nameApplication()
 
 int takeScreenshots(const CommandLine &commandLine)
 {
-    ScreenshotJob job(commandLine.directory, commandLine.page);
-    QObject::connect(&job, &ScreenshotJob::finished, &job, [](bool ok, const QString &message) {
-        print(ok ? stdout : stderr, message);
-        QCoreApplication::exit(ok ? kExitSuccess : kExitFailure);
-    });
+    example::ScreenshotJob job(
+            commandLine.directory,
+            CommandLine::oneDensityArguments(commandLine.directory, commandLine.page));
+    QObject::connect(&job, &example::ScreenshotJob::finished, &job,
+                     [](bool ok, const QString &message) {
+                         print(ok ? stdout : stderr, message);
+                         QCoreApplication::exit(ok ? kExitSuccess : kExitFailure);
+                     });
     job.start();
     return QCoreApplication::exec();
 }
@@ -91,7 +95,7 @@ int run(int argc, char *argv[])
 
     const QApplication application(argc, argv);
     if (commandLine.task == CommandLine::Task::TakeOneDensity)
-        Camera::pinLook();
+        example::pinLook();
     ombrin::OmSkin::init(true);
     return commandLine.task == CommandLine::Task::TakeOneDensity ? takeOneDensity(commandLine)
                                                                  : show(commandLine);

@@ -56,7 +56,7 @@ function(ombrin_add_library target alias output_name define_symbol)
   add_library(${target} SHARED)
   add_library(ombrin::${alias} ALIAS ${target})
   set_target_properties(${target} PROPERTIES
-    OUTPUT_NAME ${output_name}
+    OUTPUT_NAME ${output_name}${OMBRIN_QT_SUFFIX}
     EXPORT_NAME ${alias}
     DEFINE_SYMBOL ${define_symbol}
     VERSION ${PROJECT_VERSION}
@@ -69,10 +69,6 @@ function(ombrin_add_library target alias output_name define_symbol)
       $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
     PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:ombrin_build_options>)
-  install(TARGETS ${target}
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 endfunction()
 
 # ombrin_add_classes(TARGET CLASS...): public classes whose source lies in the current folder and

@@ -1,5 +1,7 @@
 #include "screen/ScreenGrabPlugin.h"
 
+#include "platform/InstalledFiles.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QJsonObject>
@@ -12,8 +14,12 @@ namespace {
 
 ScreenGrabPlugin *findPlugin()
 {
-    const QStringList paths = QCoreApplication::libraryPaths();
-    for (const QString &path : paths) {
+    // Where the library is installed outside Qt's own folders, its plug-ins are too.
+    QStringList paths = QCoreApplication::libraryPaths();
+    const QString ours = InstalledFiles::pluginFolder();
+    if (!ours.isEmpty() && !paths.contains(ours))
+        paths.append(ours);
+    for (const QString &path : qAsConst(paths)) {
         const QDir folder(path + QStringLiteral("/ombrin"));
         const QStringList files = folder.entryList(QDir::Files);
         for (const QString &file : files) {

@@ -19,7 +19,8 @@ public:
     /// Calls \a done once, now or later, with a null image when there is none.
     virtual void grab(const std::function<void(const QImage &)> &done) = 0;
 
-    /// The plug-in in the folder "ombrin" of one of QCoreApplication::libraryPaths(), or null.
+    /// The plug-in in the folder "ombrin" of one of QCoreApplication::libraryPaths(), or of the
+    /// plug-ins installed with the library, or null.
     static ScreenGrabPlugin *load();
 };
 

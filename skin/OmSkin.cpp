@@ -2,12 +2,17 @@
 
 #include <ombrin/OmStyle2.h>
 
+#include "platform/InstalledFiles.h"
 #include "skin/ResourceFile.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QResource>
 #include <QtCore/QSettings>
 #include <QtWidgets/QApplication>
+
+#include <algorithm>
 
 namespace ombrin {
 
@@ -54,16 +59,37 @@ constexpr RoleName kRoles[] = {
         {QPalette::LinkVisited, "LinkVisited"},
 };
 
-QString skinFile(const char *name)
+constexpr const char *kPaletteFile = "default/Global_Palette.ini";
+constexpr const char *kStyleSheetFile = "default/default.css";
+constexpr const char *kResourceFiles[] = {"default/default.res", "ombrin.res"};
+
+QStringList &addedPaths()
 {
-    return QStringLiteral("%1/skins/%2")
-            .arg(QCoreApplication::applicationDirPath(), QLatin1String(name));
+    static QStringList paths;
+    return paths;
+}
+
+QString fileIn(const QString &folder, const char *name)
+{
+    return QStringLiteral("%1/%2").arg(folder, QLatin1String(name));
+}
+
+bool holdsSkin(const QString &folder)
+{
+    const auto isThere = [&folder](const char *name) {
+        return QFileInfo::exists(fileIn(folder, name));
+    };
+    return isThere(kPaletteFile) || isThere(kStyleSheetFile)
+           || std::any_of(std::begin(kResourceFiles), std::end(kResourceFiles), isThere);
 }
 
 void registerResource(const QString &path)
 {
-    if (isIntactResourceFile(path))
-        QResource::registerResource(path);
+    static QStringList registered;
+    if (registered.contains(path) || !isIntactResourceFile(path))
+        return;
+    if (QResource::registerResource(path))
+        registered.append(path);
 }
 
 } // namespace
@@ -87,17 +113,54 @@ bool OmSkin::useSkin()
     return g_useSkin;
 }
 
-void OmSkin::loadGlobalPalette()
+QStringList OmSkin::searchPaths()
+{
+    QStringList paths;
+    if (QCoreApplication::instance())
+        paths.append(QCoreApplication::applicationDirPath() + QStringLiteral("/skins"));
+    paths += qEnvironmentVariable("OMBRIN_SKIN_PATH")
+                     .split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    paths += addedPaths();
+    paths += InstalledFiles::dataFolders(QStringLiteral("skins"));
+    return paths;
+}
+
+void OmSkin::addSearchPath(const QString &folder)
+{
+    if (!folder.isEmpty() && !addedPaths().contains(folder))
+        addedPaths().append(folder);
+}
+
+QString OmSkin::folder()
+{
+    const QStringList paths = searchPaths();
+    const auto found = std::find_if(paths.begin(), paths.end(), holdsSkin);
+    return found == paths.end() ? paths.value(0) : *found;
+}
+
+QPalette OmSkin::palette()
 {
     QPalette palette;
-    const QSettings settings(skinFile("default/Global_Palette.ini"), QSettings::IniFormat);
+    const QSettings settings(fileIn(folder(), kPaletteFile), QSettings::IniFormat);
     for (const GroupName &group : kGroups) {
         for (const RoleName &role : kRoles) {
             loadPaletteEntry(group.group, QLatin1String(group.name), role.role,
                              QLatin1String(role.name), &palette, settings);
         }
     }
-    QApplication::setPalette(palette);
+    return palette;
+}
+
+void OmSkin::registerPictures()
+{
+    const QString skin = folder();
+    for (const char *name : kResourceFiles)
+        registerResource(fileIn(skin, name));
+}
+
+void OmSkin::loadGlobalPalette()
+{
+    QApplication::setPalette(palette());
 }
 
 void OmSkin::loadPaletteEntry(QPalette::ColorGroup group, const QString &groupName,
@@ -112,8 +175,7 @@ void OmSkin::loadPaletteEntry(QPalette::ColorGroup group, const QString &groupNa
 
 void OmSkin::loadResources()
 {
-    registerResource(skinFile("default/default.res"));
-    registerResource(skinFile("ombrin.res"));
+    registerPictures();
 }
 
 void OmSkin::loadProxyStyle()
@@ -125,7 +187,7 @@ void OmSkin::loadXml()
 {
     if (!g_useSkin)
         return;
-    QFile file(skinFile("default/default.css"));
+    QFile file(fileIn(folder(), kStyleSheetFile));
     // A file that cannot be opened reads as empty, and an empty style sheet is installed.
     const bool opened = file.open(QIODevice::ReadOnly);
     qApp->setStyleSheet(QString::fromUtf8(opened ? file.readAll() : QByteArray()));

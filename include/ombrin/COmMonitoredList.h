@@ -57,6 +57,8 @@
 ///
 /// Copies that share their elements may live in different threads; one list belongs to one thread
 /// at a time.
+///
+/// \ingroup views
 template <typename T>
 class COmMonitoredList
 {
@@ -64,6 +66,7 @@ class COmMonitoredList
                   "COmMonitoredList holds pointers");
 
 public:
+    /// The types that Qt's and the standard library's containers have.
     using iterator = COmMonitoredListIterator<T>;
     using const_iterator = COmMonitoredListIterator<const T>;
     using Iterator = iterator;
@@ -94,6 +97,7 @@ public:
     /// Touches nothing that elements point to, and calls no hook.
     virtual ~COmMonitoredList() = default;
 
+    /// An empty list.
     COmMonitoredList() = default;
     /// The elements of \a other, without its hooks and whatever they suppress.
     COmMonitoredList(const COmMonitoredList &other);
@@ -102,10 +106,13 @@ public:
 
     /// \name Size and tests
     /// \{
+    /// How many elements there are, or whether there is none.
     int size() const { return d.size(); }
     int count() const { return size(); }
     bool isEmpty() const { return size() == 0; }
     bool empty() const { return isEmpty(); }
+
+    /// How many elements equal \a item, or whether one does.
     int count(const T &item) const;
     bool contains(const T &item) const { return indexOf(item) >= 0; }
     /// The first index of \a item at or after \a from, or -1. A negative \a from counts from the
@@ -114,12 +121,15 @@ public:
     /// The last index of \a item at or before \a from, or -1. A negative \a from counts from the
     /// end, one past it means the last element.
     int lastIndexOf(const T &item, int from = -1) const;
+    /// Whether both lists hold equal elements in the same order.
     bool operator==(const COmMonitoredList &other) const;
     bool operator!=(const COmMonitoredList &other) const { return !(*this == other); }
     /// \}
 
     /// \name Elements
     /// \{
+    /// The element at \a i, at the front or at the back, which must exist. What is assigned to it
+    /// passes no hook.
     const T &at(int i) const;
     const T &operator[](int i) const { return at(i); }
     T &operator[](int i);
@@ -131,12 +141,14 @@ public:
     T &last() { return (*this)[size() - 1]; }
     const T &back() const { return last(); }
     T &back() { return last(); }
+    /// The element at \a i, or null or \a defaultValue where there is none.
     T value(int i) const { return value(i, nullptr); }
     T value(int i, const T &defaultValue) const { return isIndex(i) ? nodes()[i] : defaultValue; }
     /// \}
 
     /// \name Iteration
     /// \{
+    /// The iterators of the first element and of the place behind the last.
     iterator begin();
     iterator end();
     const_iterator begin() const { return constBegin(); }
@@ -151,6 +163,7 @@ public:
 
     /// \name Adding
     /// \{
+    /// Adds \a item at the end, at the front, or before the element at \a i.
     void append(const T &item);
     void push_back(const T &item) { append(item); }
     COmMonitoredList &operator+=(const T &item);
@@ -160,12 +173,14 @@ public:
     void insert(int i, const T &item);
     /// Returns the place of the new element, or \a before when a hook refused it.
     iterator insert(iterator before, const T &item);
+    /// Appends all elements of \a other.
     COmMonitoredList &operator+=(const COmMonitoredList &other);
     COmMonitoredList &operator<<(const COmMonitoredList &other) { return *this += other; }
     /// \}
 
     /// \name Removing
     /// \{
+    /// Removes the element at \a i.
     void removeAt(int i);
     /// Removes the element and returns it, as the hooks left it; also when they refused.
     T takeAt(int i);
@@ -173,6 +188,7 @@ public:
     iterator erase(iterator it);
     /// Removes from the back to the front; returns the place of the element \a last pointed to.
     iterator erase(iterator first, iterator last);
+    /// Removes the first or the last element.
     void removeFirst() { removeAt(0); }
     void pop_front() { removeFirst(); }
     void removeLast() { removeAt(size() - 1); }
@@ -188,18 +204,22 @@ public:
 
     /// \name Changing places
     /// \{
-    /// Asks the hooks of adding first, then those of removing.
+    /// Puts \a item in the place of the element at \a i. Asks the hooks of adding first, then those
+    /// of removing.
     void replace(int i, const T &item);
+    /// Moves one element, or exchanges two. No hook but Override_ChangesHappened() is called.
     void move(int from, int to);
     void swap(int i, int j);
     /// \}
 
     /// \name Copies
     /// \{
+    /// The elements of both lists, without hooks.
     COmMonitoredList operator+(const COmMonitoredList &other) const;
     /// The \a length elements from \a pos on, as far as they exist; all of them if \a length is
     /// negative.
     COmMonitoredList mid(int pos, int length = -1) const;
+    /// The elements as a container of another kind, and the way back.
     QSet<T> toSet() const;
     std::list<T> toStdList() const { return std::list<T>(constBegin(), constEnd()); }
     static COmMonitoredList fromStdList(const std::list<T> &list);
@@ -207,7 +227,9 @@ public:
 
     /// \name Sharing
     /// \{
+    /// Gives the list elements of its own, if it shares them with a copy.
     void detach();
+    /// Whether the list shares its elements with no copy.
     bool isDetached() const { return d.isDetached(); }
     /// Whether copies may share the elements with this list until one of them is changed.
     void setSharable(bool sharable);

@@ -29,6 +29,8 @@ class WizardButtons;
 ///
 /// The wizard may be destroyed in a slot of any signal and in any function of its mission and
 /// pages.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT COmWizard_Base : public ombrin::OmDialog2
 {
     Q_OBJECT

@@ -60,6 +60,8 @@ class WizardButtons;
 /// mission may be shown by several wizards; the page is in the one that was refreshed last.
 ///
 /// To be used from the GUI thread.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT COmWizard_Mission_Base : public QObject
 {
     Q_OBJECT

@@ -29,10 +29,14 @@
 ///
 /// A page may be deleted at any time, even in one of its own functions here; the mission then goes
 /// on without it.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT COmWizard_Page_Base
 {
 public:
+    /// A page without a mission.
     COmWizard_Page_Base();
+    /// A page that knows the mission of \a other.
     COmWizard_Page_Base(const COmWizard_Page_Base &other);
     COmWizard_Page_Base &operator=(const COmWizard_Page_Base &other);
 

@@ -43,6 +43,8 @@ class EnterKeyWatcher;
 ///
 /// That the mission was executed is remembered until it is executed again and fails, also when the
 /// mission is replaced.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT COmWizard_Standard : public COmWizard_Base
 {
     Q_OBJECT

@@ -25,6 +25,8 @@ namespace ombrin {
 ///
 /// The avatar belongs to its parent until it deletes itself. A host that keeps a pointer to it
 /// keeps a QPointer; it may delete the avatar in a slot of clicked().
+///
+/// \ingroup contacts
 class OMBRIN_GUI_EXPORT OmAvatar : public QWidget
 {
     Q_OBJECT

@@ -27,6 +27,8 @@ namespace ombrin {
 ///
 /// The large picture opens on the screen that the thumbnail is on, and wholly on it unless it is
 /// larger than the screen. It belongs to the thumbnail until it deletes itself.
+///
+/// \ingroup contacts
 class OMBRIN_GUI_EXPORT OmAvatarSmall : public OmLabel
 {
     Q_OBJECT

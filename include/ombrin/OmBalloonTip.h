@@ -47,6 +47,8 @@ enum MessageIcon : int {
 /// the position. A position on no screen belongs to the nearest one.
 ///
 /// Assistive technology sees a tool tip named by the title, or else by the message.
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmBalloonTip : public QWidget
 {
     Q_OBJECT

@@ -17,6 +17,8 @@ namespace ombrin {
 /// Enter chooses the selected day as a click does; Escape and the close button choose none. Weeks
 /// begin on Monday where the name of the system's locale contains "de", as "de_DE" and "de_AT" do,
 /// and on Sunday everywhere else.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT OmCalendar : public OmDialog2
 {
     Q_OBJECT

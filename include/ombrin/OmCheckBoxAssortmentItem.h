@@ -22,15 +22,19 @@ class OmCheckBoxAssortmentView;
 /// It is a widget only so that Qt's ownership applies; it is never shown. What changes in it is
 /// seen in its view at once; setting what is there already does nothing. An item that is deleted
 /// leaves the list of its view and its row.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmCheckBoxAssortmentItem : public QWidget
 {
     Q_OBJECT
 
 public:
+    /// An item that belongs to no view yet. The parameters are the values of the functions below.
     explicit OmCheckBoxAssortmentItem(QString text = QString(), bool value = true,
                                       QColor color = Qt::black, QVariant data = QVariant());
     ~OmCheckBoxAssortmentItem() override;
 
+    /// The caption, shown as plain text.
     QString text() const;
     void setText(QString text);
 

@@ -19,6 +19,8 @@ namespace ombrin {
 /// list of another view it is in. One that is removed stays a child of the view: delete it, or add
 /// it again. Null is not added. Only the list that belongs to the view notices when an item is
 /// deleted; do not keep copies of the list longer than its items.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmCheckBoxAssortmentList
     : public COmMonitoredList<OmCheckBoxAssortmentItem *>
 {
@@ -37,6 +39,8 @@ public:
 
     /// \name New items
     /// \{
+    /// Makes an item of these values (see OmCheckBoxAssortmentItem) and adds it; \c i is the index
+    /// before which, and one out of range means the nearer end.
     void append(QString text, bool value, QColor color, QVariant data);
     void prepend(QString text, bool value, QColor color, QVariant data);
     void insert(int i, QString text, bool value, QColor color, QVariant data);

@@ -35,6 +35,8 @@ class OmLabel;
 /// Text, colour and state of the rows follow the items. The view wants a width of 250 pixels and 16
 /// pixels of height for each item; a folded one has the height of its title bar, 24 pixels. It may
 /// be deleted in a slot of any of its signals.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmCheckBoxAssortmentView : public QWidget
 {
     Q_OBJECT

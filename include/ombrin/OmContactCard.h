@@ -73,6 +73,8 @@ class OmLabel;
 ///
 /// Assistive technology sees a list item named by the alias, or else by the account id, and
 /// described by the presence; it is selected while the card is big, and pressing it is a click.
+///
+/// \ingroup contacts
 class OMBRIN_GUI_EXPORT OmContactCard : public QGroupBox
 {
     Q_OBJECT
@@ -102,6 +104,7 @@ public:
     /// The text that shows the presence, in the user's language; never shortened.
     QString statusName() const;
 
+    /// Whether the card is big.
     bool isBig() const;
     /// Makes the card big or small, and writes a line to the debug output.
     void setBig(bool big);
@@ -110,16 +113,19 @@ public:
     bool isOwn() const;
     void setOwn(bool own);
 
+    /// Whether typing was reported within the last five seconds.
     bool isTyping() const;
     /// Shows for five seconds from now that the contact is typing, or no longer. Typing and talking
     /// share one place: the later call decides what is shown there, and the end of either empties
     /// it.
     void setTyping(bool typing);
 
+    /// Whether talking was reported within the last five seconds.
     bool isTalking() const;
     /// The same for talking.
     void setTalking(bool talking);
 
+    /// Whether the contact is blocked: the card then offers to unblock it.
     bool isBlocked() const;
     void setBlocked(bool blocked);
 
@@ -148,6 +154,7 @@ public:
 Q_SIGNALS:
     /// The user chose the action \a id, in the tool bar or in the menu.
     void actionId(const QString &id);
+    /// setAlias() was given another alias.
     void aliasChanged(const QString &newAlias);
     /// The contact's picture was clicked.
     void avatarClicked();
@@ -155,6 +162,7 @@ Q_SIGNALS:
     void clicked();
     /// The contact was reported to be typing, or has ceased. Also emitted when nothing changed.
     void isTyping(bool typing);
+    /// The same for talking.
     void isTalking(bool talking);
     /// Pictures were dropped on the own card: the files, of which those that are not local are
     /// empty. A picture that came without a file is in a temporary file, which the next such drop
@@ -162,6 +170,7 @@ Q_SIGNALS:
     void newAvatar(const QStringList &fileNames);
     /// The user wants to choose another picture of their own.
     void newAvatar();
+    /// setStatus() was given another presence, or the first one.
     void statusChanged(Om::ContactStatus newStatus);
 
 protected:

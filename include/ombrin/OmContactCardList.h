@@ -33,6 +33,8 @@ class ColumnLayout;
 /// deleted in a slot of any of their signals.
 ///
 /// Cards make their parts when they come into sight: thousands of them are filled in quickly.
+///
+/// \ingroup contacts
 class OMBRIN_GUI_EXPORT OmContactCardList : public QScrollArea
 {
     Q_OBJECT

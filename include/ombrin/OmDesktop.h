@@ -21,6 +21,8 @@ namespace ombrin {
 /// flashWindow() and setForeground() act on the native window that the user sees the widget in:
 /// for a widget inside a window that is widget->window(). They never create a native window, so a
 /// window that has not been shown yet stays as it is.
+///
+/// \ingroup windows
 class OMBRIN_GUI_EXPORT OmDesktop
 {
 public:

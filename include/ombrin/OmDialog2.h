@@ -38,6 +38,8 @@ class SkinFrame;
 /// is Qt's, which sets the title in the task bar and leaves the drawn one as it is.
 ///
 /// To be used from the GUI thread.
+///
+/// \ingroup windows
 class OMBRIN_GUI_EXPORT OmDialog2 : public QDialog
 {
     Q_OBJECT

@@ -7,6 +7,8 @@
 namespace ombrin {
 
 /// Folders of the user that the library reads and writes. Holds static functions only.
+///
+/// \ingroup core
 class OMBRIN_CORE_EXPORT OmDir
 {
 public:

@@ -28,6 +28,8 @@ namespace ombrin {
 /// The fader has the size that its parent has when it is made. Without a parent it is a window of
 /// its own. Give each fade a fader of its own; a fade that is started while another one of the same
 /// fader runs takes its place. The host may delete the fader or its parent in a slot of done().
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmFaderWidget : public QWidget
 {
     Q_OBJECT

@@ -17,6 +17,8 @@ class QGraphicsScene;
 ///
 /// The underlining is part of the item's font, which loses any other underlining. A slot of the
 /// signal may delete the item, its scene, and an OmScribbledZebraView that it was clicked in.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmGraphicsSimpleHyperlinkItem : public QObject,
                                                         public QGraphicsSimpleTextItem
 {

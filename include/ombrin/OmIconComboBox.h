@@ -22,6 +22,8 @@ namespace ombrin {
 /// Items are those of QComboBox; one without an icon is an empty cell. Assistive technology sees a
 /// combo box named by its accessible name, else by its value: the \c Qt::AccessibleTextRole of the
 /// current item, else its text or tool tip.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmIconComboBox : public QComboBox
 {
     Q_OBJECT

@@ -18,6 +18,8 @@ namespace ombrin {
 /// \endcode
 ///
 /// An item whose decoration is not a QIcon is an empty cell.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmIconComboBoxDelegate : public QAbstractItemDelegate
 {
     Q_OBJECT

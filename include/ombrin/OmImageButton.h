@@ -40,6 +40,8 @@ namespace ombrin {
 /// while the mouse button is held. The button may be deleted in a slot of any of its signals.
 ///
 /// Assistive technology sees a push button named by accessibleName() or else by its tool tip.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmImageButton : public QWidget
 {
     Q_OBJECT
@@ -81,6 +83,8 @@ public:
     int offset() const;
     void setOffset(int offset);
 
+    /// The picture of a state, null unless set: the normal set, and behind it the one that is shown
+    /// while the button is checked. A picture that is null is not drawn.
     QPixmap pixmapUp() const;
     void setPixmapUp(const QPixmap &pixmap);
     QPixmap pixmapDown() const;

@@ -27,6 +27,8 @@ namespace ombrin {
 /// of its signal.
 ///
 /// Assistive technology sees a push button named by accessibleName() or else by its tool tip.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmImageMaskedButton : public OmImageMaskedWidget
 {
     Q_OBJECT
@@ -36,6 +38,7 @@ public:
                                  Qt::WindowFlags flags = Qt::WindowFlags());
     ~OmImageMaskedButton() override;
 
+    /// The image of a state, null unless set, as setImage() takes it.
     void setImage_Normal(QImage image);
     void setImage_Hovered(QImage image);
     void setImage_Pressed(QImage image);

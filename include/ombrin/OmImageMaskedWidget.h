@@ -24,6 +24,8 @@ namespace ombrin {
 /// an image is set. A logical pixel belongs to the widget if any pixel of the image in it is not
 /// fully transparent. An image without an alpha channel gives a rectangle. An image that is fully
 /// transparent gives a widget of its size of which nothing is seen or touched.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmImageMaskedWidget : public QWidget
 {
     Q_OBJECT

@@ -30,6 +30,8 @@ class OmFaderWidget;
 /// Since the pop-up covers the icon, the mouse that came to the icon is then over the pop-up. There
 /// it keeps the pop-up open; it goes when it leaves the pop-up. A click outside closes the pop-up
 /// at once. The pop-up opens wholly on the icon's screen, and it is deleted with the icon.
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmInfoPopup : public QLabel
 {
     Q_OBJECT
@@ -38,9 +40,11 @@ public:
     explicit OmInfoPopup(QWidget *parent = nullptr);
     ~OmInfoPopup() override;
 
+    /// The message at the top of the pop-up; plain text.
     QString popupMessage() const;
     void setPopupMessage(const QString &message);
 
+    /// What the box below the message holds when the pop-up is made; plain text.
     QString notice() const;
     void setNotice(const QString &notice);
 

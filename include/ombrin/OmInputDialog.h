@@ -28,6 +28,8 @@ namespace ombrin {
 /// it is open, because its parent is, for example, is rejected.
 ///
 /// The input has the keyboard focus when the dialog opens and comes first in the tab order.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT OmInputDialog : public OmDialog2
 {
     Q_OBJECT
@@ -35,18 +37,24 @@ class OMBRIN_GUI_EXPORT OmInputDialog : public OmDialog2
 public:
     ~OmInputDialog() override;
 
-    /// Asks for a line of text below the prompt \a label.
+    /// Asks for a line of text. Returns it, or a null string when the dialog was rejected.
     ///
     /// \param parent the window that is blocked; may be null
+    /// \param title  the title of the dialog
+    /// \param label  the prompt; as in a QLabel, what looks like HTML is rich text
     /// \param mode   how the text is shown; what is returned is always the text itself
     /// \param text   what the line holds at first, selected
     /// \param ok     set to whether the dialog was accepted; may be null
     static QString getText(QWidget *parent, const QString &title, const QString &label,
                            QLineEdit::EchoMode mode, const QString &text, bool *ok);
 
-    /// Asks for one of the texts in \a list below the prompt \a label.
+    /// Asks for one of the texts in \a list. Returns it, or a null string when the dialog was
+    /// rejected.
     ///
     /// \param parent   the window that is blocked; may be null
+    /// \param title    the title of the dialog
+    /// \param label    the prompt; as in a QLabel, what looks like HTML is rich text
+    /// \param list     the texts, in the order in which they are offered
     /// \param current  position of the text that is chosen at first, from 0. With any other number
     ///                 nothing is chosen, and accepting returns an empty text
     /// \param editable whether a text that is not in \a list may be typed

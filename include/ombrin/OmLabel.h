@@ -31,6 +31,8 @@ namespace ombrin {
 ///
 /// Assistive technology sees a link that can be pressed, or else a text, named by accessibleName()
 /// or else by the whole text.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmLabel : public QLabel
 {
     Q_OBJECT
@@ -45,6 +47,7 @@ class OMBRIN_GUI_EXPORT OmLabel : public QLabel
 
 public:
     explicit OmLabel(QWidget *parent = nullptr);
+    /// The same, with eliding on if \a elide is true.
     OmLabel(bool elide, QWidget *parent);
     ~OmLabel() override;
 

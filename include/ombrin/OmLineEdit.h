@@ -30,6 +30,8 @@ namespace ombrin {
 /// The line edit may be deleted in a slot of the signals that setNoFocusMessage() and
 /// updateFocusMessage() cause. Where the user causes them, by typing or by moving the focus, Qt
 /// allows deleteLater() only.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmLineEdit : public QLineEdit
 {
     Q_OBJECT

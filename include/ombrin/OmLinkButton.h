@@ -24,12 +24,15 @@ namespace ombrin {
 /// Assistive technology sees a link, or a button that expands when it is checkable, named by
 /// accessibleName() or else by its text. Signals, keys and focus are those of QAbstractButton; with
 /// the focus the button shows the style's focus frame.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmLinkButton : public QAbstractButton
 {
     Q_OBJECT
 
 public:
     explicit OmLinkButton(QWidget *parent = nullptr);
+    /// The same with a text.
     OmLinkButton(const QString &text, QWidget *parent);
     ~OmLinkButton() override;
 

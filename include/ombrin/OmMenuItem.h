@@ -24,6 +24,8 @@ namespace ombrin {
 /// The item may be deleted in a slot of its signal.
 ///
 /// Assistive technology sees a menu item named by accessibleName() or else by its text.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmMenuItem : public QFrame
 {
     Q_OBJECT

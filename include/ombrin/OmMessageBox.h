@@ -27,6 +27,8 @@ namespace ombrin {
 ///
 /// The buttons and their texts follow a change of the application's language. Without the skin's
 /// picture \c chat-32 the place of the icon stays empty.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT OmMessageBox : public OmDialog2
 {
     Q_OBJECT

@@ -20,6 +20,8 @@ namespace ombrin {
 /// \endcode
 ///
 /// In all else it is a QPushButton. To assistive technology the tool tip is the description.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmPushButton : public QPushButton
 {
     Q_OBJECT

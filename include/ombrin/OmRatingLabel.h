@@ -23,6 +23,8 @@ namespace ombrin {
 ///
 /// Assistive technology sees a slider with values from 0 to 10. A value that it sets is a rating
 /// given by the user.
+///
+/// \ingroup contacts
 class OMBRIN_GUI_EXPORT OmRatingLabel : public QLabel
 {
     Q_OBJECT

@@ -38,6 +38,8 @@ namespace ombrin {
 ///
 /// The functions take text of any length, in time in proportion to it, and may be called from
 /// several threads at once. How long a message may be is for the host to decide.
+///
+/// \ingroup text
 class OMBRIN_GUI_EXPORT OmSafeHtml
 {
 public:

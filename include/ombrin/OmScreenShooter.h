@@ -26,6 +26,8 @@
 /// if the plug-in for it is installed, or else fails. No picture is ever black instead.
 ///
 /// To be used from the GUI thread.
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmScreenShooter : public QObject
 {
     Q_OBJECT

@@ -29,6 +29,8 @@ class DesktopPicture;
 /// Reports exactly once, at the latest when it is destroyed. Hosts use OmScreenShooter.
 ///
 /// Where screens differ in density each has a window of its own: no window can cover them all.
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmScreenShooter_FullscreenCutter : public QWidget
 {
     Q_OBJECT
@@ -39,7 +41,9 @@ public:
     ~OmScreenShooter_FullscreenCutter() override;
 
 Q_SIGNALS:
+    /// The user has taken \a p_pixScreenshot, the selected part of the picture.
     void signalOnScreenshotSucceeded(QPixmap p_pixScreenshot);
+    /// There will be no picture.
     void signalOnScreenshotFailed();
 
 protected:

@@ -18,6 +18,8 @@ class OmImageMaskedWidget;
 
 /// One request for a picture of the desktop: counts down, takes the picture, reports through one of
 /// its signals, once, and deletes itself. Hosts use OmScreenShooter.
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmScreenShooter_Private : public QObject
 {
     Q_OBJECT
@@ -29,7 +31,9 @@ public:
     ~OmScreenShooter_Private() override;
 
 Q_SIGNALS:
+    /// \a p_pixScreenshot is what was asked for.
     void signalOnScreenshotSucceeded(QPixmap p_pixScreenshot);
+    /// There will be no picture.
     void signalOnScreenshotFailed();
 
 protected:

@@ -32,6 +32,8 @@ class QGraphicsItem;
 ///
 /// The list that an item is added to owns it; the view owns the graphics item. An item belongs into
 /// one list, once. It may be deleted at any time; it then leaves its list.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraItemBase : public QObject
 {
     Q_OBJECT

@@ -11,15 +11,19 @@
 /// connect(link, &OmScribbledZebraItemLink::signalOnLinkActivated, this, &Profile::call);
 /// view->items().append(link); // which owns it now
 /// \endcode
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraItemLink : public OmScribbledZebraItemText
 {
     Q_OBJECT
 
 public:
+    /// A link that reads \a text; for the rest see OmScribbledZebraItemBase.
     OmScribbledZebraItemLink(int column, int row, bool isAlignedLeftOrRight, const QString &text,
                              QObject *parent);
     ~OmScribbledZebraItemLink() override;
 
+    /// Whether the link can be used, as it can at first.
     bool isEnabled() const;
     void setIsEnabled(bool isEnabled);
 

@@ -22,6 +22,8 @@ extern template class OMBRIN_GUI_EXPORT COmMonitoredList<OmScribbledZebraItemBas
 ///
 /// An added item becomes a child of the list, and stays one when it is removed. An item that is
 /// deleted leaves the list; null is not added. An item belongs into one list, once.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraItemList
     : public QObject,
       public COmMonitoredList<OmScribbledZebraItemBase *>

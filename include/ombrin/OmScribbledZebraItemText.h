@@ -17,15 +17,19 @@
 ///
 /// The text is plain: no character means anything special. See OmScribbledZebraItemBase for where
 /// it is shown.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraItemText : public OmScribbledZebraItemBase
 {
     Q_OBJECT
 
 public:
+    /// An item that shows \a text; for the rest see OmScribbledZebraItemBase.
     OmScribbledZebraItemText(int column, int row, bool isAlignedLeftOrRight, const QString &text,
                              QObject *parent);
     ~OmScribbledZebraItemText() override;
 
+    /// What is shown; plain text of one line.
     QString text() const;
     void setText(const QString &text);
 

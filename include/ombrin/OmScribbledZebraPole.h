@@ -14,6 +14,8 @@
 ///
 /// The list that a pole is added to owns it. A pole may be deleted at any time; it then leaves its
 /// list.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraPole : public QObject
 {
     Q_OBJECT
@@ -24,6 +26,7 @@ public:
     OmScribbledZebraPole(int indent, bool isAlignedLeftOrRight, QObject *parent);
     ~OmScribbledZebraPole() override;
 
+    /// The distance from the edge in pixels.
     int indent() const;
     void setIndent(int indent);
 

@@ -18,6 +18,8 @@ extern template class OMBRIN_GUI_EXPORT COmMonitoredList<OmScribbledZebraPole *>
 ///
 /// An added pole becomes a child of the list, and stays one when it is removed. A pole that is
 /// deleted leaves the list; null is not added. A pole belongs into one list, once.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraPoleList : public QObject,
                                                    public COmMonitoredList<OmScribbledZebraPole *>
 {

@@ -41,6 +41,8 @@ class ZebraLayout;
 /// hooks of the list by, shows only with the next of those.
 ///
 /// Places are limited to 2^30 pixels from the upper left corner, beyond which items pile up.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraView : public QGraphicsView
 {
     Q_OBJECT
@@ -50,6 +52,7 @@ public:
     ~OmScribbledZebraView() override;
 
     using QGraphicsView::items;
+    /// The items and poles, which the view owns and follows.
     OmScribbledZebraItemList &items();
     OmScribbledZebraPoleList &poles();
 

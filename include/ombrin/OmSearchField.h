@@ -22,6 +22,8 @@ namespace ombrin {
 ///
 /// The field may be deleted in a slot of the signals that it emits when it is erased with the
 /// mouse. As with every QLineEdit that does not hold for those that tell of typing.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmSearchField : public QLineEdit
 {
     Q_OBJECT

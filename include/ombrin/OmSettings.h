@@ -19,6 +19,8 @@ namespace ombrin {
 /// \endcode
 ///
 /// To be used from one thread at a time.
+///
+/// \ingroup core
 class OMBRIN_CORE_EXPORT OmSettings
 {
 public:

@@ -25,6 +25,8 @@ namespace ombrin {
 /// widget back. Without a widget, nothing happens.
 ///
 /// The random numbers are those of std::rand(), which shakeWidget() seeds with the time.
+///
+/// \ingroup effects
 class OMBRIN_GUI_EXPORT OmShakeWidget : public QObject
 {
     Q_OBJECT
@@ -43,6 +45,7 @@ public:
     void setShakeTimes(int times);
     int shakeTimes() const;
 
+    /// Shakes the widget, from the beginning if it is being shaken.
     void shakeWidget();
 
 protected:

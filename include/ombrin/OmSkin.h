@@ -54,6 +54,8 @@ namespace ombrin {
 ///
 /// To be used from the GUI thread, while the QApplication exists; without one init() installs
 /// nothing, and the next call counts as the first.
+///
+/// \ingroup skin
 class OMBRIN_GUI_EXPORT OmSkin
 {
 public:

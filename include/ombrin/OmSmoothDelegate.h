@@ -20,6 +20,8 @@ namespace ombrin {
 /// delegate->setFillColor(palette().color(QPalette::Window));
 /// list->setItemDelegate(delegate);
 /// \endcode
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmSmoothDelegate : public QItemDelegate
 {
     Q_OBJECT

@@ -27,6 +27,8 @@ class OmSmoothDelegate;
 /// Entries are selected by a press of the mouse and by the keyboard, as in any list. Moves of the
 /// mouse do not reach QListWidget: whatever they do while a button is held, the selection stays as
 /// the press made it, and entries cannot be dragged.
+///
+/// \ingroup views
 class OMBRIN_GUI_EXPORT OmSmoothList : public QListWidget
 {
     Q_OBJECT

@@ -47,6 +47,8 @@ class VerdictCache;
 ///
 /// To be used from the thread of the application's event loop. The service is never destroyed; its
 /// thread ends with the QCoreApplication.
+///
+/// \ingroup core
 class OMBRIN_CORE_EXPORT OmSpelling : public QObject
 {
     Q_OBJECT

@@ -14,6 +14,8 @@ namespace ombrin {
 /// \code
 /// window->statusBar()->showMessage(tr("Connected"), 1000); // milliseconds
 /// \endcode
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmStatusBar : public QStatusBar
 {
     Q_OBJECT

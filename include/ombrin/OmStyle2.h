@@ -34,6 +34,8 @@ namespace ombrin {
 /// A call without an option, without a painter or with an option of the wrong type draws nothing,
 /// and answers an empty rectangle or the size it was given. Widgets may always be null. A skin
 /// picture that is missing leaves its place as it was.
+///
+/// \ingroup skin
 class OMBRIN_GUI_EXPORT OmStyle2 : public QProxyStyle
 {
     Q_OBJECT

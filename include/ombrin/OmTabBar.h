@@ -51,6 +51,8 @@ namespace ombrin {
 /// the names that assistive technology reads.
 ///
 /// Indices out of range do nothing.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmTabBar : public QTabBar
 {
     Q_OBJECT

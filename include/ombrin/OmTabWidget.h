@@ -39,6 +39,8 @@ QT_WARNING_DISABLE_CLANG("-Woverloaded-virtual")
 /// QTabWidget::tabRemoved(int) hides the signal of that name; OmTabWidget::tabRemoved names it.)
 ///
 /// With the tab bar hidden the host switches pages with setCurrentIndex().
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmTabWidget : public QTabWidget
 {
     Q_OBJECT

@@ -35,6 +35,8 @@ namespace ombrin {
 ///
 /// The browser deletes itself when it is closed (Qt::WA_DeleteOnClose). A host may delete it while
 /// one of its menus or dialogs is open.
+///
+/// \ingroup text
 class OMBRIN_GUI_EXPORT OmTextBrowser : public QTextBrowser
 {
     Q_OBJECT

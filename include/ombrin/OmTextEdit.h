@@ -32,6 +32,8 @@ class OmTextEditSyntax;
 ///
 /// The text edit may be deleted while its context menu is open; in slots of its signals use
 /// deleteLater().
+///
+/// \ingroup text
 class OMBRIN_GUI_EXPORT OmTextEdit : public QTextEdit
 {
     Q_OBJECT

@@ -31,6 +31,8 @@ class WordIndex;
 /// Once setSpellChecking(true) was called it keeps track of which paragraph holds which words, as
 /// user data of the document's text blocks. In a document that has user data of someone else it
 /// gets along without, more slowly.
+///
+/// \ingroup text
 class OMBRIN_GUI_EXPORT OmTextEditSyntax : public QSyntaxHighlighter
 {
     Q_OBJECT

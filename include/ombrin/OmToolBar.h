@@ -34,6 +34,8 @@ namespace ombrin {
 /// laid out for showing, so the window does not grow.
 ///
 /// The buttons are not owned; one that is deleted is forgotten.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmToolBar : public QToolBar
 {
     Q_OBJECT

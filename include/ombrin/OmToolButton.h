@@ -16,6 +16,8 @@ namespace ombrin {
 /// \endcode
 ///
 /// In all else it is a QToolButton.
+///
+/// \ingroup widgets
 class OMBRIN_GUI_EXPORT OmToolButton : public QToolButton
 {
     Q_OBJECT

@@ -44,6 +44,8 @@ class SkinFrame;
 /// \c Qt::Window.
 ///
 /// To be used from the GUI thread.
+///
+/// \ingroup windows
 class OMBRIN_GUI_EXPORT OmWindow : public QWidget
 {
     Q_OBJECT

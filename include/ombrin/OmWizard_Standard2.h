@@ -27,6 +27,8 @@ class QPushButton;
 /// Return and Enter execute the mission where they may, or else go to the next page, and the button
 /// that would do the same is drawn as the default one; over a button that has the focus they press
 /// it. A key that is held counts once.
+///
+/// \ingroup dialogs
 class OMBRIN_GUI_EXPORT OmWizard_Standard2 : public COmWizard_Base
 {
     Q_OBJECT

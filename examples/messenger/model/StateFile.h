@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QString>
+
+namespace messenger {
+
+/// What the messenger remembers between its runs, apart from conversations: values by name in a
+/// JSON file.
+///
+/// Each change is in the file before setValue() returns, and the file is only ever replaced as a
+/// whole: whenever the program is killed, the file holds the state before or after the change. A
+/// file that cannot be read counts as empty and is kept under another name.
+class StateFile
+{
+public:
+    explicit StateFile(const QString &fileName);
+
+    QJsonValue value(const QString &key) const;
+    /// Does nothing if the value is there already.
+    void setValue(const QString &key, const QJsonValue &value);
+
+private:
+    void read();
+    void write() const;
+
+    QString m_fileName;
+    QJsonObject m_values;
+};
+
+} // namespace messenger

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/Contact.h"
+#include "model/Message.h"
+
+#include <ombrin/OmTextBrowser.h>
+
+#include <QtCore/QVector>
+
+namespace messenger {
+
+class Session;
+
+/// The conversation with one contact as people read it: faces, names, times, and days between them.
+class ChatHistory : public ombrin::OmTextBrowser
+{
+    Q_OBJECT
+
+public:
+    /// \a session must outlive the history.
+    ChatHistory(Session *session, const QString &contactId, QWidget *parent = nullptr);
+    ~ChatHistory() override;
+
+    void add(const Message &message);
+    /// Takes the pictures of user and contact anew.
+    void refreshFaces();
+
+private:
+    void addDay(const QDate &day);
+    QString bodyOf(const Message &message) const;
+    QString pictureOf(const QString &name) const;
+    QString rowOf(const Message &message, bool isContinued) const;
+    QString remarkOf(const Message &message) const;
+    void appendHtml(const QString &html);
+    void addFace(const QString &name, const QPixmap &picture);
+
+    Session *m_session;
+    QString m_contactId;
+    Message m_last;
+};
+
+} // namespace messenger

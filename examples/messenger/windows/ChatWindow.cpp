@@ -1,0 +1,238 @@
+#include "windows/ChatWindow.h"
+
+#include "common/SkinPictures.h"
+#include "model/PictureFiles.h"
+#include "model/Session.h"
+#include "windows/ChatHistory.h"
+#include "windows/Pictures.h"
+
+#include <ombrin/OmDesktop.h>
+#include <ombrin/OmDir.h>
+#include <ombrin/OmInfoPopup.h>
+#include <ombrin/OmLabel.h>
+#include <ombrin/OmMessageBox.h>
+#include <ombrin/OmScreenShooter.h>
+#include <ombrin/OmShakeWidget.h>
+#include <ombrin/OmTextEdit.h>
+
+#include <QAction>
+#include <QtCore/QMimeData>
+#include <QtGui/QDragEnterEvent>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
+
+namespace messenger {
+
+namespace {
+
+using ombrin::OmTextEdit;
+
+constexpr int kShownMessages = 500;
+constexpr int kTypingShownMs = 8000;
+constexpr int kOwnTypingMs = 3000;
+constexpr unsigned int kScreenshotDelayMs = 3000;
+
+} // namespace
+
+ChatWindow::ChatWindow(Session *session, const QString &contactId, const Preferences &preferences)
+    : m_session(session)
+    , m_contactId(contactId)
+    , m_history(new ChatHistory(session, contactId))
+    , m_input(new OmTextEdit)
+    , m_shaker(new ombrin::OmShakeWidget(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAcceptDrops(true);
+    setWidget(createConversation());
+    setPreferences(preferences);
+
+    m_typingShown.setSingleShot(true);
+    connect(&m_typingShown, &QTimer::timeout, this, [this] { showTyping(false); });
+    m_ownTyping.setSingleShot(true);
+    connect(&m_ownTyping, &QTimer::timeout, this, &ChatWindow::stopTyping);
+
+    connect(m_history, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) {
+        Q_EMIT actionId(QStringLiteral("open:") + link.toString(), m_contactId);
+    });
+    connect(session, &Session::messageAdded, this, &ChatWindow::showMessage);
+    connect(session, &Session::accountChanged, m_history, &ChatHistory::refreshFaces);
+    connect(session, &Session::typingChanged, this, [this](const QString &id, bool isTyping) {
+        if (id == m_contactId)
+            showTyping(isTyping);
+    });
+    connect(session, &Session::nudged, this, [this](const QString &id) {
+        if (id == m_contactId)
+            shake();
+    });
+    connect(&session->roster(), &Roster::changed, this, [this](const Contact &contact) {
+        if (contact.id == m_contactId)
+            refreshContact(contact);
+    });
+
+    refreshContact(session->roster().contact(contactId));
+    for (const Message &message : session->messages(contactId, kShownMessages))
+        m_history->add(message);
+    noteRead();
+    m_input->setFocus();
+}
+
+ChatWindow::~ChatWindow() = default;
+
+void ChatWindow::setPreferences(const Preferences &preferences)
+{
+    m_preferences = preferences;
+    if (!preferences.dictionaries.isEmpty())
+        m_input->setDict(preferences.dictionaries);
+    m_input->setSpellChecking(preferences.checksSpelling);
+}
+
+void ChatWindow::refreshContact(const Contact &contact)
+{
+    setWindowTitle(contact.alias);
+    setWindowIcon(QIcon(roundPortrait(portraitOf(contact), 32)));
+    m_face->setPixmap(roundPortrait(portraitOf(contact), 40));
+    m_name->setText(contact.alias);
+    const QString presence = presenceName(contact.status);
+    m_remark->setText(
+            contact.statusText.isEmpty()
+                    ? presence
+                    : tr("%1: %2", "presence and remark").arg(presence, contact.statusText));
+    m_presence->setPixmap(presenceIcon(contact.status).pixmap(12));
+    m_info->setPopupMessage(tr("%1\n%2").arg(contact.alias, m_remark->text()));
+    m_input->setEnabled(!contact.isBlocked);
+    for (QAction *action : std::as_const(m_actions))
+        action->setEnabled(!contact.isBlocked || action->data().toBool());
+    m_history->refreshFaces();
+}
+
+void ChatWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        noteRead();
+    OmWindow::changeEvent(event);
+}
+
+void ChatWindow::noteRead()
+{
+    if (isActiveWindow())
+        m_session->markRead(m_contactId);
+}
+
+// What comes in
+
+void ChatWindow::showMessage(const QString &contactId, const Message &message)
+{
+    if (contactId != m_contactId)
+        return;
+    m_history->add(message);
+    if (message.from != Message::From::Contact)
+        return;
+    noteRead();
+    if (!isActiveWindow())
+        ombrin::OmDesktop::flashWindow(this, true);
+}
+
+void ChatWindow::showTyping(bool isTyping)
+{
+    m_typing->setText(isTyping ? tr("%1 is writing...").arg(m_name->text()) : QString());
+    if (isTyping)
+        m_typingShown.start(kTypingShownMs);
+    else
+        m_typingShown.stop();
+}
+
+void ChatWindow::shake()
+{
+    if (m_preferences.shakes)
+        m_shaker->shakeWidget();
+    ombrin::OmDesktop::flashWindow(this, true);
+}
+
+// What goes out
+
+void ChatWindow::sendText()
+{
+    const QString text = m_input->toPlainText();
+    if (text.trimmed().isEmpty())
+        return;
+    stopTyping();
+    m_input->clear();
+    m_session->sendText(m_contactId, text);
+}
+
+void ChatWindow::nudge()
+{
+    shake();
+    m_session->sendNudge(m_contactId);
+}
+
+void ChatWindow::noteTyping()
+{
+    if (!m_preferences.sendsTyping || m_input->document()->isEmpty())
+        return;
+    if (!m_ownTyping.isActive())
+        m_session->setTyping(m_contactId, true);
+    m_ownTyping.start(kOwnTypingMs);
+}
+
+void ChatWindow::stopTyping()
+{
+    m_ownTyping.stop();
+    if (m_preferences.sendsTyping)
+        m_session->setTyping(m_contactId, false);
+}
+
+void ChatWindow::choosePicture()
+{
+    const QPointer<ChatWindow> guard(this);
+    const QString fileName = QFileDialog::getOpenFileName(
+            this, tr("Send a Picture"), ombrin::OmDir::myPicturesPath(),
+            tr("Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)"));
+    if (guard && !fileName.isEmpty())
+        sendFile(fileName);
+}
+
+void ChatWindow::sendFile(const QString &fileName)
+{
+    const QImage picture = readPicture(fileName);
+    if (!picture.isNull()) {
+        m_session->sendPicture(m_contactId, picture);
+        return;
+    }
+    ombrin::OmMessageBox::information(
+            this, tr("Send a Picture"),
+            tr("This is no picture, or it is too large.\nOnly pictures can be sent."));
+}
+
+void ChatWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls() || event->mimeData()->hasImage())
+        event->acceptProposedAction();
+}
+
+void ChatWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    if (event->mimeData()->hasUrls())
+        sendFile(event->mimeData()->urls().constFirst().toLocalFile());
+    else if (event->mimeData()->hasImage())
+        m_session->sendPicture(m_contactId, qvariant_cast<QImage>(event->mimeData()->imageData()));
+}
+
+void ChatWindow::takeScreenshot()
+{
+    OmScreenShooter::shootUserCutted(kScreenshotDelayMs, true, this, SLOT(sendScreenshot(QPixmap)),
+                                     this, SLOT(reportNoScreenshot()));
+}
+
+void ChatWindow::sendScreenshot(const QPixmap &picture)
+{
+    m_session->sendPicture(m_contactId, picture.toImage());
+}
+
+void ChatWindow::reportNoScreenshot()
+{
+    m_session->remark(m_contactId, tr("No picture of the screen was taken."));
+}
+
+} // namespace messenger

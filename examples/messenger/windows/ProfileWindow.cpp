@@ -1,0 +1,188 @@
+#include "windows/ProfileWindow.h"
+
+#include "model/Session.h"
+#include "windows/Pictures.h"
+
+#include <ombrin/OmAvatarSmall.h>
+#include <ombrin/OmLabel.h>
+#include <ombrin/OmRatingLabel.h>
+#include <ombrin/OmScribbledZebraItemLink.h>
+#include <ombrin/OmScribbledZebraView.h>
+#include <ombrin/vhutilities.h>
+
+#include <QtCore/QLocale>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QGridLayout>
+
+namespace messenger {
+
+namespace {
+
+using ombrin::OmAvatarSmall;
+using ombrin::OmLabel;
+
+constexpr int kMargin = 12;
+constexpr int kFaceExtent = 78;
+constexpr int kStarHeight = 22;
+constexpr int kLineHeight = 26;
+constexpr int kLabelPole = 108;
+constexpr int kValuePole = 120;
+constexpr int kActionPole = 12;
+
+enum Column { LabelColumn, ValueColumn, ActionColumn };
+
+const QColor kLabelColor(0x5f, 0x66, 0x6e);
+
+OmLabel *plainLabel()
+{
+    auto *label = new OmLabel(true, nullptr);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QString openAction(const QString &link)
+{
+    return QStringLiteral("open:") + link;
+}
+
+} // namespace
+
+ProfileWindow::ProfileWindow(Session *session, const QString &contactId)
+    : m_session(session)
+    , m_contactId(contactId)
+    , m_view(new OmScribbledZebraView)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_view->setMinimumLineHeight(kLineHeight);
+    m_view->setFrameShape(QFrame::StyledPanel);
+    m_view->poles().append(kLabelPole, true);
+    m_view->poles().append(kValuePole, true);
+    m_view->poles().append(kActionPole, false);
+
+    auto *contents = new QWidget;
+    auto *column = new QVBoxLayout(contents);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kMargin);
+    column->addWidget(createHead());
+    column->addWidget(m_view, 1);
+    setWidget(contents);
+
+    connect(&session->roster(), &Roster::changed, this, [this](const Contact &contact) {
+        if (contact.id == m_contactId)
+            refresh(contact);
+    });
+    refresh(session->roster().contact(contactId));
+}
+
+ProfileWindow::~ProfileWindow() = default;
+
+QWidget *ProfileWindow::createHead()
+{
+    m_face = new OmAvatarSmall;
+    m_face->setFixedSize(kFaceExtent, kFaceExtent);
+    // The thumbnail shows its large picture in slots of its own.
+    connect(m_face, SIGNAL(clicked()), m_face, SLOT(slotAvatarTimer()));
+    m_name = plainLabel();
+    QFont font = m_name->font();
+    font.setBold(true);
+    font.setPixelSize(20);
+    m_name->setFont(font);
+    m_remark = plainLabel();
+    m_presence = new QLabel;
+    m_rating = new ombrin::OmRatingLabel;
+    m_rating->setFixedHeight(kStarHeight);
+    m_rating->setAccessibleName(tr("Your rating"));
+    m_rating->setToolTip(tr("What you think of this contact. Nobody else sees it."));
+    connect(m_rating, &ombrin::OmRatingLabel::ratingChanged, this,
+            [this](int rating) { m_session->roster().setRating(m_contactId, rating); });
+
+    auto *head = new QWidget;
+    auto *grid = new QGridLayout(head);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(kMargin);
+    grid->setVerticalSpacing(4);
+    grid->addWidget(m_face, 0, 0, 3, 1);
+    grid->addWidget(m_name, 0, 1, Qt::AlignBottom);
+    auto *presence = new QHBoxLayout;
+    presence->setSpacing(6);
+    presence->addWidget(m_presence);
+    presence->addWidget(m_remark, 1);
+    grid->addLayout(presence, 1, 1);
+    grid->addWidget(m_rating, 2, 1, Qt::AlignLeft);
+    grid->setColumnStretch(1, 1);
+    return head;
+}
+
+void ProfileWindow::refresh(const Contact &contact)
+{
+    setWindowTitle(tr("Profile of %1").arg(contact.alias));
+    setWindowIcon(QIcon(roundPortrait(portraitOf(contact), 32)));
+    m_face->setAvatar(portraitOf(contact), true);
+    m_name->setText(contact.alias);
+    m_presence->setPixmap(presenceIcon(contact.status).pixmap(12));
+    m_remark->setText(contact.statusText.isEmpty() ? presenceName(contact.status)
+                                                   : contact.statusText);
+    m_rating->setRating(contact.rating);
+    fillView(contact);
+}
+
+void ProfileWindow::fillView(const Contact &contact)
+{
+    m_view->blockRefresh(true);
+    while (!m_view->items().isEmpty())
+        delete m_view->items().takeLast();
+    int row = 0;
+    addText(row++, tr("Group"), contact.group);
+    if (!contact.city.isEmpty())
+        addText(row++, tr("City"), contact.city);
+    if (contact.birthday.isValid()) {
+        const QString day = QLocale().toString(contact.birthday, QStringLiteral("d MMMM yyyy"));
+        addText(row++, tr("Birthday"),
+                tr("%1 (%2 years)")
+                        .arg(day)
+                        .arg(ombrin::vhutilities::AgeInYears(contact.birthday)));
+    }
+    if (!contact.phone.isEmpty())
+        addLink(row++, tr("Phone"), contact.phone, QStringLiteral("voip"), tr("Call"));
+    if (ombrin::vhutilities::IsPossibleEMailAddress(contact.email, false))
+        addLink(row++, tr("E-mail"), contact.email,
+                openAction(QStringLiteral("mailto:") + contact.email), tr("Write"));
+    if (contact.web.isValid())
+        addLink(row++, tr("Web folder"), contact.web.toDisplayString(), QStringLiteral("webfolder"),
+                tr("Open"));
+    addLink(row++, tr("Messages"), tr("Chat with %1").arg(contact.alias), QStringLiteral("chat"),
+            QString());
+    addLink(row, tr("Blocked"), contact.isBlocked ? tr("Yes") : tr("No"),
+            contact.isBlocked ? QStringLiteral("unblock") : QStringLiteral("block"),
+            contact.isBlocked ? tr("Unblock") : tr("Block"));
+    m_view->blockRefresh(false);
+}
+
+void ProfileWindow::addText(int row, const QString &label, const QString &value)
+{
+    auto *labelItem = new OmScribbledZebraItemText(LabelColumn, row, false, label, nullptr);
+    labelItem->setBrush(kLabelColor);
+    m_view->items() << labelItem
+                    << new OmScribbledZebraItemText(ValueColumn, row, true, value, nullptr);
+}
+
+void ProfileWindow::addLink(int row, const QString &label, const QString &value,
+                            const QString &action, const QString &actionText)
+{
+    auto *labelItem = new OmScribbledZebraItemText(LabelColumn, row, false, label, nullptr);
+    labelItem->setBrush(kLabelColor);
+    m_view->items() << labelItem;
+    // Without a link at the end of the line the value is the link.
+    const bool isValueLink = actionText.isEmpty();
+    if (!isValueLink)
+        m_view->items() << new OmScribbledZebraItemText(ValueColumn, row, true, value, nullptr);
+    auto *link =
+            new OmScribbledZebraItemLink(isValueLink ? ValueColumn : ActionColumn, row, isValueLink,
+                                         isValueLink ? value : actionText, nullptr);
+    link->setBrush(palette().link());
+    connect(link, &OmScribbledZebraItemLink::signalOnLinkActivated, this,
+            [this, action] { Q_EMIT actionId(action, m_contactId); });
+    m_view->items() << link;
+}
+
+} // namespace messenger

@@ -72,6 +72,7 @@ function(_ombrin_install_package)
   configure_package_config_file(
     "${PROJECT_SOURCE_DIR}/cmake/OmbrinGuiConfig.cmake.in" "${_build_folder}/OmbrinGuiConfig.cmake"
     INSTALL_DESTINATION "${_package_folder}"
+    PATH_VARS OMBRIN_INSTALL_DATADIR
     NO_SET_AND_CHECK_MACRO)
   configure_file(
     "${PROJECT_SOURCE_DIR}/cmake/OmbrinGuiConfigVersion.cmake.in"

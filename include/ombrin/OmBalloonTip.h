@@ -27,8 +27,8 @@ enum MessageIcon : int {
 ///
 /// \code
 /// ombrin::OmBalloonTip::showBalloon(ombrin::InformationMessageIcon, tr("Ada"),
-///                                   tr("I am back at my desk."), button->mapToGlobal(QPoint(8,
-///                                   8)), 5000, true, true, true);
+///                                   tr("I am back at my desk."),
+///                                   button->mapToGlobal(QPoint(8, 8)), 5000, true, true, true);
 /// \endcode
 ///
 /// showBalloon() keeps at most one balloon on the screen, the active one. Balloons that a host

@@ -28,7 +28,8 @@ class OmLabel;
 /// groups->setIsAddButtonVisible(true);
 /// groups->items().append(tr("Friends"), true, Qt::darkGreen, QVariant());
 /// connect(groups, &ombrin::OmCheckBoxAssortmentView::signalOnItemCheckChanged, this,
-///         [](const ombrin::OmCheckBoxAssortmentItem *item) { show(item->data(), item->value());
+///         [this](const ombrin::OmCheckBoxAssortmentItem *item) {
+///             showGroup(item->data(), item->value());
 ///         });
 /// \endcode
 ///

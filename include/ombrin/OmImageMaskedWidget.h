@@ -14,8 +14,8 @@ namespace ombrin {
 /// free on the desktop:
 ///
 /// \code
-/// auto *picture = new ombrin::OmImageMaskedWidget(nullptr, Qt::SplashScreen
-///                                                                 | Qt::FramelessWindowHint);
+/// auto *picture = new ombrin::OmImageMaskedWidget(
+///         nullptr, Qt::SplashScreen | Qt::FramelessWindowHint);
 /// picture->setImage(QImage(QStringLiteral(":/countdown-3-128.png")));
 /// picture->show();
 /// \endcode

@@ -11,7 +11,7 @@ namespace ombrin {
 /// \code
 /// auto *name = new ombrin::OmLineEdit(this);
 /// name->setNoFocusMessage(tr("Name or e-mail address"));
-/// ...
+/// // and later:
 /// if (!name->text().isEmpty()) // never the message
 ///     search(name->text());
 /// \endcode

@@ -79,8 +79,8 @@ void Zebra::insert()
         return;
     }
     default:
-        // In the list twice is once too many for the model; a null item is none.
-        m_list << item << any() << nullptr;
+        // Null is no item; one that is there already would be a mistake of the host.
+        m_list << item << nullptr;
         m_items.push_back(item);
         return;
     }

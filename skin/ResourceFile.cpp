@@ -75,11 +75,21 @@ private:
         return true;
     }
 
-    // Length in characters, hash, characters.
+    // Length in characters, hash, characters. A folder called like itself would never end.
     bool isNameIntact(qint64 name) const
     {
         const qint64 offset = m_names + name;
-        return holds(offset, 6) && holds(offset + 6, 2 * qint64(read16(offset)));
+        if (!holds(offset, 6) || !holds(offset + 6, 2 * qint64(read16(offset))))
+            return false;
+        const int length = read16(offset);
+        bool hasOnlyDots = length <= 2;
+        for (int index = 0; index < length; ++index) {
+            const quint16 letter = read16(offset + 6 + 2 * index);
+            if (letter == u'/')
+                return false;
+            hasOnlyDots = hasOnlyDots && letter == u'.';
+        }
+        return !hasOnlyDots; // nor is it empty
     }
 
     // Length in bytes, bytes.

@@ -8,6 +8,8 @@
 //
 //   init=true, init=false  OmSkin::init()
 //   sheet=TEXT             installs a style sheet, as a host does
+//   search=FOLDER          OmSkin::addSearchPath()
+//   pictures               OmSkin::registerPictures()
 //   remove                 deletes the skin from the disk
 //   paint                  shows some widgets, reads every resource
 //   nothing                only looks
@@ -81,6 +83,7 @@ QJsonObject findings(const QString &step)
 {
     return {{QStringLiteral("step"), step},
             {QStringLiteral("useSkin"), ombrin::OmSkin::useSkin()},
+            {QStringLiteral("folder"), ombrin::OmSkin::folder()},
             {QStringLiteral("styleSheet"), qApp->styleSheet()},
             {QStringLiteral("styles"), styles()},
             {QStringLiteral("palette"), paletteEntries()},
@@ -114,6 +117,10 @@ void perform(const QString &step)
         ombrin::OmSkin::init(argument == QLatin1String("true"));
     else if (step.startsWith(QLatin1String("sheet=")))
         qApp->setStyleSheet(argument);
+    else if (step.startsWith(QLatin1String("search=")))
+        ombrin::OmSkin::addSearchPath(argument);
+    else if (step == QLatin1String("pictures"))
+        ombrin::OmSkin::registerPictures();
     else if (step == QLatin1String("remove"))
         QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/skins")).removeRecursively();
     else if (step == QLatin1String("paint"))

@@ -201,6 +201,51 @@ private Q_SLOTS:
         }
     }
 
+    // What is in the first place that holds a file of a skin is the skin, and nothing of the
+    // others.
+    void skinsElsewhereAreFoundInOrder()
+    {
+        const QStringList steps{
+                QStringLiteral("search="),
+                QStringLiteral("search=") + m_folder.filePath(QStringLiteral("none")),
+                QStringLiteral("search=") + m_folder.filePath(QStringLiteral("added")),
+                QStringLiteral("init=true")};
+        // The last place first: each one found outdoes those before. On Windows the system's data
+        // folders cannot be chosen.
+#ifdef Q_OS_WIN
+        const QStringList places = ombrin::test::words("added named skins");
+#else
+        const QStringList places = ombrin::test::words("data/ombrin/skins added named skins");
+#endif
+        QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
+        for (const QString &place : places) {
+            QVERIFY(QDir(m_folder.path()).mkpath(place + QStringLiteral("/default")));
+            QFile file(m_folder.filePath(place + QStringLiteral("/default/default.css")));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(place.toUtf8()) > 0);
+            file.close();
+            const QJsonObject findings = runAndSeeLast(steps);
+            QCOMPARE(findings.value(QStringLiteral("folder")).toString(), m_folder.filePath(place));
+            QCOMPARE(findings.value(QStringLiteral("styleSheet")).toString(), place);
+            compareColours(findings, {});
+        }
+        for (const QString &place : places)
+            QDir(m_folder.filePath(place)).removeRecursively();
+    }
+
+    void picturesCanBeRegisteredAlone()
+    {
+        const QJsonArray report = run({QStringLiteral("nothing"), QStringLiteral("pictures")});
+        QJsonObject before = report.first().toObject();
+        QJsonObject after = report.last().toObject();
+        const QString pictures = QStringLiteral("pictures");
+        QVERIFY(after.value(pictures).toArray().contains(QStringLiteral("plain")));
+        for (const QString &changed : {QStringLiteral("step"), pictures}) {
+            before.remove(changed);
+            after.remove(changed);
+        }
+        QCOMPARE(after, before);
+    }
+
     void cutResourceFilesAreRefused()
     {
         const QString path = m_folder.filePath(QStringLiteral("skins/ombrin.res"));
@@ -272,6 +317,14 @@ private:
         environment.insert(variable,
                            QDir::toNativeSeparators(QCoreApplication::applicationDirPath())
                                    + QDir::listSeparator() + environment.value(variable));
+        // No skin but those of the test.
+        environment.insert(QStringLiteral("XDG_DATA_HOME"),
+                           m_folder.filePath(QStringLiteral("none")));
+        environment.insert(QStringLiteral("XDG_DATA_DIRS"),
+                           m_folder.filePath(QStringLiteral("data")));
+        environment.insert(QStringLiteral("OMBRIN_SKIN_PATH"),
+                           m_folder.filePath(QStringLiteral("none")) + QDir::listSeparator()
+                                   + m_folder.filePath(QStringLiteral("named")));
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(m_probe, QStringList(report) + steps);

@@ -202,6 +202,21 @@ void OmContactCard::setGeneralApp(Om::ClientApplication application)
     m_generalApp = application;
 }
 
+Om::ClientApplication OmContactCard::generalApp() const
+{
+    return m_generalApp;
+}
+
+int OmContactCard::generalAppNumber() const
+{
+    return m_generalApp;
+}
+
+void OmContactCard::setGeneralAppNumber(int application)
+{
+    m_generalApp = static_cast<Om::ClientApplication>(application);
+}
+
 void OmContactCard::setAvatar(const QPixmap &avatar, bool hover)
 {
     if (m_avatar) {
@@ -210,6 +225,11 @@ void OmContactCard::setAvatar(const QPixmap &avatar, bool hover)
     }
     m_pendingPicture = avatar;
     m_pendingHover = hover;
+}
+
+QPixmap OmContactCard::avatar() const
+{
+    return m_avatar ? m_avatar->avatar() : m_pendingPicture;
 }
 
 QSize OmContactCard::sizeHint() const

@@ -97,6 +97,11 @@ void OmContactCardList::enableAddContact(bool enable)
     m_addContactBar->setVisible(enable);
 }
 
+bool OmContactCardList::hasAddContact() const
+{
+    return !m_addContactBar->isHidden();
+}
+
 void OmContactCardList::slotClickedTimer()
 {
     const QPointer<OmContactCard> card = sendingCard();

@@ -84,7 +84,7 @@ bool OmContactCard::fillMenu(QMenu *menu)
     const ClientActions *const client = clientActions(m_generalApp);
     if (!client)
         return false;
-    if (!picture().isNull()) {
+    if (!avatar().isNull()) {
         QAction *const save = menu->addAction(skinPixmap(QStringLiteral(":/save-16")),
                                               tr("Save User Picture..."));
         connect(save, &QAction::triggered, this, &OmContactCard::slotSaveUserImageTimer);
@@ -107,12 +107,7 @@ void OmContactCard::slotSaveUserImage()
     const PictureSaving saving{tr("Save User Picture as..."),
                                tr("Joint Photographic Experts Group"),
                                QStringLiteral("save_avatar_path"), m_alias, m_ombrinId};
-    savePictureAsJpeg(this, saving, [this] { return picture().toImage(); });
-}
-
-QPixmap OmContactCard::picture() const
-{
-    return m_avatar ? m_avatar->avatar() : m_pendingPicture;
+    savePictureAsJpeg(this, saving, [this] { return avatar().toImage(); });
 }
 
 void OmContactCard::dragEnterEvent(QDragEnterEvent *event)

@@ -177,7 +177,6 @@ void OmCheckBoxAssortmentView::createHeader()
     m_addButton->setPixmapUp(skinPixmap(QStringLiteral(":/treeview_open")));
     m_addButton->setPixmapDown(skinPixmap(QStringLiteral(":/treeview_closed")));
     m_addButton->setPixmapHovered(skinPixmap(QStringLiteral(":/delete-16")));
-    m_addButton->setAccessibleName(tr("Add"));
     connect(m_addButton, &OmImageButton::clicked, this,
             &OmCheckBoxAssortmentView::slotOnAddButtonClicked);
 
@@ -277,8 +276,21 @@ void OmCheckBoxAssortmentView::refreshRetractButton()
     m_retractButton->setPixmapUp(picture);
     m_retractButton->setPixmapDown(picture);
     m_retractButton->setPixmapHovered(picture);
-    m_retractButton->setAccessibleName(m_isRetracted ? tr("Unfold") : tr("Fold"));
     m_retractButton->setProperty(kRetracted, m_isRetracted);
+    nameButtons();
+}
+
+void OmCheckBoxAssortmentView::nameButtons()
+{
+    m_addButton->setAccessibleName(tr("Add"));
+    m_retractButton->setAccessibleName(m_isRetracted ? tr("Unfold") : tr("Fold"));
+}
+
+void OmCheckBoxAssortmentView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        nameButtons();
 }
 
 void OmCheckBoxAssortmentView::resizeWidget()

@@ -49,6 +49,36 @@ QImage OmImageMaskedButton::image_Pressed() const
     return m_pressedImage;
 }
 
+void OmImageMaskedButton::setPixmapNormal(const QPixmap &pixmap)
+{
+    setImage_Normal(pixmap.toImage());
+}
+
+void OmImageMaskedButton::setPixmapHovered(const QPixmap &pixmap)
+{
+    setImage_Hovered(pixmap.toImage());
+}
+
+void OmImageMaskedButton::setPixmapPressed(const QPixmap &pixmap)
+{
+    setImage_Pressed(pixmap.toImage());
+}
+
+QPixmap OmImageMaskedButton::pixmapNormal() const
+{
+    return QPixmap::fromImage(m_normalImage);
+}
+
+QPixmap OmImageMaskedButton::pixmapHovered() const
+{
+    return QPixmap::fromImage(m_hoveredImage);
+}
+
+QPixmap OmImageMaskedButton::pixmapPressed() const
+{
+    return QPixmap::fromImage(m_pressedImage);
+}
+
 void OmImageMaskedButton::refreshImage()
 {
     const QImage &chosen = m_pressed ? m_pressedImage : m_hovered ? m_hoveredImage : m_normalImage;

@@ -34,6 +34,16 @@ QImage OmImageMaskedWidget::image() const
     return m_image;
 }
 
+void OmImageMaskedWidget::setPixmap(const QPixmap &pixmap)
+{
+    setImage(pixmap.toImage());
+}
+
+QPixmap OmImageMaskedWidget::pixmap() const
+{
+    return QPixmap::fromImage(m_image);
+}
+
 void OmImageMaskedWidget::paintEvent(QPaintEvent *)
 {
     if (m_displayImage.isNull())

@@ -4,6 +4,7 @@
 
 #include "skin/SkinPixmap.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QToolButton>
@@ -157,6 +158,13 @@ void OmTabWidget::installCloseButton()
     }
     if (cornerWidget(Qt::TopRightCorner) != m_closeButton)
         setCornerWidget(m_closeButton, Qt::TopRightCorner);
+}
+
+void OmTabWidget::changeEvent(QEvent *event)
+{
+    QTabWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_closeButton)
+        m_closeButton->setAccessibleName(tr("Close tab"));
 }
 
 bool OmTabWidget::isSpecial(QWidget *widget) const

@@ -33,13 +33,16 @@ class OMBRIN_GUI_EXPORT OmAvatarSmall : public OmLabel
 {
     Q_OBJECT
 
+    /// The picture, unscaled. One that is set shows without the magnifier.
+    Q_PROPERTY(QPixmap avatar READ avatar WRITE setAvatar)
+
 public:
     explicit OmAvatarSmall(QWidget *parent = nullptr);
     ~OmAvatarSmall() override;
 
     /// Shows \a avatar, with the magnifier if \a hover is true. A null \a avatar shows the
     /// placeholder, which is no link.
-    void setAvatar(const QPixmap &avatar, bool hover);
+    void setAvatar(const QPixmap &avatar, bool hover = false);
     /// The picture last set, unscaled.
     QPixmap avatar() const;
 

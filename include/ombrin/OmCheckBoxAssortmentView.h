@@ -42,6 +42,13 @@ class OMBRIN_GUI_EXPORT OmCheckBoxAssortmentView : public QWidget
 {
     Q_OBJECT
 
+    /// The caption in the title bar.
+    Q_PROPERTY(QString text READ text WRITE setText)
+    /// Whether there is a button for adding. False by default.
+    Q_PROPERTY(bool addButtonVisible READ isAddButtonVisible WRITE setIsAddButtonVisible)
+    /// Whether the rows are folded away. False by default.
+    Q_PROPERTY(bool retracted READ isRetracted WRITE setIsRetracted)
+
 public:
     explicit OmCheckBoxAssortmentView(QWidget *parent = nullptr);
     ~OmCheckBoxAssortmentView() override;
@@ -71,6 +78,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void slotOnAddButtonClicked();
@@ -94,6 +102,7 @@ private:
     void refreshRows();
     void refreshRow(Row *row, const OmCheckBoxAssortmentItem &item);
     void refreshRetractButton();
+    void nameButtons();
     ColoredCheckBox *addRow();
     void removeRowsFrom(int row);
     void resizeWidget();

@@ -87,6 +87,10 @@ class OMBRIN_GUI_EXPORT OmContactCard : public QGroupBox
     Q_PROPERTY(bool mobile READ mobile WRITE setMobile)
     Q_PROPERTY(QString ombrinId READ ombrinId WRITE setOmbrinId)
     Q_PROPERTY(int internalId READ internalId WRITE setInternalId)
+    /// The number of the contact's client application, which has no name.
+    Q_PROPERTY(int generalApp READ generalAppNumber WRITE setGeneralAppNumber)
+    /// The contact's picture. One that is set shows without the magnifier.
+    Q_PROPERTY(QPixmap avatar READ avatar WRITE setAvatar)
 
 public:
     explicit OmContactCard(QWidget *parent = nullptr);
@@ -144,9 +148,12 @@ public:
     /// Decides the actions of the card's menu from now on, and of its tool bar from the next time
     /// on that it becomes big.
     void setGeneralApp(Om::ClientApplication application);
+    Om::ClientApplication generalApp() const;
 
     /// Shows \a avatar, with a magnifier if \a hover is true; a null \a avatar shows a placeholder.
-    void setAvatar(const QPixmap &avatar, bool hover);
+    void setAvatar(const QPixmap &avatar, bool hover = false);
+    /// The picture last set, unscaled.
+    QPixmap avatar() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -204,7 +211,8 @@ private:
     void showStatus();
     void indicate(Indication indication);
     void restartTimer(int *timerId, bool run);
-    QPixmap picture() const;
+    int generalAppNumber() const;
+    void setGeneralAppNumber(int application);
     bool fillMenu(QMenu *menu);
     void releaseMenu();
 

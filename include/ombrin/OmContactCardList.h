@@ -39,6 +39,9 @@ class OMBRIN_GUI_EXPORT OmContactCardList : public QScrollArea
 {
     Q_OBJECT
 
+    /// Whether there is a button below the cards that adds contacts. False by default.
+    Q_PROPERTY(bool addContactButton READ hasAddContact WRITE enableAddContact)
+
 public:
     explicit OmContactCardList(QWidget *parent = nullptr);
     ~OmContactCardList() override;
@@ -59,6 +62,7 @@ public:
 
     /// Shows or hides the button that adds contacts.
     void enableAddContact(bool enable);
+    bool hasAddContact() const;
 
 Q_SIGNALS:
     /// The user chose the action \a id (see OmContactCard::actionId()) on the card of \a ombrinId.

@@ -44,6 +44,11 @@ class OMBRIN_GUI_EXPORT OmDialog2 : public QDialog
 {
     Q_OBJECT
 
+    // QWidget's property of this name would leave the drawn title as it is.
+    Q_PROPERTY(QString windowTitle READ windowTitle WRITE setWindowTitle)
+    /// Whether the size is fixed for the user.
+    Q_PROPERTY(bool fixed READ fixed WRITE setFixed)
+
 public:
     explicit OmDialog2(QWidget *parent = nullptr);
     ~OmDialog2() override;

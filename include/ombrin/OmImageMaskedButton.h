@@ -33,6 +33,15 @@ class OMBRIN_GUI_EXPORT OmImageMaskedButton : public OmImageMaskedWidget
 {
     Q_OBJECT
 
+    // Which picture is shown is for the button to decide.
+    Q_PROPERTY(QPixmap pixmap READ pixmap DESIGNABLE false STORED false)
+    /// \name The images as pixmaps, which form editors know how to set
+    /// \{
+    Q_PROPERTY(QPixmap pixmapNormal READ pixmapNormal WRITE setPixmapNormal)
+    Q_PROPERTY(QPixmap pixmapHovered READ pixmapHovered WRITE setPixmapHovered)
+    Q_PROPERTY(QPixmap pixmapPressed READ pixmapPressed WRITE setPixmapPressed)
+    /// \}
+
 public:
     explicit OmImageMaskedButton(QWidget *parent = nullptr,
                                  Qt::WindowFlags flags = Qt::WindowFlags());
@@ -45,6 +54,17 @@ public:
     QImage image_Normal() const;
     QImage image_Hovered() const;
     QImage image_Pressed() const;
+
+    /// \name The same with the images of pixmaps
+    /// \{
+    /// The image of a state as a pixmap.
+    void setPixmapNormal(const QPixmap &pixmap);
+    void setPixmapHovered(const QPixmap &pixmap);
+    void setPixmapPressed(const QPixmap &pixmap);
+    QPixmap pixmapNormal() const;
+    QPixmap pixmapHovered() const;
+    QPixmap pixmapPressed() const;
+    /// \}
 
 Q_SIGNALS:
     /// The button was clicked, with the mouse or with a key.

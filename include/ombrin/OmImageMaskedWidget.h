@@ -3,6 +3,7 @@
 #include <ombrin/OmGlobal.h>
 
 #include <QtGui/QImage>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
 namespace ombrin {
@@ -30,6 +31,9 @@ class OMBRIN_GUI_EXPORT OmImageMaskedWidget : public QWidget
 {
     Q_OBJECT
 
+    /// The image as a pixmap, which form editors know how to set.
+    Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
+
 public:
     explicit OmImageMaskedWidget(QWidget *parent = nullptr,
                                  Qt::WindowFlags flags = Qt::WindowFlags());
@@ -39,6 +43,10 @@ public:
     void setImage(QImage image);
     /// The image as it was given to setImage().
     QImage image() const;
+
+    /// The same as setImage() with the image of \a pixmap.
+    void setPixmap(const QPixmap &pixmap);
+    QPixmap pixmap() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -36,6 +36,13 @@ class OMBRIN_GUI_EXPORT OmInfoPopup : public QLabel
 {
     Q_OBJECT
 
+    /// \name What the pop-up shows
+    /// \{
+    Q_PROPERTY(QString popupMessage READ popupMessage WRITE setPopupMessage)
+    Q_PROPERTY(QString notice READ notice WRITE setNotice)
+    Q_PROPERTY(bool noticeInput READ noticeInput WRITE enableNoticeInput)
+    /// \}
+
 public:
     explicit OmInfoPopup(QWidget *parent = nullptr);
     ~OmInfoPopup() override;

@@ -40,6 +40,8 @@ class OMBRIN_GUI_EXPORT OmLabel : public QLabel
     /// Whether the text is shortened to the label's width. Takes effect with the next text, size or
     /// font.
     Q_PROPERTY(bool elide READ isElided WRITE enableElide)
+    /// Where the ellipsis goes.
+    Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode)
     /// Whether the label acts as a link.
     Q_PROPERTY(bool link READ isLink WRITE enableLink)
     // QLabel's property of this name would give away the shortened text.

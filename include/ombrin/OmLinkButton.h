@@ -30,6 +30,9 @@ class OMBRIN_GUI_EXPORT OmLinkButton : public QAbstractButton
 {
     Q_OBJECT
 
+    /// Where a text that has too little room is shortened.
+    Q_PROPERTY(Qt::TextElideMode textElideMode READ textElideMode WRITE setTextElideMode)
+
 public:
     explicit OmLinkButton(QWidget *parent = nullptr);
     /// The same with a text.

@@ -29,6 +29,9 @@ class OMBRIN_GUI_EXPORT OmRatingLabel : public QLabel
 {
     Q_OBJECT
 
+    /// The rating in half stars, from 0 to 10.
+    Q_PROPERTY(int rating READ rating WRITE setRating USER true)
+
 public:
     explicit OmRatingLabel(QWidget *parent = nullptr);
     ~OmRatingLabel() override;

@@ -47,6 +47,9 @@ class OMBRIN_GUI_EXPORT OmScribbledZebraView : public QGraphicsView
 {
     Q_OBJECT
 
+    /// The height of lines without higher items, in pixels.
+    Q_PROPERTY(int minimumLineHeight READ minimumLineHeight WRITE setMinimumLineHeight)
+
 public:
     explicit OmScribbledZebraView(QWidget *parent = nullptr);
     ~OmScribbledZebraView() override;

@@ -28,6 +28,9 @@ class OMBRIN_GUI_EXPORT OmSearchField : public QLineEdit
 {
     Q_OBJECT
 
+    /// What is drawn while the field is empty and has no focus.
+    Q_PROPERTY(QString defaultText READ defaultText WRITE setDefaultText)
+
 public:
     explicit OmSearchField(QWidget *parent = nullptr);
     ~OmSearchField() override;

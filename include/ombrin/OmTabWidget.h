@@ -45,6 +45,15 @@ class OMBRIN_GUI_EXPORT OmTabWidget : public QTabWidget
 {
     Q_OBJECT
 
+    /// Whether the tab bar is shown. True by default.
+    Q_PROPERTY(bool tabBar READ hasTabBar WRITE enableTabBar)
+    /// Whether the captions are shown. True by default.
+    Q_PROPERTY(bool tabText READ hasTabText WRITE enableTabText)
+    /// Whether the user can drag tabs onto each other. False by default.
+    Q_PROPERTY(bool dragableTabs READ hasDragableTabs WRITE enableDragableTabs)
+    /// Whether there is a button that closes the current tab. False by default.
+    Q_PROPERTY(bool closeTabButton READ hasCloseTabButton WRITE enableCloseTabButton)
+
 public:
     explicit OmTabWidget(QWidget *parent = nullptr);
     ~OmTabWidget() override;
@@ -76,6 +85,9 @@ Q_SIGNALS:
     /// The close button has removed the page \a widget, which nobody has deleted. Null when there
     /// was no tab left to remove.
     void tabRemoved(QWidget *widget);
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void removeCurrentTab();

@@ -41,6 +41,7 @@ class OMBRIN_GUI_EXPORT OmTextEdit : public QTextEdit
     Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
     Q_PROPERTY(bool spellChecking READ useSpellChecking WRITE setSpellChecking)
     Q_PROPERTY(bool regardCase READ useRegardCase WRITE setRegardCase)
+    Q_PROPERTY(QString dict READ dict WRITE setDict)
 
 public:
     explicit OmTextEdit(QWidget *parent = nullptr);

@@ -1,10 +1,12 @@
 #include "GalleryWindow.h"
 
 #include "AboutDialog.h"
+#include "CommandLine.h"
 #include "GalleryPage.h"
 #include "NavigationList.h"
 #include "PageKit.h"
-#include "ScreenshotJob.h"
+
+#include "common/ScreenshotJob.h"
 
 #include <ombrin/OmStatusBar.h>
 
@@ -219,12 +221,14 @@ void GalleryWindow::takeScreenshots()
 
     m_screenshots->setEnabled(false);
     statusBar()->showMessage(tr("Taking pictures..."));
-    auto *job = new ScreenshotJob(directory, QString(), this);
-    connect(job, &ScreenshotJob::finished, this, [this, job](bool, const QString &message) {
-        statusBar()->showMessage(message, kMessageMs);
-        m_screenshots->setEnabled(true);
-        job->deleteLater();
-    });
+    auto *job = new example::ScreenshotJob(
+            directory, CommandLine::oneDensityArguments(directory, QString()), this);
+    connect(job, &example::ScreenshotJob::finished, this,
+            [this, job](bool, const QString &message) {
+                statusBar()->showMessage(message, kMessageMs);
+                m_screenshots->setEnabled(true);
+                job->deleteLater();
+            });
     job->start();
 }
 

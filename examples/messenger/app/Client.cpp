@@ -6,6 +6,7 @@
 #include "windows/ContactList.h"
 #include "windows/MainWindow.h"
 #include "windows/Pictures.h"
+#include "windows/PlainText.h"
 #include "windows/PreferencesDialog.h"
 #include "windows/ProfileWindow.h"
 #include "windows/Toast.h"
@@ -178,7 +179,7 @@ ChatWindow *Client::openChat(const QString &contactId)
     QPointer<ChatWindow> &chat = m_chats[contactId];
     if (!chat) {
         chat = new ChatWindow(m_session, contactId, m_preferences);
-        new WindowMemory(chat, QStringLiteral("chat"), kChatSize, &m_session->state());
+        new WindowMemory(chat, QStringLiteral("chat-") + contactId, kChatSize, &m_session->state());
         connect(chat, &ChatWindow::actionId, this, &Client::perform);
     }
     bringForward(chat);
@@ -214,7 +215,8 @@ void Client::call(const QString &contactId)
     const QString number = contact.phone.isEmpty() ? tr("no number is known") : contact.phone;
     OmMessageBox::information(
             parentWindow(), tr("Call"),
-            tr("This example has no telephone in it.\n%1: %2").arg(contact.alias, number));
+            asRichText(
+                    tr("This example has no telephone in it.\n%1: %2").arg(contact.alias, number)));
 }
 
 void Client::setBlocked(const QString &contactId, bool isBlocked)
@@ -231,8 +233,9 @@ void Client::deleteContact(const QString &contactId)
     const QString alias = m_session->roster().contact(contactId).alias;
     const int answer = OmMessageBox::question(
             parentWindow(), tr("Delete Contact"),
-            tr("Delete %1 from your contacts?\nWhat you have written to each other is kept.")
-                    .arg(alias));
+            asRichText(
+                    tr("Delete %1 from your contacts?\nWhat you have written to each other is kept.")
+                            .arg(alias)));
     if (!guard || answer != QDialog::Accepted)
         return;
     delete m_chats.take(contactId);

@@ -36,7 +36,9 @@ QString wordToHtml(const QString &word)
 {
     const int smiley = static_cast<int>(smileys().indexOf(word));
     if (smiley >= 0)
-        return QStringLiteral("<img src=\"%1\" width=\"18\" height=\"18\">").arg(smileyName(word));
+        return QStringLiteral("<img src=\"%1\" width=\"16\" height=\"16\" "
+                              "style=\"vertical-align:middle\">")
+                .arg(smileyName(word));
     const QString address = word.left(lengthWithoutPunctuation(word));
     const QString target = linkTarget(address);
     if (target.isEmpty())

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kFaceExtent = 32;
 constexpr QSize kLargestPicture(280, 220);
+const QColor kQuietColor(0x6b, 0x72, 0x7b);
 // A message that follows another of the same person so soon needs no name of its own.
 constexpr qint64 kTogetherSeconds = 300;
 
@@ -32,10 +33,37 @@ QString faceName(Message::From from)
     return from == Message::From::Me ? QStringLiteral("face:me") : QStringLiteral("face:contact");
 }
 
-QString quiet(const QString &text)
+QString timeOf(const Message &message)
 {
-    return QStringLiteral("<span style=\"color:#6b727b\">%1</span>").arg(text);
+    const QLocale locale;
+    // The plain locale has seconds in its short times.
+    const QString time = locale.language() == QLocale::C
+                                 ? message.time.toString(QStringLiteral("HH:mm"))
+                                 : locale.toString(message.time.time(), QLocale::ShortFormat);
+    return time.toHtmlEscaped();
 }
+
+/// Keeps a view that shows the end of its document at the end while the document grows.
+class EndKeeper
+{
+public:
+    explicit EndKeeper(QScrollBar *bar)
+        : m_bar(bar)
+        , m_isAtEnd(bar->value() >= bar->maximum() - kNearEnd)
+    {}
+    ~EndKeeper()
+    {
+        if (m_isAtEnd)
+            m_bar->setValue(m_bar->maximum());
+    }
+    Q_DISABLE_COPY(EndKeeper)
+
+private:
+    static constexpr int kNearEnd = 4;
+
+    QScrollBar *m_bar;
+    bool m_isAtEnd;
+};
 
 } // namespace
 
@@ -46,6 +74,8 @@ ChatHistory::ChatHistory(Session *session, const QString &contactId, QWidget *pa
 {
     setSaveableImages(true);
     document()->setDocumentMargin(8);
+    document()->setDefaultStyleSheet(
+            QStringLiteral("a { color: %1 }").arg(palette().color(QPalette::Link).name()));
     for (const QString &smiley : smileys())
         addFace(smileyName(smiley), smileyPicture(smiley));
     refreshFaces();
@@ -73,60 +103,75 @@ void ChatHistory::add(const Message &message)
     if (message.time.date() != m_last.time.date())
         addDay(message.time.date());
     if (message.from == Message::From::Messenger || message.kind == Message::Kind::Nudge) {
-        appendHtml(remarkOf(message));
+        addLine(remarkOf(message));
     } else {
         const bool isContinued = m_last.time.isValid() && m_last.from == message.from
                                  && m_last.kind != Message::Kind::Nudge
                                  && m_last.time.secsTo(message.time) < kTogetherSeconds
                                  && m_last.time.date() == message.time.date();
-        appendHtml(rowOf(message, isContinued));
+        addRow(message, isContinued);
     }
     m_last = message;
 }
 
 void ChatHistory::addDay(const QDate &day)
 {
-    const QString text = QLocale().toString(day, QLocale::LongFormat);
-    appendHtml(
-            QStringLiteral("<p align=\"center\" style=\"margin-top:6px; margin-bottom:2px\">%1</p>")
-                    .arg(quiet(text.toHtmlEscaped())));
+    addLine(QLocale().toString(day, QLocale::LongFormat));
 }
 
 QString ChatHistory::remarkOf(const Message &message) const
 {
-    QString text = message.text;
-    if (message.kind == Message::Kind::Nudge) {
-        const QString alias = m_session->roster().contact(m_contactId).alias;
-        text = message.from == Message::From::Me ? tr("You have nudged %1.").arg(alias)
-                                                 : tr("%1 has nudged you.").arg(alias);
-    }
-    return QStringLiteral(
-                   "<p align=\"center\" style=\"margin-top:6px; margin-bottom:2px\"><i>%1</i></p>")
-            .arg(quiet(text.toHtmlEscaped()));
+    if (message.kind != Message::Kind::Nudge)
+        return message.text;
+    const QString alias = m_session->roster().contact(m_contactId).alias;
+    return message.from == Message::From::Me ? tr("You have nudged %1.").arg(alias)
+                                             : tr("%1 has nudged you.").arg(alias);
 }
 
-QString ChatHistory::rowOf(const Message &message, bool isContinued) const
+/// A quiet line in the middle.
+void ChatHistory::addLine(const QString &text)
+{
+    QTextBlockFormat format;
+    format.setAlignment(Qt::AlignHCenter);
+    format.setTopMargin(6);
+    format.setBottomMargin(2);
+    QTextCharFormat quietFormat;
+    quietFormat.setForeground(kQuietColor);
+    const EndKeeper keeper(verticalScrollBar());
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    if (cursor.block().length() > 1)
+        cursor.insertBlock();
+    cursor.setBlockFormat(format);
+    cursor.insertText(text, quietFormat);
+}
+
+void ChatHistory::addRow(const Message &message, bool isContinued)
 {
     const bool isMine = message.from == Message::From::Me;
     const QString alias =
             isMine ? m_session->account().name : m_session->roster().contact(m_contactId).alias;
-    const QString time = QLocale().toString(message.time.time(), QLocale::ShortFormat);
     QString face;
     QString name;
     if (!isContinued) {
-        face = QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%2\">")
-                       .arg(faceName(message.from))
-                       .arg(kFaceExtent);
+        face = QStringLiteral("<img src=\"%1\" width=\"32\" height=\"32\">")
+                       .arg(faceName(message.from));
         name = QStringLiteral("<b style=\"color:%1\">%2</b><br>")
                        .arg(nameColor(message.from), alias.toHtmlEscaped());
     }
-    return QStringLiteral("<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\" "
-                          "style=\"margin-top:%1px\"><tr>"
-                          "<td width=\"42\">%2</td><td style=\"padding-left:6px; "
-                          "padding-right:8px\">%3%4</td>"
-                          "<td width=\"40\" align=\"right\">%5</td></tr></table>")
-            .arg(QString::number(isContinued ? 2 : 8), face, name, bodyOf(message),
-                 quiet(time.toHtmlEscaped()));
+    const QString row =
+            QStringLiteral(
+                    "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\" "
+                    "style=\"margin-top:%1px\"><tr>"
+                    "<td width=\"38\">%2</td><td style=\"padding-left:6px; "
+                    "padding-right:8px\">%3%4</td>"
+                    "<td width=\"40\" align=\"right\" style=\"color:%6\">%5</td></tr></table>")
+                    .arg(QString::number(isContinued ? 2 : 8), face, name, bodyOf(message),
+                         timeOf(message), kQuietColor.name());
+    const EndKeeper keeper(verticalScrollBar());
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertHtml(row);
 }
 
 QString ChatHistory::bodyOf(const Message &message) const
@@ -148,24 +193,19 @@ QString ChatHistory::pictureOf(const QString &name) const
     const QString fileName = m_session->pictureFile(name);
     QSize size = QImageReader(fileName).size();
     if (size.isEmpty())
-        return quiet(tr("(a picture that is no longer there)"));
+        return tr("(a picture that is no longer there)").toHtmlEscaped();
     if (size.boundedTo(kLargestPicture) != size)
         size.scale(kLargestPicture, Qt::KeepAspectRatio);
     return QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%3\">")
-            .arg(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()))
-            .arg(size.width())
-            .arg(size.height());
+            .arg(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()),
+                 QString::number(size.width()), QString::number(size.height()));
 }
 
-void ChatHistory::appendHtml(const QString &html)
+// Whoever reads the end goes on reading the end.
+void ChatHistory::resizeEvent(QResizeEvent *event)
 {
-    QScrollBar *bar = verticalScrollBar();
-    const bool wasAtEnd = bar->value() >= bar->maximum() - 4;
-    QTextCursor cursor(document());
-    cursor.movePosition(QTextCursor::End);
-    cursor.insertHtml(html);
-    if (wasAtEnd)
-        bar->setValue(bar->maximum());
+    const EndKeeper keeper(verticalScrollBar());
+    OmTextBrowser::resizeEvent(event);
 }
 
 } // namespace messenger

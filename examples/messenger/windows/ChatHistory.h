@@ -25,13 +25,16 @@ public:
     /// Takes the pictures of user and contact anew.
     void refreshFaces();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void addDay(const QDate &day);
+    void addLine(const QString &text);
+    void addRow(const Message &message, bool isContinued);
     QString bodyOf(const Message &message) const;
     QString pictureOf(const QString &name) const;
-    QString rowOf(const Message &message, bool isContinued) const;
     QString remarkOf(const Message &message) const;
-    void appendHtml(const QString &html);
     void addFace(const QString &name, const QPixmap &picture);
 
     Session *m_session;

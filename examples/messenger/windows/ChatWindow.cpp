@@ -16,6 +16,7 @@
 #include <ombrin/OmTextEdit.h>
 
 #include <QAction>
+#include <QtCore/QLocale>
 #include <QtCore/QMimeData>
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QFileDialog>
@@ -31,6 +32,16 @@ constexpr int kShownMessages = 500;
 constexpr int kTypingShownMs = 8000;
 constexpr int kOwnTypingMs = 3000;
 constexpr unsigned int kScreenshotDelayMs = 3000;
+
+/// The user's language, else English, else what there is.
+QString likelyDictionary(const QStringList &installed)
+{
+    for (const QString &name : {QLocale().name(), QStringLiteral("en_US")}) {
+        if (installed.contains(name))
+            return name;
+    }
+    return installed.value(0);
+}
 
 } // namespace
 
@@ -81,8 +92,8 @@ ChatWindow::~ChatWindow() = default;
 void ChatWindow::setPreferences(const Preferences &preferences)
 {
     m_preferences = preferences;
-    if (!preferences.dictionaries.isEmpty())
-        m_input->setDict(preferences.dictionaries);
+    m_input->setDict(preferences.dictionaries.isEmpty() ? likelyDictionary(m_input->availDicts())
+                                                        : preferences.dictionaries);
     m_input->setSpellChecking(preferences.checksSpelling);
 }
 
@@ -98,7 +109,6 @@ void ChatWindow::refreshContact(const Contact &contact)
                     ? presence
                     : tr("%1: %2", "presence and remark").arg(presence, contact.statusText));
     m_presence->setPixmap(presenceIcon(contact.status).pixmap(12));
-    m_info->setPopupMessage(tr("%1\n%2").arg(contact.alias, m_remark->text()));
     m_input->setEnabled(!contact.isBlocked);
     for (QAction *action : std::as_const(m_actions))
         action->setEnabled(!contact.isBlocked || action->data().toBool());

@@ -4,6 +4,7 @@
 
 #include "common/SkinPictures.h"
 #include "model/MessageHtml.h"
+#include "model/Session.h"
 #include "peers/PeerProtocol.h"
 #include "windows/ChatHistory.h"
 #include "windows/Pictures.h"
@@ -17,6 +18,7 @@
 #include <ombrin/OmToolButton.h>
 
 #include <QAction>
+#include <QtCore/QRegularExpression>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QSplitter>
@@ -58,6 +60,7 @@ QWidget *ChatWindow::createConversation()
     splitter->addWidget(m_history);
     splitter->addWidget(lower);
     splitter->setStretchFactor(0, 1);
+    splitter->setSizes({QWIDGETSIZE_MAX, kInputHeight});
 
     auto *contents = new QWidget;
     auto *column = new QVBoxLayout(contents);
@@ -79,8 +82,10 @@ QWidget *ChatWindow::createHead()
     m_remark = plainLabel();
     m_presence = new QLabel;
     m_info = new ombrin::OmInfoPopup;
-    m_info->setNotice(tr("Only for you: what you write here is forgotten when the window closes."));
-    m_info->enableNoticeInput(true);
+    const Contact contact = m_session->roster().contact(m_contactId);
+    const QStringList lines = {contact.alias, contact.city, contact.phone, contact.email};
+    m_info->setPopupMessage(
+            lines.filter(QRegularExpression(QStringLiteral("."))).join(QLatin1Char('\n')));
 
     auto *head = new QWidget;
     auto *grid = new QGridLayout(head);
@@ -174,6 +179,7 @@ QWidget *ChatWindow::createSmileys()
     auto *box = new ombrin::OmIconComboBox;
     box->setAccessibleName(tr("Smileys"));
     box->setFocusPolicy(Qt::TabFocus);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (const QString &smiley : smileys()) {
         box->addItem(QIcon(smileyPicture(smiley)), QString(), smiley);
         box->setItemData(box->count() - 1, smiley, Qt::AccessibleTextRole);

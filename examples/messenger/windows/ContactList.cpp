@@ -2,6 +2,7 @@
 
 #include "model/Session.h"
 #include "windows/Pictures.h"
+#include "windows/PlainText.h"
 
 #include <ombrin/OmAvatar.h>
 #include <ombrin/OmAvatarSmall.h>
@@ -84,13 +85,12 @@ void ContactList::refresh(const Contact &contact)
         return;
     const int unread = m_session->roster().unread(contact.id);
     card->setAlias(unread > 0 ? tr("%1 (%2)", "name and number of unread messages")
-                                        .arg(contact.alias)
-                                        .arg(unread)
+                                        .arg(contact.alias, QString::number(unread))
                               : contact.alias);
     card->setStatus(contact.status);
     card->setGeneralApp(static_cast<Om::ClientApplication>(contact.application));
     card->setBlocked(contact.isBlocked);
-    card->setToolTip(contact.statusText.toHtmlEscaped());
+    card->setToolTip(asRichText(contact.statusText));
     showPicture(card, contact);
     card->setHidden(!m_filter.accepts(contact));
     Q_EMIT shownCountChanged();

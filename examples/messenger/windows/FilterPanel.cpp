@@ -24,6 +24,18 @@ constexpr std::array<Om::ContactStatus, ContactFilter::PresenceCount> kPresences
 constexpr std::array<QRgb, 5> kGroupColors = {0xff2a6fbb, 0xff8a4fa0, 0xff2f7d6b, 0xffa8572a,
                                               0xff5a6470};
 
+/// A box that shows all its rows.
+class FilterBox : public OmCheckBoxAssortmentView
+{
+public:
+    QSize sizeHint() const override
+    {
+        // The frame of the rows takes some room, too.
+        const int frame = isRetracted() ? 0 : 8;
+        return OmCheckBoxAssortmentView::sizeHint() + QSize(0, frame);
+    }
+};
+
 // Darker than the sign, to be read as text.
 QColor textColor(Om::ContactStatus status)
 {
@@ -65,7 +77,7 @@ FilterPanel::~FilterPanel() = default;
 
 OmCheckBoxAssortmentView *FilterPanel::createBox(const QString &title)
 {
-    auto *box = new OmCheckBoxAssortmentView;
+    auto *box = new FilterBox;
     box->setText(title);
     box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return box;

@@ -64,6 +64,7 @@ MainWindow::MainWindow(Session *session)
     connectRoster();
     m_contacts->setFilter(m_filters->filter());
     refreshStatus();
+    m_contacts->setFocus();
     new WindowMemory(this, QStringLiteral("main"), kFirstSize, &session->state());
 }
 
@@ -129,9 +130,9 @@ void MainWindow::refreshGroups()
 
 void MainWindow::refreshStatus()
 {
-    m_count->setText(tr("%1 of %n contact(s)", nullptr,
-                        static_cast<int>(m_session->roster().contacts().size()))
-                             .arg(m_contacts->shownCount()));
+    m_count->setText(tr("%1 of %2 contacts")
+                             .arg(m_contacts->shownCount())
+                             .arg(m_session->roster().contacts().size()));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -75,7 +75,7 @@ void OwnPanel::createRemark()
     m_remark->setMaxLength(kLongestRemark);
     m_remark->setAccessibleName(tr("Your remark"));
     m_remark->setStatusTip(tr("What you are up to, for others to read"));
-    m_remark->setMinimumWidth(60);
+    m_remark->setMinimumSize(60, m_presence->sizeHint().height());
     m_remark->setNoFocusMessage(tr("What are you up to?"));
     connect(m_remark, &QLineEdit::editingFinished, this, &OwnPanel::setRemark);
 }
@@ -86,11 +86,12 @@ void OwnPanel::refresh()
     m_card->setAlias(account.name);
     m_card->setOmbrinId(account.id);
     m_card->setStatus(account.status);
-    m_card->setAvatar(QPixmap::fromImage(m_session->ownPicture()), true);
+    m_card->setAvatar(QPixmap::fromImage(m_session->ownPicture()), false);
     const int index = m_presence->findData(static_cast<int>(account.status));
     m_presence->setCurrentIndex(qMax(0, index));
     if (!m_remark->hasFocus() && m_remark->text() != account.remark) {
         m_remark->setText(account.remark);
+        m_remark->setCursorPosition(0); // the beginning is what is read
         m_remark->updateFocusMessage();
     }
 }

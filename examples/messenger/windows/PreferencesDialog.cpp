@@ -106,13 +106,14 @@ QWidget *PreferencesDialog::createMessagesPage()
 
 void PreferencesDialog::fillDictionaries(const QString &chosen)
 {
+    const QString current = chosen.isEmpty() ? ombrin::OmSpelling::instance()->dict() : chosen;
     QStringList choices = ombrin::OmSpelling::instance()->availDicts();
     const QStringList two = {QStringLiteral("en_US"), QStringLiteral("de_DE")};
     if (choices.contains(two.first()) && choices.contains(two.last()))
         choices.prepend(two.join(QLatin1Char(',')));
     for (const QString &codes : std::as_const(choices))
         m_dictionaries->addItem(dictionaryNames(codes), codes);
-    m_dictionaries->setCurrentIndex(qMax(0, m_dictionaries->findData(chosen)));
+    m_dictionaries->setCurrentIndex(qMax(0, m_dictionaries->findData(current)));
 }
 
 Preferences PreferencesDialog::preferences() const

@@ -10,6 +10,7 @@ target_link_libraries(ombrin_gui
     Qt${OMBRIN_QT}::Gui
     Qt${OMBRIN_QT}::Widgets
     $<$<EQUAL:${OMBRIN_QT},6>:Qt6::Core5Compat>)
+ombrin_precompile(ombrin_gui <QtWidgets/QtWidgets>)
 
 foreach(folder IN ITEMS platform skin widgets effects screen windows dialogs contacts text views)
   add_subdirectory(${folder})

@@ -1,0 +1,2 @@
+// Only there to have its headers compiled; see CMakeLists.txt.
+int main() {}

@@ -89,6 +89,233 @@
     </message>
 </context>
 <context>
+    <name>ombrin::DesignerPlugin</name>
+    <message>
+        <source>A thumbnail of a user&apos;s picture</source>
+        <translation>Das Bild eines Benutzers in klein</translation>
+    </message>
+    <message>
+        <source>Shows a user&apos;s picture as a thumbnail in a frame, or a placeholder while there is none. A thumbnail with a picture acts as a link.</source>
+        <translation>Zeigt das Bild eines Benutzers verkleinert in einem Rahmen, oder einen Platzhalter, solange es keines gibt. Mit einem Bild verhält es sich wie ein Link.</translation>
+    </message>
+    <message>
+        <source>Coloured check boxes in a box that folds</source>
+        <translation>Farbige Ankreuzfelder in einem Kasten, der sich zuklappen lässt</translation>
+    </message>
+    <message>
+        <source>Shows coloured check boxes below a title bar, in which they can be folded away. The program fills it; the check boxes seen in the form are an example.</source>
+        <translation>Zeigt farbige Ankreuzfelder unter einer Titelleiste, in die sie sich zuklappen lassen. Das Programm füllt den Kasten; die Ankreuzfelder im Formular sind ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>A contact: picture, alias and presence</source>
+        <translation>Ein Kontakt: Bild, Name und Status</translation>
+    </message>
+    <message>
+        <source>Shows a contact with picture, alias and presence. The client application, a number, decides which actions a big card and the context menu offer.</source>
+        <translation>Zeigt einen Kontakt mit Bild, Name und Status. Die Nummer des Programms, mit dem er erreichbar ist, entscheidet, welche Aktionen eine große Karte und das Kontextmenü anbieten.</translation>
+    </message>
+    <message>
+        <source>A scrolling list of contact cards</source>
+        <translation>Eine Liste von Kontaktkarten mit Bildlauf</translation>
+    </message>
+    <message>
+        <source>Shows contact cards one above the other. A click makes a card big and all others small. The program fills it; the cards seen in the form are an example.</source>
+        <translation>Zeigt Kontaktkarten untereinander. Ein Klick macht eine Karte groß und alle anderen klein. Das Programm füllt die Liste; die Karten im Formular sind ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>A dialog with a skinned border and title</source>
+        <translation>Ein Dialog mit gestaltetem Rand und Titel</translation>
+    </message>
+    <message>
+        <source>A frameless dialog with a border, title and buttons from the skin. As the top level of a form it becomes a window-modal dialog.</source>
+        <translation>Ein Dialog, dessen Rand, Titel und Knöpfe aus der Oberflächengestaltung kommen. Als oberste Ebene eines Formulars wird daraus ein Dialog, der sein Fenster sperrt.</translation>
+    </message>
+    <message>
+        <source>A combo box for choosing among icons</source>
+        <translation>Ein Auswahlfeld für Symbole</translation>
+    </message>
+    <message>
+        <source>Shows its items as a grid of icons. Give each item an icon; a text is shown in the closed box only.</source>
+        <translation>Zeigt seine Einträge als Raster von Symbolen. Jeder Eintrag braucht ein Symbol; sein Text erscheint nur im geschlossenen Feld.</translation>
+    </message>
+    <message>
+        <source>A button that is nothing but a picture</source>
+        <translation>Ein Knopf, der nur aus einem Bild besteht</translation>
+    </message>
+    <message>
+        <source>Draws one of eight pictures and nothing else: for each state one of the normal and one of the selected set. It has no size of its own.</source>
+        <translation>Zeichnet eines von acht Bildern und sonst nichts: für jeden Zustand eines aus dem normalen und eines aus dem gewählten Satz. Er hat keine eigene Größe.</translation>
+    </message>
+    <message>
+        <source>A button in the shape of its picture</source>
+        <translation>Ein Knopf in der Form seines Bildes</translation>
+    </message>
+    <message>
+        <source>Shows a picture for each of its states and has its shape: what is fully transparent does not belong to the button.</source>
+        <translation>Zeigt für jeden seiner Zustände ein Bild und hat dessen Form: Was ganz durchsichtig ist, gehört nicht zum Knopf.</translation>
+    </message>
+    <message>
+        <source>A widget in the shape of its picture</source>
+        <translation>Ein Bild, das für sich steht</translation>
+    </message>
+    <message>
+        <source>Shows a picture and has its shape: what is fully transparent does not belong to the widget.</source>
+        <translation>Zeigt ein Bild und hat dessen Form: Was ganz durchsichtig ist, gehört nicht dazu.</translation>
+    </message>
+    <message>
+        <source>An icon that tells more under the mouse</source>
+        <translation>Ein Symbol, das unter der Maus mehr erzählt</translation>
+    </message>
+    <message>
+        <source>Fades in a yellow pop-up with a message, and if wanted a box with a notice, while the mouse is over the icon.</source>
+        <translation>Blendet, solange die Maus über dem Symbol steht, ein gelbes Fenster mit einer Nachricht und auf Wunsch einem Notizfeld ein.</translation>
+    </message>
+    <message>
+        <source>A label that shortens its text, or acts as a link</source>
+        <translation>Ein Textfeld, das seinen Text kürzt oder sich wie ein Link verhält</translation>
+    </message>
+    <message>
+        <source>A label that can shorten its text to the width it has, and can act as a link that is clicked.</source>
+        <translation>Ein Textfeld, das seinen Text auf die vorhandene Breite kürzen und sich anklicken lassen kann wie ein Link.</translation>
+    </message>
+    <message>
+        <source>A line edit with a hint</source>
+        <translation>Ein Eingabefeld mit einem Hinweis</translation>
+    </message>
+    <message>
+        <source>A line edit that says what belongs into it while it is empty and has no focus.</source>
+        <translation>Ein Eingabefeld, das sagt, was hineingehört, solange es leer ist und keinen Eingabefokus hat.</translation>
+    </message>
+    <message>
+        <source>A button that looks like a link</source>
+        <translation>Ein Knopf, der wie ein Link aussieht</translation>
+    </message>
+    <message>
+        <source>A button with an underlined text. With an arrow, which a checkable one has, it suits for folding something out.</source>
+        <translation>Ein Knopf mit unterstrichenem Text. Mit dem Pfeil, den er zeigt, wenn er ankreuzbar ist, eignet er sich zum Aufklappen.</translation>
+    </message>
+    <message>
+        <source>An entry of a menu made of widgets</source>
+        <translation>Ein Eintrag eines Menüs aus Bedienelementen</translation>
+    </message>
+    <message>
+        <source>A row with an icon and a text that darkens under the mouse. The icon is the path of a picture in the skin or in the program&apos;s resources.</source>
+        <translation>Eine Zeile mit Symbol und Text, die unter der Maus dunkler wird. Das Symbol ist der Pfad eines Bildes in der Oberflächengestaltung oder in den Ressourcen des Programms.</translation>
+    </message>
+    <message>
+        <source>A push button whose tool tip is a balloon</source>
+        <translation>Ein Knopf, dessen Hinweis eine Sprechblase ist</translation>
+    </message>
+    <message>
+        <source>A push button that shows its tool tip in a balloon at its bottom edge.</source>
+        <translation>Ein Knopf, der seinen Hinweis in einer Sprechblase an seinem unteren Rand zeigt.</translation>
+    </message>
+    <message>
+        <source>A rating of five stars</source>
+        <translation>Eine Bewertung mit fünf Sternen</translation>
+    </message>
+    <message>
+        <source>Shows a rating in half stars, from 0 to 10, and lets the user give one with the mouse.</source>
+        <translation>Zeigt eine Bewertung in halben Sternen, von 0 bis 10, und lässt den Benutzer mit der Maus eine abgeben.</translation>
+    </message>
+    <message>
+        <source>Texts and links on stripes</source>
+        <translation>Texte und Links auf Streifen</translation>
+    </message>
+    <message>
+        <source>Shows short texts and links in striped lines, hung on guides called poles. The program fills it; the lines seen in the form are an example.</source>
+        <translation>Zeigt kurze Texte und Links in gestreiften Zeilen, aufgehängt an senkrechten Hilfslinien. Das Programm füllt die Ansicht; die Zeilen im Formular sind ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>A line edit for search words</source>
+        <translation>Ein Eingabefeld für Suchwörter</translation>
+    </message>
+    <message>
+        <source>A line edit with a magnifier, a hint while it is empty, and an icon that erases the text.</source>
+        <translation>Ein Eingabefeld mit einer Lupe, einem Hinweis, solange es leer ist, und einem Symbol, das den Text löscht.</translation>
+    </message>
+    <message>
+        <source>A list that chooses what is shown beside it</source>
+        <translation>Eine Liste, die auswählt, was neben ihr erscheint</translation>
+    </message>
+    <message>
+        <source>A list whose selected entry looks like a tab that opens to the right. Put it to the left of what it chooses.</source>
+        <translation>Eine Liste, deren gewählter Eintrag wie eine Lasche aussieht, die sich nach rechts öffnet. Sie gehört links neben das, was sie auswählt.</translation>
+    </message>
+    <message>
+        <source>A status bar on a gradient</source>
+        <translation>Eine Statusleiste auf einem Farbverlauf</translation>
+    </message>
+    <message>
+        <source>A status bar on a grey gradient. Skinned windows make one for themselves when they are asked for it.</source>
+        <translation>Eine Statusleiste auf einem grauen Farbverlauf. Gestaltete Fenster legen sich selbst eine an, wenn man sie danach fragt.</translation>
+    </message>
+    <message>
+        <source>Tabs that exchange places by drag and drop</source>
+        <translation>Tabs, die durch Ziehen die Plätze tauschen</translation>
+    </message>
+    <message>
+        <source>A tab bar whose tabs can be dragged onto each other and whose captions can be hidden. The program adds the tabs; those seen in the form are an example.</source>
+        <translation>Eine Leiste, deren Tabs sich aufeinander ziehen und deren Beschriftungen sich verbergen lassen. Das Programm fügt die Tabs hinzu; die im Formular sind ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>Pages whose tabs can be dragged and closed</source>
+        <translation>Seiten, deren Tabs sich ziehen und schließen lassen</translation>
+    </message>
+    <message>
+        <source>A tab widget whose tabs can be dragged onto each other, with a button that closes the current page.</source>
+        <translation>Seiten mit Tabs, die sich aufeinander ziehen lassen, und mit einem Knopf, der die aktuelle Seite schließt.</translation>
+    </message>
+    <message>
+        <source>The history of a chat</source>
+        <translation>Der Verlauf eines Chats</translation>
+    </message>
+    <message>
+        <source>Shows a conversation, safely where strangers wrote it. Copying can be forbidden, and saving of pictures allowed.</source>
+        <translation>Zeigt ein Gespräch, auch wenn Fremde es geschrieben haben, ohne Gefahr. Das Kopieren lässt sich verbieten, das Speichern von Bildern erlauben.</translation>
+    </message>
+    <message>
+        <source>The input of a chat</source>
+        <translation>Die Eingabe eines Chats</translation>
+    </message>
+    <message>
+        <source>A text edit that reports Return, pastes plain text, limits what is typed and checks the spelling.</source>
+        <translation>Ein Textfeld, das die Eingabetaste meldet, nur reinen Text einfügt, die Länge begrenzt und die Rechtschreibung prüft.</translation>
+    </message>
+    <message>
+        <source>A tool bar that shows texts where they fit</source>
+        <translation>Eine Werkzeugleiste, die Texte zeigt, wo sie Platz haben</translation>
+    </message>
+    <message>
+        <source>A tool bar whose buttons show texts beside their icons where there is room. The program names the buttons for which this holds.</source>
+        <translation>Eine Werkzeugleiste, deren Knöpfe neben den Symbolen auch Texte zeigen, wenn Platz ist. Das Programm nennt die Knöpfe, für die das gilt.</translation>
+    </message>
+    <message>
+        <source>A tool button whose tool tip is a balloon</source>
+        <translation>Ein Werkzeugknopf, dessen Hinweis eine Sprechblase ist</translation>
+    </message>
+    <message>
+        <source>A tool button that shows its tool tip in a balloon at its bottom edge.</source>
+        <translation>Ein Werkzeugknopf, der seinen Hinweis in einer Sprechblase an seinem unteren Rand zeigt.</translation>
+    </message>
+    <message>
+        <source>A plain frame near the tray</source>
+        <translation>Ein einfacher Rahmen beim Infobereich</translation>
+    </message>
+    <message>
+        <source>A frame to be filled and shown near the tray. It is a class of its own, which style sheets can name.</source>
+        <translation>Ein Rahmen, der gefüllt und beim Infobereich gezeigt wird. Er ist eine eigene Klasse, die Style-Sheets nennen können.</translation>
+    </message>
+    <message>
+        <source>A window with a skinned border and title</source>
+        <translation>Ein Fenster mit gestaltetem Rand und Titel</translation>
+    </message>
+    <message>
+        <source>A frameless window with a border, title and buttons from the skin, to be used as the top level of a form.</source>
+        <translation>Ein Fenster, dessen Rand, Titel und Knöpfe aus der Oberflächengestaltung kommen; gedacht als oberste Ebene eines Formulars.</translation>
+    </message>
+</context>
+<context>
     <name>ombrin::OmBalloonTip</name>
     <message>
         <source>Close</source>
@@ -137,7 +364,7 @@
     </message>
     <message>
         <source>Chat with contact</source>
-        <translation>Chattet mit dem Kontakt</translation>
+        <translation>Startet einen Chat mit dem Kontakt</translation>
     </message>
     <message>
         <source>Call Contact</source>
@@ -351,7 +578,7 @@
     </message>
     <message>
         <source>Save Push Message as...</source>
-        <translation>Push-Nachricht speichern unter...</translation>
+        <translation>Push-Nachricht speichern unter ...</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -371,15 +598,15 @@
     </message>
     <message>
         <source>Save Image as...</source>
-        <translation>Bild speichern unter...</translation>
+        <translation>Bild speichern unter ...</translation>
     </message>
     <message>
         <source>Save Smiley as...</source>
-        <translation>Smiley speichern unter...</translation>
+        <translation>Smiley speichern unter ...</translation>
     </message>
     <message>
         <source>Joint Photographic Experts Group</source>
-        <translation>Joint Photographic Experts Group</translation>
+        <translation>JPEG-Bild</translation>
     </message>
 </context>
 <context>

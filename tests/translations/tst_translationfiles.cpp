@@ -1,0 +1,210 @@
+#include "support/TestCase.h"
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QMap>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QXmlStreamReader>
+
+namespace {
+
+struct Message
+{
+    QString translation;
+    bool isFinished = true;
+};
+
+/// By context, text and the comment that tells apart what reads the same.
+using Messages = QMap<QStringList, Message>;
+
+Messages readFile(const QString &name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        return Messages();
+    Messages found;
+    QStringList key({QString(), QString(), QString()});
+    Message message;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        const auto token = xml.readNext();
+        if (token == QXmlStreamReader::EndElement && xml.name() == QLatin1String("message")) {
+            found.insert(key, message);
+            key[2].clear();
+            message = Message();
+        }
+        if (token != QXmlStreamReader::StartElement)
+            continue;
+        const QString element = xml.name().toString();
+        if (element == QLatin1String("name")) {
+            key[0] = xml.readElementText();
+        } else if (element == QLatin1String("source")) {
+            key[1] = xml.readElementText();
+        } else if (element == QLatin1String("comment")) {
+            key[2] = xml.readElementText();
+        } else if (element == QLatin1String("translation")) {
+            message.isFinished = xml.attributes().value(QLatin1String("type")).isEmpty();
+            message.translation = xml.readElementText();
+        }
+    }
+    return xml.hasError() ? Messages() : found;
+}
+
+/// All files but the template.
+QStringList languageFiles()
+{
+    QStringList found;
+    QDirIterator files(QStringLiteral(OMBRIN_TRANSLATIONS), {QStringLiteral("ombringui_*.ts")});
+    while (files.hasNext())
+        found.append(files.next());
+    found.removeAll(QStringLiteral(OMBRIN_TRANSLATIONS "/ombringui_template.ts"));
+    return found;
+}
+
+QStringList listed(const char *items)
+{
+    return QString::fromUtf8(items).split(QLatin1Char('|'));
+}
+
+/// What must be the same in a text and its translation.
+QString shapeOf(QString text)
+{
+    text.remove(QStringLiteral("&&"));
+    QStringList places;
+    const QRegularExpression place(QStringLiteral("%(\\d+|n|L\\d+)"));
+    for (auto found = place.globalMatch(text); found.hasNext();)
+        places.append(found.next().captured());
+    places.sort();
+    const QString end = text.trimmed().right(1);
+    const bool isClosed = QStringLiteral(".:!?<>").contains(end);
+    return QStringLiteral("%1 mnemonics, places %2, ends in \"%3\", %4")
+            .arg(text.count(QLatin1Char('&')))
+            .arg(places.join(QLatin1Char(' ')),
+                 text.endsWith(QLatin1String("...")) ? QStringLiteral("...")
+                 : isClosed                          ? end
+                                                     : QString(),
+                 text == text.trimmed() ? QStringLiteral("no blanks") : QStringLiteral("blanks"));
+}
+
+/// The code of \a source from \a begin, which follows an opening parenthesis, to the closing one.
+QString argumentsFrom(const QString &source, int begin)
+{
+    int depth = 1;
+    bool isText = false;
+    for (int at = begin; at < source.size(); ++at) {
+        const QChar character = source.at(at);
+        if (character == QLatin1Char('\\'))
+            ++at;
+        else if (character == QLatin1Char('"'))
+            isText = !isText;
+        else if (!isText && character == QLatin1Char('('))
+            ++depth;
+        else if (!isText && character == QLatin1Char(')') && --depth == 0)
+            return source.mid(begin, at - begin);
+    }
+    return QString();
+}
+
+} // namespace
+
+class tst_TranslationFiles : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void filesHoldTheTextsOfTheSources();
+    void everyTextIsTranslated();
+    void noTextEscapesTranslation();
+};
+
+void tst_TranslationFiles::filesHoldTheTextsOfTheSources()
+{
+    QTemporaryDir folder;
+    const QString extracted = folder.filePath(QStringLiteral("texts.ts"));
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(OMBRIN_LUPDATE), listed(OMBRIN_EXTRACTION)
+                                                          << QStringLiteral("-ts") << extracted);
+    QVERIFY(lupdate.waitForFinished(120000));
+    QCOMPARE(lupdate.exitCode(), 0);
+    const QList<QStringList> expected = readFile(extracted).keys();
+    QVERIFY(expected.size() > 100);
+
+    const Messages empty = readFile(QStringLiteral(OMBRIN_TRANSLATIONS "/ombringui_template.ts"));
+    QCOMPARE(empty.keys(), expected);
+    for (const Message &message : empty)
+        QVERIFY(message.translation.isEmpty() && !message.isFinished);
+
+    const QStringList files = languageFiles();
+    QVERIFY(!files.isEmpty());
+    for (const QString &file : files) {
+        const QList<QStringList> found = readFile(file).keys();
+        for (const QStringList &text : expected)
+            QVERIFY2(found.contains(text), qPrintable(file + text.join(QStringLiteral(" | "))));
+        for (const QStringList &text : found)
+            QVERIFY2(expected.contains(text), qPrintable(file + text.join(QStringLiteral(" | "))));
+    }
+}
+
+void tst_TranslationFiles::everyTextIsTranslated()
+{
+    const QStringList files = languageFiles();
+    for (const QString &file : files) {
+        const Messages messages = readFile(file);
+        for (auto message = messages.begin(); message != messages.end(); ++message) {
+            const QByteArray where = (file + message.key().join(QStringLiteral(" | "))).toUtf8();
+            QVERIFY2(message->isFinished && !message->translation.isEmpty(), where);
+            QVERIFY2(shapeOf(message->translation) == shapeOf(message.key().at(1)), where);
+        }
+    }
+}
+
+/// Looks for calls that show texts to the user and have letters in a literal that no function for
+/// translation surrounds.
+void tst_TranslationFiles::noTextEscapesTranslation()
+{
+    const QRegularExpression showing(QStringLiteral(
+            "\\b(setText|setToolTip|setWindowTitle|setWindowTitleOnly|setTitle|setStatusTip|"
+            "setWhatsThis|setPlaceholderText|setAccessibleName|setAccessibleDescription|"
+            "setDefaultText|setNoFocusMessage|setPopupMessage|setNotice|setCaption|setLabelText|"
+            "setInformativeText|setItemText|setTabText|setTabToolTip|setHtml|setPlainText|"
+            "addAction|addMenu|addSection|addTab|addItem|addItems|insertItem|showMessage|QAction|"
+            "QLabel|QMenu|QPushButton|QToolButton|QCheckBox|getSaveFileName|getOpenFileName|"
+            "information|question|warning|critical)\\s*\\("));
+    const QRegularExpression translating(
+            QStringLiteral("\\b(tr|translate|translated|QT_TRANSLATE_NOOP)\\s*\\("));
+    const QRegularExpression literal(QStringLiteral("\"(?:[^\"\\\\]|\\\\.)*[A-Za-z]{2}[^\"]*\""));
+    int calls = 0;
+    const QStringList folders = listed(OMBRIN_FOLDERS);
+    for (const QString &folder : folders) {
+        QDirIterator sources(folder, {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                             QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            const QString name = sources.next();
+            // Examples on a form that is being designed, as a form's own texts are.
+            if (name.endsWith(QLatin1String("/SampleContents.cpp")))
+                continue;
+            QFile file(name);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QString source = QString::fromUtf8(file.readAll());
+            source.remove(QRegularExpression(QStringLiteral("//[^\\n]*")));
+            for (auto found = showing.globalMatch(source); found.hasNext(); ++calls) {
+                QString shown = argumentsFrom(source, found.next().capturedEnd());
+                for (auto call = translating.match(shown); call.hasMatch();
+                     call = translating.match(shown)) {
+                    const QString inside = argumentsFrom(shown, call.capturedEnd());
+                    shown.remove(call.capturedStart(),
+                                 call.capturedEnd() - call.capturedStart() + inside.size());
+                }
+                // Paths of pictures are no texts.
+                shown.remove(QRegularExpression(QStringLiteral("\":/[^\"]*\"")));
+                // The help button of a wizard is never shown.
+                shown.remove(QStringLiteral("\"hilfe ich seh nix\""));
+                QVERIFY2(!literal.match(shown).hasMatch(), qPrintable(name + shown));
+            }
+        }
+    }
+    QVERIFY(calls > 50);
+}
+
+OMBRIN_TEST_MAIN(tst_TranslationFiles)
+#include "tst_translationfiles.moc"

@@ -1,0 +1,184 @@
+#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
+
+#include <ombrin/OmCheckBoxAssortmentView.h>
+#include <ombrin/OmContactCard.h>
+#include <ombrin/OmInputDialog.h>
+#include <ombrin/OmMessageBox.h>
+#include <ombrin/OmTabWidget.h>
+#include <ombrin/OmTranslation.h>
+#include <ombrin/OmWindow.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolButton>
+
+using ombrin::OmTranslation;
+
+namespace {
+
+QString yesInThisLanguage()
+{
+    return ombrin::OmMessageBox::tr("&Yes");
+}
+
+/// A host's own translation of Qt's texts.
+class HostTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const bool isOurs =
+                qstrcmp(context, "QWidgetTextControl") == 0 && qstrcmp(source, "&Copy") == 0;
+        return isOurs ? QStringLiteral("host") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+/// Whether a German user reads German, and everybody else the language that was chosen.
+class tst_Translations : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void setUp() override { QVERIFY(OmTranslation::load(QLocale(QLocale::English))); }
+    void tearDown() override { OmTranslation::load(QLocale(QLocale::English)); }
+
+    void dialogsSpeakGerman_data();
+    void dialogsSpeakGerman();
+    void languageFollowsTheLocale_data();
+    void languageFollowsTheLocale();
+    void languagesAreListed();
+    void unusableFileChangesNothing();
+    void openWidgetsChangeTheirLanguage();
+    void hostKeepsItsOwnTranslationOfQt();
+};
+
+void tst_Translations::dialogsSpeakGerman_data()
+{
+    QTest::addColumn<QStringList>("contexts");
+    QTest::addColumn<QString>("comment");
+    QTest::addColumn<QString>("german");
+    const auto row = [](const char *text, const char *contexts, const char *german,
+                        const char *comment = "") {
+        QTest::newRow(text) << ombrin::test::words(contexts) << QString::fromUtf8(comment)
+                            << QString::fromUtf8(german);
+    };
+    constexpr const char *kWizards = "COmWizard_Standard OmWizard_Standard2";
+    row("Assistant", kWizards, "Assistent",
+        "windowtitle of a wizard who hasn't get one by the mission");
+    row("< &Previous", kWizards, "< &Zurück", "previous-button in standard-wizard");
+    row("Question", "COmWizard_Mission_Base", "Frage",
+        "title of question-dialog for standard-wizard");
+    row("&Yes", "ombrin::OmMessageBox", "&Ja");
+    row("&Cancel", "ombrin::OmInputDialog", "&Abbrechen");
+    row("Choose a Date", "ombrin::OmCalendar", "Datum auswählen");
+}
+
+void tst_Translations::dialogsSpeakGerman()
+{
+    QFETCH(QStringList, contexts);
+    QFETCH(QString, comment);
+    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+    for (const QString &context : std::as_const(contexts))
+        QTEST(QCoreApplication::translate(qPrintable(context), QTest::currentDataTag(),
+                                          qPrintable(comment)),
+              "german");
+}
+
+void tst_Translations::languageFollowsTheLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<bool>("known");
+    QTest::addColumn<QString>("fromGerman");
+    const QString german = QStringLiteral("&Ja");
+    const QString english = QStringLiteral("&Yes");
+    QTest::newRow("German") << QStringLiteral("de") << true << german;
+    QTest::newRow("a variant of German") << QStringLiteral("de_AT") << true << german;
+    QTest::newRow("English") << QStringLiteral("en_GB") << true << english;
+    QTest::newRow("no language") << QStringLiteral("C") << true << english;
+    QTest::newRow("a language without a file") << QStringLiteral("sw_KE") << false << german;
+}
+
+void tst_Translations::languageFollowsTheLocale()
+{
+    QFETCH(QString, locale);
+    QFETCH(bool, known);
+    // Twice, so that one of the two would be left if the second did not replace the first.
+    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+    QCOMPARE(OmTranslation::load(QLocale(locale)), known);
+    QTEST(yesInThisLanguage(), "fromGerman");
+}
+
+void tst_Translations::languagesAreListed()
+{
+    const QStringList languages = OmTranslation::languages();
+    QVERIFY(languages.contains(QStringLiteral("de")));
+    QVERIFY(languages.contains(QStringLiteral("en")));
+}
+
+void tst_Translations::unusableFileChangesNothing()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                      + QStringLiteral("/ombrin/translations"));
+    QVERIFY(folder.mkpath(QStringLiteral(".")));
+    QFile file(folder.filePath(QStringLiteral("ombringui_sw.qm")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no translation") > 0);
+    file.close();
+    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+    QVERIFY(!OmTranslation::load(QLocale(QLocale::Swahili)));
+    QCOMPARE(yesInThisLanguage(), QStringLiteral("&Ja"));
+    QVERIFY(file.remove());
+}
+
+void tst_Translations::openWidgetsChangeTheirLanguage()
+{
+    using namespace ombrin;
+    OmWindow window;
+    auto *const content = new QWidget;
+    window.setWidget(content);
+    auto *const tabs = new OmTabWidget(content);
+    tabs->enableCloseTabButton(true);
+    auto *const card = new OmContactCard(content);
+    card->setStatus(Om::Away);
+    auto *const checkBoxes = new OmCheckBoxAssortmentView(content);
+    checkBoxes->setIsRetracted(true);
+
+    const auto names = [&window] {
+        QStringList found;
+        const auto widgets = window.findChildren<QWidget *>();
+        for (QWidget *const widget : widgets)
+            found.append(widget->accessibleName());
+        return found;
+    };
+    const auto speaks = [&](const char *texts) {
+        const QStringList expected = QString::fromUtf8(texts).split(QLatin1Char('|'));
+        const QStringList found = names() << card->statusName();
+        return std::all_of(expected.begin(), expected.end(),
+                           [&found](const QString &text) { return found.contains(text); });
+    };
+    const char *const english = "Minimize|Close|Close tab|Add|Unfold|Away";
+    const char *const german = "Minimieren|Schließen|Tab schließen|Hinzufügen|Aufklappen|Abwesend";
+    QVERIFY(speaks(english));
+    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+    QTRY_VERIFY_WITH_TIMEOUT(speaks(german), 10000);
+    QVERIFY(OmTranslation::load(QLocale(QLocale::English)));
+    QTRY_VERIFY_WITH_TIMEOUT(speaks(english), 10000);
+}
+
+void tst_Translations::hostKeepsItsOwnTranslationOfQt()
+{
+    HostTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+    QCOMPARE(QCoreApplication::translate("QWidgetTextControl", "&Copy"), QStringLiteral("host"));
+    QCOMPARE(yesInThisLanguage(), QStringLiteral("&Ja"));
+}
+
+OMBRIN_TEST_MAIN(tst_Translations)
+#include "tst_translations.moc"

@@ -49,6 +49,13 @@ QPalette SkinnedStyle::standardPalette() const
     return m_palette;
 }
 
+// Qt asks for the palette that fills in what the program leaves open. It has taken the desktop's
+// before the standard palette.
+void SkinnedStyle::polish(QPalette &palette)
+{
+    palette = m_palette;
+}
+
 void SkinnedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const
 {

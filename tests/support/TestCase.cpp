@@ -36,7 +36,10 @@ bool isOfPlatform(const QString &message)
 
 void recordWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if ((type == QtWarningMsg || type == QtCriticalMsg) && !isOfPlatform(message)) {
+    // Not even printed, since Qt Test gives up on a test after 2000 of them.
+    if (isOfPlatform(message))
+        return;
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
         const QMutexLocker locker(&g_warningsMutex);
         g_warnings.append(message);
     }

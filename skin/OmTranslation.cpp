@@ -43,9 +43,8 @@ QStringList fileNamesOf(QString language)
 {
     language.replace(QLatin1Char('-'), QLatin1Char('_'));
     QStringList names(language);
-    for (int end = language.lastIndexOf(QLatin1Char('_')); end > 0;
-         end = language.lastIndexOf(QLatin1Char('_'), end - 1))
-        names.append(language.left(end));
+    while (names.constLast().contains(QLatin1Char('_')))
+        names.append(names.constLast().section(QLatin1Char('_'), 0, -2));
     return names;
 }
 

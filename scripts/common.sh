@@ -17,11 +17,13 @@ packages_build=(
 packages_test=(
   xvfb openbox xdotool x11-utils x11-xserver-utils
   xserver-xorg-core xserver-xorg-video-dummy
-  dbus-daemon
+  dbus-daemon doxygen
   qttools5-dev qttools5-dev-tools # translations, the Designer plug-in and Designer itself
+  qt5-assistant speedcrunch # foreign programs for the style plug-in
 )
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-tools-dev qt6-l10n-tools)
 packages_clang=(clang)
+packages_fuzz=(clang libclang-rt-dev)
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb x11-utils xz-utils)
 packages_benchmark=(libbenchmark-dev hunspell-fr)
 
@@ -43,9 +45,9 @@ install_packages() {
     "${missing[@]}" >/dev/null
 }
 
-# build_preset PRESET: configures and builds one of the presets.
+# build_preset PRESET [BUILD-ARGUMENT...]: configures and builds one of the presets.
 build_preset() {
   say "Building ($1)"
   cmake --preset "$1" >/dev/null
-  cmake --build --preset "$1"
+  cmake --build --preset "$@"
 }

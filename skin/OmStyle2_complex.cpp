@@ -48,8 +48,25 @@ void OmStyle2::drawComplexControl(ComplexControl control, const QStyleOptionComp
         drawComboBox(option, painter, widget);
     else if (control == CC_ScrollBar)
         drawScrollBar(option, painter, widget);
+    else if (control == CC_TitleBar)
+        drawTitleBar(option, painter, widget);
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+// Plastique fills the title of an active window within a window with a dark blue of its own, but
+// writes on it in the palette's colour of selected text, which may be as dark.
+void OmStyle2::drawTitleBar(const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const
+{
+    const auto *bar = qstyleoption_cast<const QStyleOptionTitleBar *>(option);
+    if (!bar || !baseStyle() || !baseStyle()->inherits("QPlastiqueStyle")) {
+        QProxyStyle::drawComplexControl(CC_TitleBar, option, painter, widget);
+        return;
+    }
+    QStyleOptionTitleBar legible(*bar);
+    legible.palette.setColor(QPalette::HighlightedText, Qt::white);
+    QProxyStyle::drawComplexControl(CC_TitleBar, &legible, painter, widget);
 }
 
 void OmStyle2::drawComboBox(const QStyleOptionComplex *option, QPainter *painter,

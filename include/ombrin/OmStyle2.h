@@ -19,7 +19,8 @@ namespace ombrin {
 ///
 /// Colours come from the palette of what is drawn, except the fixed ones: frames are
 /// (189, 189, 189), of disabled line edits (203, 203, 203), under the mouse (255, 193, 48); check
-/// marks are \#21a121, disabled \#90d090. What is not mentioned here looks and measures as in the
+/// marks are \#21a121, disabled \#90d090; the title of an active window within a window is white on
+/// Plastique. What is not mentioned here looks and measures as in the
 /// style below.
 ///
 /// Three classes are known to the style by their names:
@@ -79,6 +80,8 @@ private:
     void drawScrollBar(const QStyleOptionComplex *option, QPainter *painter,
                        const QWidget *widget) const;
     void drawComboBox(const QStyleOptionComplex *option, QPainter *painter,
+                      const QWidget *widget) const;
+    void drawTitleBar(const QStyleOptionComplex *option, QPainter *painter,
                       const QWidget *widget) const;
 };
 

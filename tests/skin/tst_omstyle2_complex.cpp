@@ -348,6 +348,24 @@ private Q_SLOTS:
         QCOMPARE(rect(list, &plainBox), below);
     }
 
+    // Plastique's ground is dark whatever the palette; Fusion's is the palette's.
+    void titlesWithinAWindowAreLegible()
+    {
+        auto bar = makeOption<QStyleOptionTitleBar>(QRect(0, 0, 64, 24),
+                                                    QStyle::State_Enabled | QStyle::State_Active);
+        bar.text = QStringLiteral("Title");
+        bar.titleBarState = Qt::WindowActive;
+        bar.titleBarFlags = Qt::WindowTitleHint;
+        bar.subControls = QStyle::SC_TitleBarLabel;
+        QVector<QImage> pictures;
+        for (const Qt::GlobalColor text : {Qt::black, Qt::white}) {
+            bar.palette.setColor(QPalette::HighlightedText, text);
+            pictures.append(drawn(QStyle::CC_TitleBar, bar));
+        }
+        const bool isPlastique = m_style.baseStyle()->inherits("QPlastiqueStyle");
+        QCOMPARE(pictures.first() == pictures.last(), isPlastique);
+    }
+
     void missingPicturesLeaveTheirPlaces()
     {
         QVERIFY(QResource::unregisterResource(skinFile()));

@@ -2,27 +2,18 @@
 //
 //   host SKIN-FOLDER [PLUG-IN...]
 
+#include "expect.h"
+
 #include <ombrin/OmSkin.h>
+#include <ombrin/OmTranslation.h>
 #include <ombrin/OmVersion.h>
 #include <ombrin/OmWindow.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QPluginLoader>
-
-namespace {
-
-bool succeeded = true;
-
-void expect(bool condition, const char *what)
-{
-    if (!condition)
-        qWarning("not so: %s", what);
-    succeeded = succeeded && condition;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -48,10 +39,15 @@ int main(int argc, char *argv[])
     expect(QApplication::palette().color(QPalette::Link).isValid(), "the palette is the skin's");
     expect(!application.styleSheet().isEmpty(), "the style sheet is the skin's");
 
+    // Built where Qt's tools for translations are installed.
+    const QString german = arguments.value(1) + QStringLiteral("/../translations/ombringui_de.qm");
+    expect(!QFile::exists(german) || ombrin::OmTranslation::load(QLocale(QStringLiteral("de"))),
+           "the translations are those of the installation");
+
     for (const QString &plugin : arguments.mid(2)) {
         QPluginLoader loader(plugin);
         expect(loader.instance(),
                qPrintable(plugin + QStringLiteral(" loads: ") + loader.errorString()));
     }
-    return succeeded ? 0 : 1;
+    return succeeded() ? 0 : 1;
 }

@@ -17,6 +17,7 @@ add_executable(ombrin_docs_pictures EXCLUDE_FROM_ALL docs/pictures/main.cpp)
 target_link_libraries(ombrin_docs_pictures PRIVATE ombrin_gallery_parts)
 add_dependencies(ombrin_docs_pictures ombrin_skin)
 add_custom_command(OUTPUT "${OMBRIN_DOCS_PICTURES}/pictures.dox"
+  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${OMBRIN_DOCS_PICTURES}"
   COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 "QT_LOGGING_RULES=*=false"
     $<TARGET_FILE:ombrin_docs_pictures> "${OMBRIN_DOCS_PICTURES}"
   DEPENDS ombrin_docs_pictures

@@ -15,6 +15,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 #include <QtCore/QTextStream>
 #include <QtGui/QCursor>
 #include <QtWidgets/QApplication>
@@ -131,12 +132,15 @@ public:
     }
 
 private:
-    bool take(QWidget *window, const gallery::GalleryPage &page, QTextStream *text) const
+    bool take(QWidget *window, const gallery::GalleryPage &page, QTextStream *text)
     {
         QWidget *shown = window->findChild<QStackedWidget *>()->currentWidget();
         bool ok = save(window, picture(QStringLiteral("page-") + page.nameText()));
         const QStringList classes = classesOf(page);
         for (const QString &name : classes) {
+            if (m_taken.contains(name))
+                continue;
+            m_taken.insert(name);
             QWidget *subject = name == QLatin1String("OmWindow")
                                        ? window
                                        : frameOf(widgetOf(name, shown), shown);
@@ -154,6 +158,7 @@ private:
     }
 
     QDir m_folder;
+    QSet<QString> m_taken;
 };
 
 } // namespace

@@ -19,16 +19,16 @@ namespace ombrin {
 ///
 /// What comes back is a well-formed fragment of HTML, made anew from what is allowed:
 ///
-/// | Allowed | What becomes of everything else |
-/// |---|---|
-/// | \c a with a \c href of one of the schemes http, https, ftp, ftps, sftp, mailto, news, imap,
-/// sip, sips, tel, at most 2,000 characters long | links to elsewhere are plain text | | \c b, \c
-/// strong, \c i, \c em, \c u, \c s, \c sub, \c sup, \c small, \c big, \c tt, \c code and their like
-/// | other tags vanish, their text stays | | \c br, \c p, \c div, \c h1 to \c h6, \c blockquote, \c
-/// ul, \c ol, \c li, \c hr, \c center | tables become lines of text, pictures their \c alt text |
-/// | \c font and \c span with a colour, weight, slant or underline | other attributes and styles
-/// vanish | | text | scripts, style sheets, titles and comments vanish, and characters that are no
-/// text: controls, directional overrides, halves of pairs |
+/// - text; scripts, style sheets, titles and comments vanish, and characters that are no text:
+///   controls, directional overrides, halves of pairs;
+/// - \c a with a \c href of one of the schemes http, https, ftp, ftps, sftp, mailto, news, imap,
+///   sip, sips and tel, at most 2,000 characters long; links to elsewhere become plain text;
+/// - \c b, \c strong, \c i, \c em, \c u, \c s, \c sub, \c sup, \c small, \c big, \c tt, \c code and
+///   their like; other tags vanish, and their text stays;
+/// - \c br, \c p, \c div, \c h1 to \c h6, \c blockquote, \c ul, \c ol, \c li, \c hr and \c center;
+///   tables become lines of text, pictures their \c alt text;
+/// - \c font and \c span with a colour, weight, slant or underline; other attributes and styles
+///   vanish.
 ///
 /// Its costs are bounded too, so that showing it takes a time in proportion to its length: tags
 /// nested deeper than 16 vanish, as do those beyond some thousands in a message of up to 65,536

@@ -10,6 +10,7 @@
 
 #include <ombrin/OmSkin.h>
 
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QTextStream>
 #include <QtWidgets/QApplication>
 
@@ -98,6 +99,8 @@ int chat(const CommandLine &commandLine)
                       "written to."));
         return kExitFailure;
     }
+    // Contact cards write a line whenever they become big or small.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     QApplication::setQuitOnLastWindowClosed(false);
     Session session(*folder, loadBook());
     Client client(&session);

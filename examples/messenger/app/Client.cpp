@@ -231,11 +231,11 @@ void Client::deleteContact(const QString &contactId)
 {
     const QPointer<Client> guard(this);
     const QString alias = m_session->roster().contact(contactId).alias;
-    const int answer = OmMessageBox::question(
-            parentWindow(), tr("Delete Contact"),
-            asRichText(
-                    tr("Delete %1 from your contacts?\nWhat you have written to each other is kept.")
-                            .arg(alias)));
+    const int answer =
+            OmMessageBox::question(parentWindow(), tr("Delete Contact"),
+                                   asRichText(tr("Delete %1 from your contacts?\nWhat you have "
+                                                 "written to each other is kept.")
+                                                      .arg(alias)));
     if (!guard || answer != QDialog::Accepted)
         return;
     delete m_chats.take(contactId);

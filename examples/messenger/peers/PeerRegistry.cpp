@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QStandardPaths>
+#include <QtNetwork/QLocalServer>
 
 namespace messenger {
 
@@ -33,11 +34,7 @@ PeerRegistry::PeerRegistry(const QString &path, QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &PeerRegistry::look);
 }
 
-PeerRegistry::~PeerRegistry()
-{
-    if (m_isSignedIn)
-        QFile::remove(signFile(m_ownName));
-}
+PeerRegistry::~PeerRegistry() = default;
 
 QString PeerRegistry::defaultPath()
 {
@@ -47,9 +44,9 @@ QString PeerRegistry::defaultPath()
 
 void PeerRegistry::signIn()
 {
-    QFile file(signFile(m_ownName));
-    m_isSignedIn = file.open(QIODevice::WriteOnly);
-    file.close();
+    m_sign = std::make_unique<QLockFile>(signFile(m_ownName));
+    m_sign->setStaleLockTime(0);
+    m_sign->tryLock(0);
     m_watcher.addPath(m_path);
     m_timer.start(kLookMs);
     QMetaObject::invokeMethod(this, &PeerRegistry::look, Qt::QueuedConnection);
@@ -59,6 +56,17 @@ void PeerRegistry::remove(const QString &name)
 {
     if (isContactId(name) && name != m_ownName)
         QFile::remove(signFile(name));
+}
+
+// The lock of a process that is gone can be had, and is gone when it is let go.
+bool PeerRegistry::isAlive(const QString &name) const
+{
+    QLockFile sign(signFile(name));
+    sign.setStaleLockTime(0);
+    if (!sign.tryLock(0))
+        return true;
+    QLocalServer::removeServer(serverName(name));
+    return false;
 }
 
 QString PeerRegistry::serverName(const QString &name) const
@@ -81,7 +89,7 @@ void PeerRegistry::look()
     QStringList names;
     for (const QString &file : files) {
         const QString name = file.chopped(suffix().size());
-        if (isContactId(name) && name != m_ownName && names.size() < kMostCopies)
+        if (isContactId(name) && name != m_ownName && names.size() < kMostCopies && isAlive(name))
             names.append(name);
     }
     Q_EMIT changed(names);

@@ -1,14 +1,17 @@
 #pragma once
 
 #include <QtCore/QFileSystemWatcher>
+#include <QtCore/QLockFile>
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 #include <QtCore/QTimer>
 
+#include <memory>
+
 namespace messenger {
 
-/// The running copies of the messenger on this machine: each has a file named after it in a folder
-/// that they share.
+/// The running copies of the messenger on this machine: each has a lock file named after it in a
+/// folder that they share. What a copy that was killed leaves behind is cleared away by the others.
 class PeerRegistry : public QObject
 {
     Q_OBJECT
@@ -24,7 +27,7 @@ public:
 
     /// The name of this copy, which is made up anew each time.
     QString ownName() const { return m_ownName; }
-    /// Signs this copy in, and looks for others from now on.
+    /// Signs this copy in if nothing keeps it from it, and looks for others from now on.
     void signIn();
     /// Takes out \a name, whose copy does not answer.
     void remove(const QString &name);
@@ -37,13 +40,14 @@ Q_SIGNALS:
 
 private:
     QString signFile(const QString &name) const;
+    bool isAlive(const QString &name) const;
     void look();
 
     QString m_path;
     QString m_ownName;
     QFileSystemWatcher m_watcher;
     QTimer m_timer;
-    bool m_isSignedIn = false;
+    std::unique_ptr<QLockFile> m_sign;
 };
 
 } // namespace messenger

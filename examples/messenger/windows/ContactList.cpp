@@ -26,6 +26,11 @@ bool comesBefore(const Contact &left, const Contact &right)
 {
     if (left.answers != right.answers)
         return left.answers;
+    // Who can answer stands above those who cannot.
+    const bool isLeftHere = left.isPeer && left.status != Om::Offline;
+    const bool isRightHere = right.isPeer && right.status != Om::Offline;
+    if (isLeftHere != isRightHere)
+        return isLeftHere;
     const int leftPresence = ContactFilter::presenceOf(left);
     const int rightPresence = ContactFilter::presenceOf(right);
     if (leftPresence != rightPresence)
@@ -51,20 +56,43 @@ ContactList::ContactList(Session *session, QWidget *parent)
     : OmContactCardList(parent)
     , m_session(session)
 {
-    QVector<Contact> contacts = session->roster().contacts();
-    std::stable_sort(contacts.begin(), contacts.end(), comesBefore);
-    for (const Contact &contact : std::as_const(contacts))
+    for (const Contact &contact : sortedContacts())
         insertCard(contact);
     enableAddContact(true);
 
     const Roster *roster = &session->roster();
-    connect(roster, &Roster::added, this, &ContactList::insertCard);
+    connect(roster, &Roster::added, this, [this](const Contact &contact) {
+        insertCard(contact);
+        sortCards();
+    });
     connect(roster, &Roster::changed, this, &ContactList::refresh);
     connect(roster, &Roster::removedContact, this, &ContactList::removeContact);
     connect(session, &Session::typingChanged, this, &ContactList::setTyping);
 }
 
 ContactList::~ContactList() = default;
+
+QVector<Contact> ContactList::sortedContacts() const
+{
+    QVector<Contact> contacts = m_session->roster().contacts();
+    std::stable_sort(contacts.begin(), contacts.end(), comesBefore);
+    return contacts;
+}
+
+// The list only ever appends: cards change places by leaving it and coming back.
+void ContactList::sortCards()
+{
+    setUpdatesEnabled(false); // nobody needs to see them on their way
+    for (const Contact &contact : sortedContacts()) {
+        OmContactCard *card = cardOf(contact.id);
+        const bool wasBig = card->isBig();
+        card->setParent(nullptr);
+        addCard(card);
+        card->setBig(wasBig);
+        card->setHidden(!m_filter.accepts(contact));
+    }
+    setUpdatesEnabled(true);
+}
 
 void ContactList::insertCard(const Contact &contact)
 {
@@ -87,12 +115,16 @@ void ContactList::refresh(const Contact &contact)
     card->setAlias(unread > 0 ? tr("%1 (%2)", "name and number of unread messages")
                                         .arg(contact.alias, QString::number(unread))
                               : contact.alias);
+    const bool comesOrGoes =
+            contact.isPeer && (card->status() == Om::Offline) != (contact.status == Om::Offline);
     card->setStatus(contact.status);
     card->setGeneralApp(static_cast<Om::ClientApplication>(contact.application));
     card->setBlocked(contact.isBlocked);
     card->setToolTip(asRichText(contact.statusText));
     showPicture(card, contact);
     card->setHidden(!m_filter.accepts(contact));
+    if (comesOrGoes && card->parentWidget())
+        sortCards();
     Q_EMIT shownCountChanged();
 }
 

@@ -5,6 +5,7 @@
 #include <ombrin/OmContactCardList.h>
 
 #include <QtCore/QHash>
+#include <QtCore/QVector>
 
 namespace messenger {
 
@@ -37,6 +38,8 @@ Q_SIGNALS:
 
 private:
     void insertCard(const Contact &contact);
+    QVector<Contact> sortedContacts() const;
+    void sortCards();
     void refresh(const Contact &contact);
     void removeContact(const QString &contactId);
     static void showPicture(ombrin::OmContactCard *card, const Contact &contact);

@@ -7,12 +7,19 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QJsonArray>
+#include <QtCore/QRandomGenerator>
 
 namespace messenger {
 
 namespace {
 
 constexpr int kSettledMs = 300;
+constexpr int kLargestShift = 120;
+
+int randomShift()
+{
+    return QRandomGenerator::global()->bounded(-kLargestShift, kLargestShift);
+}
 
 QString stateKey()
 {
@@ -43,6 +50,8 @@ WindowMemory::WindowMemory(QWidget *window, const QString &name, const QSize &si
     } else {
         window->resize(size);
         ombrin::OmDesktop::setCentered(window);
+        // Windows of several copies should not hide each other.
+        window->move(window->pos() + QPoint(randomShift(), randomShift()));
     }
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &WindowMemory::save);

@@ -1,0 +1,391 @@
+// The messenger as its user has it: copies that chat, windows, and what is left after a kill.
+
+#include "support/TestCase.h"
+
+#include "app/Client.h"
+#include "model/ContactBook.h"
+#include "model/History.h"
+#include "model/ScriptedContact.h"
+#include "model/Session.h"
+#include "peers/PeerNetwork.h"
+#include "windows/ChatWindow.h"
+#include "windows/ContactList.h"
+#include "windows/MainWindow.h"
+
+#include <ombrin/COmWizard_Standard.h>
+#include <ombrin/OmContactCard.h>
+#include <ombrin/OmMessageBox.h>
+#include <ombrin/OmTextEdit.h>
+
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include <functional>
+
+using namespace messenger;
+
+namespace {
+
+constexpr int kPatienceMs = 30000;
+
+QString shippedBook()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/messenger/contacts.json");
+}
+
+/// A user of the messenger, with a folder that lasts longer than the session.
+class User
+{
+public:
+    explicit User(const QString &id)
+        : m_folder(std::make_unique<ProfileFolder>(m_temporary.path()))
+        , m_id(id)
+    {
+        start();
+        if (m_id.isEmpty())
+            return;
+        Account account = Account::create(m_id.toUpper(), QStringLiteral("example.org"));
+        account.id = m_id;
+        session().setAccount(account);
+    }
+
+    /// Ends the session, if there is one, and begins another.
+    void start()
+    {
+        m_session.reset();
+        m_session = std::make_unique<Session>(*m_folder, ContactBook::load(shippedBook()));
+    }
+    void leave() { m_session.reset(); }
+
+    Session &session() { return *m_session; }
+    Contact contact(const QString &id) { return session().roster().contact(id); }
+    QStringList heardFrom(const QString &id)
+    {
+        QStringList texts;
+        for (const Message &message : session().messages(id, 1000)) {
+            if (message.from == Message::From::Contact)
+                texts.append(message.text);
+        }
+        return texts;
+    }
+
+private:
+    QTemporaryDir m_temporary;
+    std::unique_ptr<ProfileFolder> m_folder;
+    QString m_id;
+    std::unique_ptr<Session> m_session;
+};
+
+/// Does something to each modal dialog that opens until it is destroyed.
+class DialogUser : public QObject
+{
+public:
+    explicit DialogUser(std::function<void(QWidget *)> use)
+        : m_use(std::move(use))
+    {
+        startTimer(20);
+    }
+
+protected:
+    void timerEvent(QTimerEvent *) override
+    {
+        if (QWidget *dialog = QApplication::activeModalWidget())
+            m_use(dialog);
+    }
+
+private:
+    std::function<void(QWidget *)> m_use;
+};
+
+void press(QWidget *dialog, const QString &text)
+{
+    for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+        if (button->isVisible() && button->isEnabled()
+            && button->text().remove(QLatin1Char('&')).startsWith(text)) {
+            // Not at once: what it opens is to be used by the same timer.
+            QMetaObject::invokeMethod(button, "click", Qt::QueuedConnection);
+            return;
+        }
+    }
+}
+
+/// Says one thing after the other for ever, and notes in a file what it has said.
+int talkUntilKilled(const QString &path)
+{
+    ProfileFolder folder(path);
+    Session session(folder, ContactBook::load(shippedBook()));
+    QFile log(path + QStringLiteral("/said"));
+    if (!log.open(QIODevice::WriteOnly))
+        return 1;
+    for (int number = 0;; ++number) {
+        session.sendText(QStringLiteral("anna"), QString::number(number));
+        session.roster().setRating(QStringLiteral("anna"), number % 11);
+        log.write(QByteArray::number(number) + '\n');
+        log.flush();
+    }
+}
+
+int lastSaid(const QString &path)
+{
+    QFile log(path + QStringLiteral("/said"));
+    if (!log.open(QIODevice::ReadOnly))
+        return -1;
+    const QList<QByteArray> lines = log.readAll().split('\n');
+    return lines.size() < 2 ? -1 : lines.at(lines.size() - 2).toInt();
+}
+
+} // namespace
+
+class tst_Messenger : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void copiesFindEachOtherAndChat()
+    {
+        const QTemporaryDir registry;
+        User ann(QStringLiteral("ann"));
+        User bob(QStringLiteral("bob"));
+        QImage face(40, 60, QImage::Format_RGB32);
+        face.fill(Qt::green);
+        ann.session().setOwnPicture(face);
+        ann.session().goOnline(registry.path());
+        bob.session().goOnline(registry.path());
+        const QString annForBob = QStringLiteral("peer-ann");
+        const QString bobForAnn = QStringLiteral("peer-bob");
+        QVERIFY(waitFor(
+                [&] {
+                    return bob.contact(annForBob).status == ombrin::Om::Online
+                           && ann.contact(bobForAnn).status == ombrin::Om::Online
+                           && !bob.contact(annForBob).picture.isEmpty();
+                },
+                kPatienceMs));
+        QCOMPARE(bob.contact(annForBob).alias, QStringLiteral("ANN"));
+        QCOMPARE(QImage(bob.contact(annForBob).picture).size(), QSize(40, 40));
+
+        QStringList happened;
+        connect(&bob.session(), &Session::typingChanged, this,
+                [&](const QString &id, bool on) { happened.append(id + (on ? u'+' : u'-')); });
+        connect(&bob.session(), &Session::nudged, this,
+                [&](const QString &id) { happened.append(id + u'!'); });
+        ann.session().setTyping(bobForAnn, true);
+        ann.session().sendText(bobForAnn, QStringLiteral("<b>Hello</b>"));
+        ann.session().sendPicture(bobForAnn, face);
+        ann.session().sendNudge(bobForAnn);
+        ann.session().sendNudge(bobForAnn); // once is enough
+        ann.session().sendText(bobForAnn, QStringLiteral("Bye"));
+        QVERIFY(waitFor([&] { return bob.heardFrom(annForBob).contains(QStringLiteral("Bye")); },
+                        kPatienceMs));
+        const QStringList heard = bob.heardFrom(annForBob);
+        QCOMPARE(heard.size(), 4);
+        QCOMPARE(heard.first(), QStringLiteral("<b>Hello</b>"));
+        QCOMPARE(QImage(bob.session().pictureFile(heard.at(1))).size(), face.size());
+        QCOMPARE(happened.count(annForBob + u'!'), 1);
+        QCOMPARE(happened.first(), annForBob + u'+');
+        QCOMPARE(bob.session().roster().unread(annForBob), 3);
+
+        // Blocked peers are not heard; invisible ones are offline; who is gone has not got
+        // anything.
+        bob.session().roster().setBlocked(annForBob, true);
+        ann.session().sendText(bobForAnn, QStringLiteral("Not heard"));
+        Account account = ann.session().account();
+        account.status = ombrin::Om::Invisible;
+        account.remark = QStringLiteral("Hidden");
+        ann.session().setAccount(account);
+        QVERIFY(waitFor(
+                [&] { return bob.contact(annForBob).statusText == QLatin1String("Hidden"); },
+                kPatienceMs));
+        QCOMPARE(bob.contact(annForBob).status, ombrin::Om::Offline);
+        QVERIFY(!bob.heardFrom(annForBob).contains(QStringLiteral("Not heard")));
+        bob.leave();
+        QVERIFY(waitFor([&] { return ann.contact(bobForAnn).status == ombrin::Om::Offline; },
+                        kPatienceMs));
+        ann.session().sendText(bobForAnn, QStringLiteral("Still there?"));
+        QCOMPARE(ann.session().messages(bobForAnn, 1).constLast().from, Message::From::Messenger);
+
+        // Bob finds everything again.
+        bob.start();
+        QCOMPARE(bob.contact(annForBob).alias, QStringLiteral("ANN"));
+        QVERIFY(bob.contact(annForBob).isBlocked);
+        QCOMPARE(bob.heardFrom(annForBob), heard);
+    }
+
+    void hostilePeersAreTurnedAway_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+
+        const QByteArray hello = R"({"type":"hello","version":1,"id":"eve","name":"Eve"})"
+                                 "\n";
+        QTest::newRow("garbage") << QByteArray("\xff\xfe GET / HTTP/1.1\r\n\r\n");
+        QTest::newRow("text before hello") << QByteArray("{\"type\":\"text\",\"text\":\"x\"}\n");
+        QTest::newRow("hello twice") << hello + hello;
+        QTest::newRow("endless line") << QByteArray(kLongestLine + 2, 'x');
+        QTest::newRow("flood") << hello + QByteArray("{\"type\":\"typing\"}\n").repeated(1000);
+        QTest::newRow("somebody else's id") << QByteArray(hello).replace("eve", "ann");
+    }
+    void hostilePeersAreTurnedAway()
+    {
+        QFETCH(QByteArray, bytes);
+        const QTemporaryDir folder;
+        PeerMessage self;
+        self.id = QStringLiteral("ann");
+        self.name = QStringLiteral("Ann");
+        PeerNetwork network(folder.path());
+        network.setSelf(self);
+        const QStringList signs = QDir(folder.path()).entryList({QStringLiteral("*.copy")});
+        QCOMPARE(signs.size(), 1);
+        PeerRegistry registry(folder.path());
+        QLocalSocket eve;
+        eve.connectToServer(registry.serverName(signs.first().section(QLatin1Char('.'), 0, 0)));
+        QVERIFY(waitFor([&] { return eve.state() == QLocalSocket::ConnectedState; }, kPatienceMs));
+        eve.write(bytes);
+        QVERIFY(waitFor([&] { return eve.state() == QLocalSocket::UnconnectedState; },
+                        kPatienceMs));
+        QVERIFY(waitFor([&] { return network.size() == 0; }, kPatienceMs));
+    }
+
+    void nothingIsLostWhenKilled()
+    {
+        const QTemporaryDir folder;
+        QProcess talker;
+        talker.start(QCoreApplication::applicationFilePath(),
+                     {QStringLiteral("--talk"), folder.path()});
+        QVERIFY(talker.waitForStarted(kPatienceMs));
+        QVERIFY(waitFor([&] { return lastSaid(folder.path()) > 150; }, kPatienceMs));
+        talker.kill();
+        QVERIFY(talker.waitForFinished(kPatienceMs));
+
+        const int last = lastSaid(folder.path());
+        ProfileFolder profile(folder.path());
+        QVERIFY(profile.lock());
+        Session session(profile, ContactBook::load(shippedBook()));
+        int number = 0;
+        for (const Message &message : session.messages(QStringLiteral("anna"), 1000000)) {
+            if (message.from == Message::From::Me)
+                QCOMPARE(message.text, QString::number(number++));
+        }
+        QVERIFY2(number == last + 1 || number == last + 2, qPrintable(QString::number(number)));
+        const int rating = session.roster().contact(QStringLiteral("anna")).rating;
+        QVERIFY(rating == last % 11 || rating == (last + 1) % 11);
+    }
+
+    void firstStartAsksForAnAccount()
+    {
+        User user((QString()));
+        user.session().script()->setPace(0);
+        const DialogUser filling([](QWidget *dialog) {
+            const auto fields = dialog->findChildren<QLineEdit *>();
+            for (QLineEdit *field : fields) {
+                if (field->isVisible() && field->text().isEmpty())
+                    QTest::keyClicks(field, QStringLiteral("Ada Berg"));
+            }
+            for (const char *button : {"Exit", "Complete", "Next"})
+                press(dialog, QString::fromLatin1(button));
+        });
+        Client client(&user.session());
+        QVERIFY(client.start());
+        QVERIFY(client.mainWindow()->isVisible());
+        QCOMPARE(client.mainWindow()->contacts()->shownCount(), 17);
+        QVERIFY(waitFor([&] { return !user.heardFrom(QStringLiteral("guide")).isEmpty(); },
+                        kPatienceMs));
+        QVERIFY(user.heardFrom(QStringLiteral("guide"))
+                        .first()
+                        .contains(QLatin1String("Ada Berg")));
+        client.mainWindow()->hide();
+        User other((QString()));
+        QVERIFY(isContactId(user.session().account().id));
+    }
+
+    void withoutAnAccountTheMessengerEnds()
+    {
+        User user((QString()));
+        const DialogUser refusing([](QWidget *dialog) {
+            if (qobject_cast<ombrin::OmMessageBox *>(dialog))
+                press(dialog, QStringLiteral("Yes"));
+            else
+                press(dialog, QStringLiteral("Cancel"));
+        });
+        Client client(&user.session());
+        QVERIFY(!client.start());
+        QVERIFY(!user.session().account().exists());
+    }
+
+    void userChatsWithTheGuide()
+    {
+        User user(QStringLiteral("ada"));
+        user.session().script()->setPace(0);
+        Client client(&user.session());
+        QVERIFY(client.start());
+        client.perform(QStringLiteral("chat"), QStringLiteral("guide"));
+        ChatWindow *chat = client.openChat(QStringLiteral("guide"));
+        QTest::keyClicks(chat->input(), QStringLiteral("nudge html picture"));
+        QTest::keyClick(chat->input(), Qt::Key_Return);
+        QVERIFY(chat->input()->toPlainText().isEmpty());
+        QVERIFY(waitFor([&] { return user.heardFrom(QStringLiteral("guide")).size() >= 2; },
+                        kPatienceMs));
+        chat->close();
+    }
+
+    void whatIsDoneToContactsIsRemembered()
+    {
+        User user(QStringLiteral("ada"));
+        {
+            Client client(&user.session());
+            QVERIFY(client.start());
+            const DialogUser confirming(
+                    [](QWidget *dialog) { press(dialog, QStringLiteral("Yes")); });
+            client.perform(QStringLiteral("block"), QStringLiteral("anna"));
+            client.perform(QStringLiteral("unblock"), QStringLiteral("petra"));
+            client.openChat(QStringLiteral("emil"));
+            client.perform(QStringLiteral("delete"), QStringLiteral("emil"));
+            QVERIFY(!client.mainWindow()->contacts()->cardOf(QStringLiteral("emil")));
+            QVERIFY(client.mainWindow()->contacts()->cardOf(QStringLiteral("anna"))->isBlocked());
+            user.session().sendText(QStringLiteral("anna"), QStringLiteral("Hello?"));
+            const QVector<Message> messages = user.session().messages(QStringLiteral("anna"), 10);
+            QCOMPARE(messages.constLast().text, QStringLiteral("Hello?"));
+        }
+        user.start();
+        QVERIFY(user.contact(QStringLiteral("anna")).isBlocked);
+        QVERIFY(!user.contact(QStringLiteral("petra")).isBlocked);
+        QVERIFY(!user.session().roster().contains(QStringLiteral("emil")));
+        user.session().roster().restore(QStringLiteral("emil"));
+        QVERIFY(user.session().roster().contains(QStringLiteral("emil")));
+    }
+
+    void oneCopyHasAProfile()
+    {
+        const QTemporaryDir folder;
+        ProfileFolder first(folder.path());
+        ProfileFolder second(folder.path());
+        QVERIFY(first.lock());
+        QVERIFY(!second.lock());
+    }
+
+    void programPhotographsItsWindows()
+    {
+        const QTemporaryDir folder;
+        QProcess program;
+        program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/ombrin_messenger"),
+                      {QStringLiteral("--screenshots"), folder.path()});
+        QVERIFY(program.waitForFinished(4 * kPatienceMs));
+        QVERIFY2(program.exitCode() == 0, program.readAllStandardError().constData());
+        const QStringList pictures = QDir(folder.path()).entryList(QDir::Files);
+        QCOMPARE(pictures.size(), 18);
+        const QImage chat(folder.filePath(QStringLiteral("messenger-chat.png")));
+        QCOMPARE(QImage(folder.filePath(QStringLiteral("messenger-chat@2x.png"))).size(),
+                 2 * chat.size());
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    if (argc == 3 && qstrcmp(argv[1], "--talk") == 0) {
+        const QCoreApplication application(argc, argv);
+        return talkUntilKilled(QString::fromLocal8Bit(argv[2]));
+    }
+    return ombrin::test::run<tst_Messenger>(argc, argv);
+}
+#include "tst_messenger.moc"

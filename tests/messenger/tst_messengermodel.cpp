@@ -1,0 +1,365 @@
+// The messenger without its windows: what it reads, and what it makes of what is broken or hostile.
+
+#include "support/TestCase.h"
+
+#include "model/ContactBook.h"
+#include "model/ContactFilter.h"
+#include "model/History.h"
+#include "model/MessageHtml.h"
+#include "model/PictureFiles.h"
+#include "model/ScriptedContact.h"
+#include "model/StateFile.h"
+#include "peers/PeerProtocol.h"
+
+#include <QtCore/QTemporaryDir>
+
+using namespace messenger;
+
+namespace {
+
+/// \a text with double quotes in the place of single ones.
+QByteArray json(QByteArray text)
+{
+    return text.replace('\'', '"');
+}
+
+QString writeFile(const QTemporaryDir &folder, const QByteArray &contents)
+{
+    const QString name = folder.filePath(QStringLiteral("file"));
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        return QString();
+    return name;
+}
+
+QStringList textsOf(const QVector<Message> &messages)
+{
+    QStringList texts;
+    for (const Message &message : messages)
+        texts.append(message.text);
+    return texts;
+}
+
+Message said(const QString &text)
+{
+    return {QDateTime::currentDateTime(), Message::From::Contact, Message::Kind::Text, text};
+}
+
+} // namespace
+
+class tst_MessengerModel : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shippedContactBookIsWhole()
+    {
+        const ContactBook book =
+                ContactBook::load(QStringLiteral(MESSENGER_CONTACTS "/contacts.json"));
+        QCOMPARE(book.problems(), QStringList());
+        QCOMPARE(book.contacts().size(), 17);
+        QVERIFY(book.contacts().constFirst().answers);
+    }
+
+    void brokenContactBooksCostWhatIsBroken_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QStringList>("ids");
+        QTest::addColumn<int>("problemCount");
+
+        const auto row = [](const char *name, const QByteArray &json, const QStringList &ids,
+                            int problemCount) {
+            QTest::newRow(name) << json << ids << problemCount;
+        };
+        const QByteArray ann = json("{'id': 'ann', 'alias': 'Ann'}");
+        const QStringList onlyAnn = {QStringLiteral("ann")};
+        row("no JSON", "hello", {}, 1);
+        row("cut off", json("{'contacts': [{'id': 'ann'"), {}, 1);
+        row("not a list", json("{'contacts': 7}"), {}, 0);
+        row("no objects", json("{'contacts': [1, null, 'x', ") + ann + "]}", onlyAnn, 3);
+        row("no alias", json("{'contacts': [{'id': 'x'}, ") + ann + "]}", onlyAnn, 1);
+        row("an id that leads out of the folder",
+            json("{'contacts': [{'id': '../x', 'alias': 'X'}, ") + ann + "]}", onlyAnn, 1);
+        row("an id of a peer", json("{'contacts': [{'id': 'peer-x', 'alias': 'X'}, ") + ann + "]}",
+            onlyAnn, 1);
+        row("twice", json("{'contacts': [") + ann + "," + ann + "]}", onlyAnn, 1);
+        row("values of other types",
+            json("{'contacts': [{'id': 'ann', 'alias': 'Ann', 'status': 7, 'application': 'x', "
+                 "'birthday': [], 'picture': {}, 'web': false}]}"),
+            onlyAnn, 0);
+    }
+    void brokenContactBooksCostWhatIsBroken()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QStringList, ids);
+        QFETCH(int, problemCount);
+        const QTemporaryDir folder;
+        const ContactBook book = ContactBook::load(writeFile(folder, json));
+        QStringList read;
+        for (const Contact &contact : book.contacts())
+            read.append(contact.id);
+        QCOMPARE(read, ids);
+        QCOMPARE(book.problems().size(), problemCount);
+    }
+
+    void picturesAndAddressesOfABookStayWhereTheyBelong()
+    {
+        const QTemporaryDir folder;
+        const QByteArray entries =
+                json("{'id': 'a', 'alias': 'A', 'picture': 'p/a.png', 'web': "
+                     "'https://example.org/a'},")
+                + json("{'id': 'b', 'alias': 'B', 'picture': 'p/../../b.png', 'web': "
+                       "'file:///etc/x'},")
+                + json("{'id': 'c', 'alias': 'C\\n\\u202ED', 'picture': '/etc/c.png'}");
+        const ContactBook book =
+                ContactBook::load(writeFile(folder, "{\"contacts\": [" + entries + "]}"));
+        QCOMPARE(book.contacts().size(), 3);
+        QCOMPARE(book.contacts().at(0).picture, folder.filePath(QStringLiteral("p/a.png")));
+        QVERIFY(book.contacts().at(0).web.isValid());
+        QVERIFY(book.contacts().at(1).picture.isEmpty() && book.contacts().at(1).web.isEmpty());
+        QVERIFY(book.contacts().at(2).picture.isEmpty());
+        QCOMPARE(book.contacts().at(2).alias, QStringLiteral("C D"));
+    }
+
+    void tornLineCostsNoOtherMessage_data()
+    {
+        QTest::addColumn<QByteArray>("damage");
+
+        QTest::newRow("half a line") << json("{'at': '2026-01-01T10:00");
+        QTest::newRow("zeros") << QByteArray(100, '\0');
+        QTest::newRow("no JSON, and an empty line") << QByteArray("\xff\xfe{]\n\n");
+        QTest::newRow("of another kind") << json("{'at': 7, 'from': 'nobody'}");
+    }
+    void tornLineCostsNoOtherMessage()
+    {
+        QFETCH(QByteArray, damage);
+        const QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("history"));
+        const History history(name);
+        QVERIFY(history.newest(10).isEmpty());
+        QVERIFY(history.append(said(QStringLiteral("one"))));
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::Append) && file.write(damage) == damage.size());
+        file.close();
+        QVERIFY(history.append(said(QStringLiteral("two\nlines"))));
+        QVERIFY(history.append(said(QStringLiteral("three"))));
+        QCOMPARE(textsOf(history.newest(10)),
+                 QStringList({QStringLiteral("one"), QStringLiteral("two\nlines"),
+                              QStringLiteral("three")}));
+        QCOMPARE(textsOf(history.newest(1)), QStringList({QStringLiteral("three")}));
+    }
+
+    void longHistoryIsReadFromItsEnd()
+    {
+        const QTemporaryDir folder;
+        const History history(folder.filePath(QStringLiteral("history")));
+        const QString padding(50000, QLatin1Char('x'));
+        for (int number = 0; number < 60; ++number)
+            QVERIFY(history.append(said(QString::number(number) + padding)));
+        const QVector<Message> messages = history.newest(1000);
+        QVERIFY(messages.size() > 30 && messages.size() < 60);
+        QVERIFY(messages.constLast().text.startsWith(QLatin1String("59x")));
+    }
+
+    void damagedStateIsKeptAsideAndStartsAnew()
+    {
+        const QTemporaryDir folder;
+        const QString name = writeFile(folder, json("{'account': {'id':"));
+        StateFile state(name);
+        QVERIFY(state.value(QStringLiteral("account")).isUndefined());
+        QVERIFY(QFile::exists(name + QStringLiteral(".damaged")));
+        state.setValue(QStringLiteral("key"), 7);
+        QCOMPARE(StateFile(name).value(QStringLiteral("key")).toInt(), 7);
+    }
+
+    void filterShowsWhatTheUserAsksFor_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<int>("hiddenPresence");
+        QTest::addColumn<QString>("hiddenGroup");
+        QTest::addColumn<bool>("isShown");
+
+        QTest::newRow("everything") << QString() << -1 << QString() << true;
+        QTest::newRow("parts of words")
+                << QStringLiteral(" BERG  lunch") << -1 << QString() << true;
+        QTest::newRow("one word is not there")
+                << QStringLiteral("anna emil") << -1 << QString() << false;
+        QTest::newRow("its presence")
+                << QString() << int(ContactFilter::Away) << QString() << false;
+        QTest::newRow("another presence")
+                << QString() << int(ContactFilter::Busy) << QString() << true;
+        QTest::newRow("its group") << QString() << -1 << QStringLiteral("Work") << false;
+    }
+    void filterShowsWhatTheUserAsksFor()
+    {
+        QFETCH(QString, words);
+        QFETCH(int, hiddenPresence);
+        QFETCH(QString, hiddenGroup);
+        QFETCH(bool, isShown);
+        Contact contact;
+        contact.alias = QStringLiteral("Anna Bergström");
+        contact.statusText = QStringLiteral("Lunch");
+        contact.group = QStringLiteral("Work");
+        contact.status = ombrin::Om::ExtendedAway;
+        ContactFilter filter;
+        if (hiddenPresence >= 0)
+            filter.hiddenPresences.append(static_cast<ContactFilter::Presence>(hiddenPresence));
+        filter.hiddenGroups.append(hiddenGroup);
+        ContactFilter kept = ContactFilter::fromJson(filter.toJson());
+        kept.words = words;
+        QCOMPARE(kept.accepts(contact), isShown);
+    }
+
+    void messagesBecomeSafeHtml_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+
+        const auto row = [](const char *text, const char *expected) {
+            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(expected);
+        };
+        row("see https://a.org/x?y=1&z.", "<a href=\"https://a.org/x?y=1&amp;z\">");
+        row("to ann@example.org!", "<a href=\"mailto:ann@example.org\">ann@example.org</a>!");
+        row("<b>x</b>", "&lt;b&gt;x");
+        row("javascript://x", "javascript://x");
+        row("https://\"onclick=\"x", "https://\"onclick=\"x");
+        row("well :-)", "<img src=\"smiley:0\"");
+        row("a:-)b", "a:-)b");
+    }
+    void messagesBecomeSafeHtml()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        const QString html = messageToHtml(text);
+        QVERIFY2(html.contains(expected), qPrintable(html));
+        const bool isLink = expected.startsWith(QLatin1String("<a "));
+        QCOMPARE(html.contains(QLatin1String("<a ")), isLink);
+        QVERIFY(!html.contains(QLatin1String("<b>")));
+    }
+
+    void peersUnderstandEachOther()
+    {
+        PeerMessage sent;
+        sent.type = PeerMessage::Type::Hello;
+        sent.id = QStringLiteral("ann-7");
+        sent.name = QStringLiteral("Ann\nB");
+        sent.status = ombrin::Om::DoNotDisturb;
+        PeerMessage got;
+        QCOMPARE(decode(encode(sent).chopped(1), &got), Verdict::Understood);
+        QCOMPARE(got.type, sent.type);
+        QCOMPARE(got.id, sent.id);
+        QCOMPARE(got.name, QStringLiteral("Ann B"));
+        QCOMPARE(got.status, sent.status);
+
+        sent.type = PeerMessage::Type::Picture;
+        sent.data = QByteArray("\0\n\xff picture", 11);
+        QCOMPARE(encode(sent).count('\n'), 1);
+        QCOMPARE(decode(encode(sent).chopped(1), &got), Verdict::Understood);
+        QCOMPARE(got.data, sent.data);
+    }
+
+    void whatPeersSayIsWeighed_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<int>("verdict");
+
+        const auto row = [](const char *name, const QByteArray &line, Verdict verdict) {
+            QTest::newRow(name) << line << static_cast<int>(verdict);
+        };
+        row("nothing", "", Verdict::Hostile);
+        row("garbage", "\xff\xfe\0\x01 GET / HTTP/1.1", Verdict::Hostile);
+        row("a list", "[1, 2]", Verdict::Hostile);
+        row("deep", QByteArray(100000, '['), Verdict::Hostile);
+        row("no type", json("{'text': 'x'}"), Verdict::Hostile);
+        row("type of a later version", json("{'type': 'video', 'x': 1}"), Verdict::Unknown);
+        row("nudge with more", json("{'type': 'nudge', 'later': true}"), Verdict::Understood);
+        row("text", json("{'type': 'text', 'text': 'x'}"), Verdict::Understood);
+        row("text that is none", json("{'type': 'text', 'text': {'x': 1}}"), Verdict::Hostile);
+        row("long text", json("{'type': 'text', 'text': '") + QByteArray(20001, 'x') + json("'}"),
+            Verdict::Hostile);
+        row("hello without a name", json("{'type': 'hello', 'version': 1, 'id': 'a'}"),
+            Verdict::Hostile);
+        row("hello with a path", json("{'type': 'hello', 'version': 1, 'id': '../a', 'name': 'A'}"),
+            Verdict::Hostile);
+        row("hello of no version", json("{'type': 'hello', 'id': 'a', 'name': 'A'}"),
+            Verdict::Hostile);
+        row("picture that is a number", json("{'type': 'picture', 'data': 7}"), Verdict::Hostile);
+        row("large picture",
+            json("{'type': 'picture', 'data': '") + QByteArray(kLargestPicture + 1, 'x').toBase64()
+                    + json("'}"),
+            Verdict::Hostile);
+    }
+    void whatPeersSayIsWeighed()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(int, verdict);
+        PeerMessage message;
+        QCOMPARE(static_cast<int>(decode(line, &message)), verdict);
+    }
+
+    void linesAreFoundHoweverTheBytesArrive()
+    {
+        const QByteArray bytes = "one\ntwo\n\nthree\n";
+        for (int chunk = 1; chunk <= bytes.size(); ++chunk) {
+            LineReader reader;
+            QList<QByteArray> lines;
+            for (int start = 0; start < bytes.size(); start += chunk) {
+                QVERIFY(reader.feed(bytes.mid(start, chunk)));
+                while (const std::optional<QByteArray> line = reader.nextLine())
+                    lines.append(*line);
+            }
+            QCOMPARE(lines, QList<QByteArray>({"one", "two", "", "three"}));
+        }
+        LineReader reader;
+        QVERIFY(reader.feed(QByteArray(kLongestLine, 'x')));
+        QVERIFY(!reader.feed("x"));
+    }
+
+    void picturesOfStrangersAreBounded()
+    {
+        QVERIFY(pictureFromData(QByteArray()).isNull());
+        QVERIFY(pictureFromData("<svg xmlns='http://www.w3.org/2000/svg'/>").isNull());
+        QImage large(5000, 10, QImage::Format_RGB32);
+        large.fill(Qt::red);
+        const QByteArray sent = pictureToData(large); // made smaller before it is sent
+        QCOMPARE(pictureFromData(sent).width(), 4096);
+        QImage noise(900, 900, QImage::Format_RGB32);
+        for (int y = 0; y < noise.height(); ++y) {
+            for (int x = 0; x < noise.width(); ++x)
+                noise.setPixel(x, y, QRandomGenerator::global()->generate());
+        }
+        const QByteArray small = pictureToData(noise, 100000);
+        QVERIFY(!small.isEmpty() && small.size() <= 100000);
+        QVERIFY(!pictureFromData(small).isNull());
+        QCOMPARE(portraitFrom(large, 320).size(), QSize(10, 10));
+    }
+
+    void guideAnswersWhateverItHears()
+    {
+        ScriptedContact guide;
+        guide.setPace(0);
+        QStringList answers;
+        int deeds = 0;
+        bool isTyping = false;
+        const auto countDeed = [&deeds] { ++deeds; };
+        connect(&guide, &ScriptedContact::saysText, this,
+                [&](const QString &text) { answers.append(text); });
+        connect(&guide, &ScriptedContact::typing, this, [&](bool on) { isTyping = on; });
+        connect(&guide, &ScriptedContact::saysHtml, this, countDeed);
+        connect(&guide, &ScriptedContact::showsPicture, this, countDeed);
+        connect(&guide, &ScriptedContact::nudges, this, countDeed);
+        connect(&guide, &ScriptedContact::changesStatus, this, countDeed);
+        const QStringList heard = {QStringLiteral("HELP"),      QStringLiteral("nudge me"),
+                                   QStringLiteral("a picture"), QStringLiteral("html"),
+                                   QStringLiteral("bye"),       QStringLiteral("?"),
+                                   QStringLiteral("what else")};
+        for (const QString &text : heard)
+            guide.hear(text);
+        QVERIFY(waitFor([&] { return answers.size() == heard.size() + 2; }, 10000));
+        QCOMPARE(deeds, 5); // nudge, picture, HTML, leaving, coming back
+        QVERIFY(!isTyping);
+    }
+};
+
+OMBRIN_TEST_MAIN(tst_MessengerModel)
+#include "tst_messengermodel.moc"

@@ -7,6 +7,12 @@
 /// The random-access iterator of COmMonitoredList: \a Value is its element type, const for the
 /// iterator that does not change elements.
 ///
+/// \code
+/// const auto found = std::find(playlist.begin(), playlist.end(), song);
+/// if (found != playlist.end())
+///     playlist.erase(found);
+/// \endcode
+///
 /// An element assigned through an iterator passes none of the list's hooks. An iterator is valid
 /// until the list is next changed or destroyed.
 ///

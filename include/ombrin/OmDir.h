@@ -8,6 +8,11 @@ namespace ombrin {
 
 /// Folders of the user that the library reads and writes. Holds static functions only.
 ///
+/// \code
+/// const QString file = QFileDialog::getOpenFileName(this, tr("Choose a picture"),
+///                                                   ombrin::OmDir::myPicturesPath());
+/// \endcode
+///
 /// \ingroup core
 class OMBRIN_CORE_EXPORT OmDir
 {

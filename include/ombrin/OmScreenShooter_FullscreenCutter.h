@@ -26,7 +26,12 @@ class DesktopPicture;
 /// cutter without a picture. A selection counts when it is wider and taller than 2 pixels; what of
 /// it lies outside of the desktop is not part of the picture.
 ///
-/// Reports exactly once, at the latest when it is destroyed. Hosts use OmScreenShooter.
+/// Reports exactly once, at the latest when it is destroyed. Hosts use OmScreenShooter, which makes
+/// and owns one:
+///
+/// \code
+/// OmScreenShooter::shootUserCutted(0, false, chat, SLOT(sendPicture(QPixmap)), nullptr, nullptr);
+/// \endcode
 ///
 /// Where screens differ in density each has a window of its own: no window can cover them all.
 ///

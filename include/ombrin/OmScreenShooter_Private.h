@@ -17,7 +17,13 @@ class OmImageMaskedWidget;
 } // namespace ombrin
 
 /// One request for a picture of the desktop: counts down, takes the picture, reports through one of
-/// its signals, once, and deletes itself. Hosts use OmScreenShooter.
+/// its signals, once, and deletes itself. Hosts use OmScreenShooter, or connect function pointers:
+///
+/// \code
+/// auto *request = new OmScreenShooter_Private(3000, true, false); // deletes itself
+/// connect(request, &OmScreenShooter_Private::signalOnScreenshotSucceeded, this,
+///         &Window::showPicture);
+/// \endcode
 ///
 /// \ingroup effects
 class OMBRIN_GUI_EXPORT OmScreenShooter_Private : public QObject

@@ -10,6 +10,16 @@ namespace ombrin {
 ///
 /// It adds nothing to QFrame but a class of its own, which style sheets and translations can name.
 ///
+/// \code
+/// auto *popup = new ombrin::OmTrayPopup(nullptr, Qt::Popup);
+/// popup->setAttribute(Qt::WA_DeleteOnClose);
+/// auto *layout = new QVBoxLayout(popup);
+/// layout->addWidget(new QLabel(tr("Ada is online")));
+/// popup->show();
+/// \endcode
+///
+/// A parent owns it, as any QFrame; without one the host does. It neither places nor closes itself.
+///
 /// \ingroup effects
 class OMBRIN_GUI_EXPORT OmTrayPopup : public QFrame
 {

@@ -10,6 +10,7 @@
 #include <ombrin/OmCheckBoxAssortmentView.h>
 #include <ombrin/OmContactCardList.h>
 #include <ombrin/OmDesktop.h>
+#include <ombrin/OmDir.h>
 #include <ombrin/OmFaderWidget.h>
 #include <ombrin/OmGraphicsSimpleHyperlinkItem.h>
 #include <ombrin/OmIconComboBox.h>
@@ -27,6 +28,7 @@
 #include <ombrin/OmRatingLabel.h>
 #include <ombrin/OmSafeHtml.h>
 #include <ombrin/OmScreenShooter.h>
+#include <ombrin/OmScreenShooter_Private.h>
 #include <ombrin/OmScribbledZebraItemLink.h>
 #include <ombrin/OmScribbledZebraItemText.h>
 #include <ombrin/OmScribbledZebraView.h>
@@ -47,6 +49,7 @@
 #include <ombrin/OmToolBar.h>
 #include <ombrin/OmToolButton.h>
 #include <ombrin/OmTranslation.h>
+#include <ombrin/OmTrayPopup.h>
 #include <ombrin/OmWindow.h>
 #include <ombrin/OmWizard_Standard2.h>
 #include <ombrin/vhutilities.h>
@@ -172,12 +175,14 @@ struct Host : QWidget
     AccountMission mission;
     QString notice;
     QPixmap picture;
+    COmMonitoredList<Song *> playlist;
     QWidget *popup;
     Profile_Data profile;
     QRect remembered;
     QGraphicsScene *scene;
     ombrin::OmIconComboBox *smileys;
     ombrin::OmImageMaskedButton *snapButton;
+    Song *song;
     QStackedWidget *stack;
     QTextEdit *textEdit;
     OmScribbledZebraView *view;

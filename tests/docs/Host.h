@@ -152,7 +152,7 @@ struct Host : QWidget
     void showGroup(const QVariant &group, bool shown);
     void showNewAccount();
 
-    int &argc;
+    int argc;
     char **argv;
     QDate birthday;
     ombrin::OmImageButton *button;

@@ -9,6 +9,7 @@
 #include <QtCore/QMimeData>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QTextBlock>
 
 namespace {
 
@@ -86,6 +87,16 @@ void step(Edit *edit, Input *input)
     }
 }
 
+void checkFormats(const QTextDocument &document)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            FUZZ_CHECK(!format.isImageFormat() && !format.isAnchor());
+        }
+    }
+}
+
 void chooseDictionary()
 {
     static const auto *const folder = [] {
@@ -108,7 +119,7 @@ void run(Input input)
     edit.resize(200, 100);
     for (int steps = 0; steps < kMostSteps && !input.isEmpty(); ++steps)
         step(&edit, &input);
-    FUZZ_CHECK(!edit.toPlainText().contains(QChar::ObjectReplacementCharacter));
+    checkFormats(*edit.document());
     edit.grab();
     ombrin::fuzz::runEvents();
 }

@@ -63,7 +63,13 @@ OmScreenShooter_FullscreenCutter::OmScreenShooter_FullscreenCutter(OmScreenShoot
         setWindowModality(Qt::ApplicationModal);
     if (owner)
         connect(owner, &QObject::destroyed, this, &QWidget::close);
-    QTimer::singleShot(kPatience, this, &OmScreenShooter_FullscreenCutter::slotOnUserIsAnIdiot);
+    // Of this window: QTimer::singleShot() would keep its timer when the window has long been
+    // closed.
+    auto *const patience = new QTimer(this);
+    patience->setSingleShot(true);
+    connect(patience, &QTimer::timeout, this,
+            &OmScreenShooter_FullscreenCutter::slotOnUserIsAnIdiot);
+    patience->start(kPatience);
 }
 
 OmScreenShooter_FullscreenCutter::~OmScreenShooter_FullscreenCutter()

@@ -54,6 +54,17 @@ void removeFromScreen(QWidget *widget)
     widget->deleteLater();
 }
 
+/// QTimer::singleShot() would keep its timer for the whole time, even when the request is gone.
+template <typename Slot>
+void callLater(int milliseconds, OmScreenShooter_Private *request, Slot slot)
+{
+    auto *const timer = new QTimer(request);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, request, slot);
+    QObject::connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(milliseconds);
+}
+
 QString countdownImage(int seconds)
 {
     return QStringLiteral(":/countdown-%1-128.png").arg(qBound(1, seconds, kHighestNumber));
@@ -73,8 +84,8 @@ OmScreenShooter_Private::OmScreenShooter_Private(unsigned int delay, bool showNo
         this->showNowButton();
     if (!m_waitsForButton) {
         constexpr auto kLongest = static_cast<unsigned int>(std::numeric_limits<int>::max());
-        QTimer::singleShot(static_cast<int>(std::min(delay, kLongest)), this,
-                           &OmScreenShooter_Private::slotOnDelayFinished);
+        callLater(static_cast<int>(std::min(delay, kLongest)), this,
+                  &OmScreenShooter_Private::slotOnDelayFinished);
     }
     if (delay > 0)
         slotOnDelayProgress();
@@ -110,7 +121,7 @@ void OmScreenShooter_Private::slotOnDelayProgress()
     if (m_triggered)
         return;
     // Showing a window can run the event loop, in which the delay may end.
-    QTimer::singleShot(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
+    callLater(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
     m_remainingSeconds = std::max(m_remainingSeconds - 1, 0);
     const QPointer<OmImageMaskedWidget> previous = m_countdownImage;
     m_countdownImage = new OmImageMaskedWidget(nullptr, kWindowFlags);
@@ -158,7 +169,7 @@ void OmScreenShooter_Private::trigger()
         return;
     m_triggered = true;
     hideWidgets();
-    QTimer::singleShot(kClearingTime, this, &OmScreenShooter_Private::slotOnReadyToShoot);
+    callLater(kClearingTime, this, &OmScreenShooter_Private::slotOnReadyToShoot);
 }
 
 // Picture
@@ -194,7 +205,26 @@ void OmScreenShooter_Private::openCutter()
             &OmScreenShooter_Private::slotOnCutterScreenshotSucceeded);
     connect(m_cutter, &OmScreenShooter_FullscreenCutter::signalOnScreenshotFailed, this,
             &OmScreenShooter_Private::slotOnCutterScreenshotFailed);
+    showCutter();
+}
+
+// Showing a window can run the event loop, in which the user may answer already. Neither cutter nor
+// request may be deleted until it is shown.
+void OmScreenShooter_Private::showCutter()
+{
+    const QPointer<OmScreenShooter_Private> guard(this);
+    m_isOpening = true;
+    m_cutter->setAttribute(Qt::WA_DeleteOnClose, false);
     m_cutter->show();
+    if (!guard)
+        return;
+    m_isOpening = false;
+    if (m_reported)
+        deleteLater();
+    else if (m_cutter->isVisible())
+        m_cutter->setAttribute(Qt::WA_DeleteOnClose);
+    else
+        delete m_cutter; // which reports
 }
 
 void OmScreenShooter_Private::slotOnCutterScreenshotSucceeded(QPixmap p_pixScreenshot)
@@ -219,7 +249,7 @@ void OmScreenShooter_Private::reportSuccess(const QPixmap &picture)
 {
     if (!startReport())
         return;
-    deleteLater(); // first: a slot of the signal may delete this request
+    deleteWhenShown(); // first: a slot of the signal may delete this request
     Q_EMIT signalOnScreenshotSucceeded(picture);
 }
 
@@ -229,6 +259,12 @@ void OmScreenShooter_Private::reportFailure()
         return;
     m_triggered = true;
     hideWidgets();
-    deleteLater();
+    deleteWhenShown();
     Q_EMIT signalOnScreenshotFailed();
+}
+
+void OmScreenShooter_Private::deleteWhenShown()
+{
+    if (!m_isOpening)
+        deleteLater();
 }

@@ -29,6 +29,15 @@ bool isSeparator(QChar c)
     return kSeparators.contains(c);
 }
 
+// Null if there is none. Qt has a format of its own for it, which any program can offer.
+QString htmlOf(const QMimeData &data)
+{
+    if (data.hasHtml())
+        return data.html();
+    const QString richText = QStringLiteral("application/x-qrichtext");
+    return data.hasFormat(richText) ? QString::fromUtf8(data.data(richText)) : QString();
+}
+
 QString withoutSeparators(QString text)
 {
     const auto end = std::remove_if(text.begin(), text.end(), isSeparator);
@@ -208,11 +217,12 @@ void OmTextEdit::resizeEvent(QResizeEvent *event)
 
 void OmTextEdit::insertFromMimeData(const QMimeData *source)
 {
-    if (!source || !source->hasHtml()) {
+    const QString html = source ? htmlOf(*source) : QString();
+    if (html.isNull()) {
         QTextEdit::insertFromMimeData(source);
         return;
     }
-    insertPlainText(pastedText(source->html()));
+    insertPlainText(pastedText(html));
     setFocus(Qt::OtherFocusReason);
 }
 

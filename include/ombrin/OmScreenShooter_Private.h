@@ -61,6 +61,8 @@ private:
     void trigger();
     void usePicture(const ombrin::DesktopPicture &picture);
     void openCutter();
+    void showCutter();
+    void deleteWhenShown();
     void reportSuccess(const QPixmap &picture);
     void reportFailure();
     bool startReport();
@@ -70,6 +72,7 @@ private:
     int m_remainingSeconds;
     bool m_triggered = false;
     bool m_reported = false;
+    bool m_isOpening = false;
     std::unique_ptr<ombrin::DesktopPicture> m_screenshot;
     QPointer<ombrin::OmImageMaskedWidget> m_countdownImage;
     QPointer<ombrin::OmImageMaskedButton> m_nowButton;

@@ -101,10 +101,15 @@ class AccountMission : public COmWizard_Mission_Base
 
 public:
     Account account() const;
+    QString server() const;
 
 protected:
+    bool canReach(const QString &server) const;
     bool ExecuteMission() override;
     QString MissionName() override;
+
+    QWidget *m_serverPage;
+    QString m_problem;
 };
 
 // Members of classes that an example shows a part of.

@@ -45,10 +45,10 @@ public:
         show();
         QCoreApplication::processEvents();
     }
-    void paste(const QString &html)
+    void paste(const QString &html, const QString &format = QStringLiteral("text/html"))
     {
         QMimeData mime;
-        mime.setHtml(html);
+        mime.setData(format, html.toUtf8());
         insertFromMimeData(&mime);
     }
     int listeners() const { return receivers(SIGNAL(textChanged())); }
@@ -259,6 +259,10 @@ private Q_SLOTS:
         QFETCH(QString, html);
         m_edit->setMaxLength(1);
         m_edit->paste(html);
+        QTEST(m_edit->toPlainText(), "expected");
+
+        m_edit->clear();
+        m_edit->paste(html, QStringLiteral("application/x-qrichtext"));
         QTEST(m_edit->toPlainText(), "expected");
     }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <malloc.h>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/allocator_interface.h>
+#endif
+
+namespace ombrin::test {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kIsSanitized = true;
+#else
+constexpr bool kIsSanitized = false;
+#endif
+
+/// The bytes that the program has allocated and not given back.
+inline qint64 heapBytes()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return static_cast<qint64>(__sanitizer_get_current_allocated_bytes());
+#else
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<qint64>(info.uordblks + info.hblkhd);
+#endif
+}
+
+} // namespace ombrin::test

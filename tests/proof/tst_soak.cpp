@@ -1,0 +1,346 @@
+#include "dialogs/WizardParts.h"
+#include "proof/HeapMeter.h"
+#include "support/SpellingFolder.h"
+#include "support/TestCase.h"
+
+#include <ombrin/OmAvatar.h>
+#include <ombrin/OmAvatarSmall.h>
+#include <ombrin/OmBalloonTip.h>
+#include <ombrin/OmCalendar.h>
+#include <ombrin/OmCheckBoxAssortmentItem.h>
+#include <ombrin/OmCheckBoxAssortmentView.h>
+#include <ombrin/OmContactCard.h>
+#include <ombrin/OmContactCardList.h>
+#include <ombrin/OmFaderWidget.h>
+#include <ombrin/OmIconComboBox.h>
+#include <ombrin/OmInfoPopup.h>
+#include <ombrin/OmInputDialog.h>
+#include <ombrin/OmMessageBox.h>
+#include <ombrin/OmRatingLabel.h>
+#include <ombrin/OmSafeHtml.h>
+#include <ombrin/OmScreenShooter_FullscreenCutter.h>
+#include <ombrin/OmScreenShooter_Private.h>
+#include <ombrin/OmScribbledZebraItemLink.h>
+#include <ombrin/OmScribbledZebraView.h>
+#include <ombrin/OmSearchField.h>
+#include <ombrin/OmShakeWidget.h>
+#include <ombrin/OmSkin.h>
+#include <ombrin/OmSmoothList.h>
+#include <ombrin/OmStatusBar.h>
+#include <ombrin/OmTabWidget.h>
+#include <ombrin/OmTextBrowser.h>
+#include <ombrin/OmTextEdit.h>
+#include <ombrin/OmToolBar.h>
+#include <ombrin/OmTrayPopup.h>
+#include <ombrin/OmWindow.h>
+
+#include <QtCore/QLoggingCategory>
+#include <QtWidgets/QMenuBar>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <vector>
+
+using namespace ombrin;
+
+namespace {
+
+using Cycle = std::function<void()>;
+
+constexpr int kBatches = 5;
+constexpr int kWarmUp = 100;
+constexpr int kTimersMs = 60; // the library's single-shot timers take 20
+// What a run of all tests has time for.
+constexpr int kCycles = test::kIsSanitized ? 300 : 5000;
+
+int cycles()
+{
+    bool isSet = false;
+    const int value = qEnvironmentVariableIntValue("OMBRIN_SOAK_CYCLES", &isSet);
+    return isSet ? value : kCycles;
+}
+
+// Until everything that was posted, and what deleteLater() was called for, is done.
+void settle()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+// As a user sees it: shown, painted and closed.
+void showAndClose(QWidget *widget)
+{
+    const QPointer<QWidget> guard(widget);
+    widget->show();
+    settle();
+    if (guard)
+        widget->grab();
+    if (guard)
+        widget->close();
+    settle();
+    delete guard;
+}
+
+template <typename Widget>
+Cycle plain()
+{
+    return [] { showAndClose(new Widget); };
+}
+
+template <typename Widget, typename Fill>
+Cycle filled(Fill fill)
+{
+    return [fill] {
+        auto *const widget = new Widget;
+        fill(widget);
+        showAndClose(widget);
+    };
+}
+
+// Closes the modal window that \a open opens, from within its own loop.
+Cycle modal(const std::function<void(QWidget *)> &open)
+{
+    return [open] {
+        OmWindow parent;
+        parent.show();
+        QTimer::singleShot(0, &parent, [] {
+            if (QWidget *const dialog = QApplication::activeModalWidget())
+                dialog->close();
+        });
+        open(&parent);
+        settle();
+    };
+}
+
+template <typename Wizard>
+Cycle wizard()
+{
+    return [] {
+        wizard_parts::Pages pages(2);
+        wizard_parts::Mission mission(pages);
+        Wizard dialog;
+        dialog.Set_Mission(&mission);
+        dialog.show();
+        settle();
+        mission.NextPage();
+        settle();
+        dialog.grab();
+        dialog.hide();
+    };
+}
+
+// The same one each time, since caches keep what was made of it.
+QPixmap picture()
+{
+    static const QPixmap pixmap = QPixmap::fromImage([] {
+        QImage image(96, 72, QImage::Format_RGB32);
+        image.fill(Qt::darkCyan);
+        return image;
+    }());
+    return pixmap;
+}
+
+QString text()
+{
+    return QStringLiteral("soak");
+}
+
+void fillWindow(OmWindow *window)
+{
+    window->setWindowTitle(text());
+    window->setWidget(new QLabel(text()));
+    window->menuBar()->addMenu(text())->addAction(text());
+    window->statusBar()->showMessage(text());
+}
+
+void fillCards(OmContactCardList *list)
+{
+    for (int index = 0; index < 3; ++index) {
+        auto *const card = new OmContactCard;
+        card->setAlias(text());
+        card->setAvatar(picture(), false);
+        card->setBig(index == 0);
+        list->addCard(card);
+    }
+    list->resize(250, 200);
+}
+
+void fillZebra(OmScribbledZebraView *view)
+{
+    view->poles().append(10, true);
+    for (int row = 0; row < 3; ++row)
+        view->items() << new OmScribbledZebraItemLink(0, row, true, text(), nullptr);
+}
+
+void fillAssortment(OmCheckBoxAssortmentView *view)
+{
+    for (int index = 0; index < 3; ++index)
+        view->items() << new OmCheckBoxAssortmentItem(text(), true, Qt::red);
+}
+
+void fillTabs(OmTabWidget *tabs)
+{
+    tabs->addTab(new QLabel(text()), text());
+    tabs->addTab(new QLabel(text()), text());
+}
+
+void typeMisspelt(OmTextEdit *edit)
+{
+    edit->setSpellChecking(true);
+    edit->setPlainText(QStringLiteral("helo you. "));
+}
+
+void openIcons()
+{
+    OmIconComboBox box;
+    box.addItem(QIcon(picture()), text());
+    box.show();
+    box.showPopup();
+    settle();
+    box.hidePopup();
+    settle();
+}
+
+void fadeAndShake()
+{
+    OmWindow window;
+    window.show();
+    auto *const fader = new OmFaderWidget(&window);
+    fader->setFadeDuration(1);
+    fader->fadeOut();
+    OmShakeWidget shake(&window);
+    shake.setShakeDuration(1);
+    shake.shakeWidget();
+    settle();
+}
+
+void showBalloon()
+{
+    OmBalloonTip::showBalloon(InformationMessageIcon, text(), text(), QPoint(50, 50), 1000, true,
+                              true, true);
+    settle();
+    OmBalloonTip::hideBalloon();
+    settle();
+}
+
+// Without the quarter of a second that passes before the cutter opens.
+void countDown()
+{
+    const OmScreenShooter_Private request(3000, true, true);
+    settle();
+}
+
+struct Subject
+{
+    const char *name;
+    Cycle cycle;
+    qint64 ofQt = 0; ///< bytes that Qt's own widget leaves behind in each cycle
+};
+
+std::vector<Subject> subjects()
+{
+    return {
+            {"window", filled<OmWindow>(fillWindow)},
+            {"dialog", plain<OmDialog2>()},
+            {"message box", modal([](QWidget *p) { OmMessageBox::question(p, text(), text()); })},
+            {"text input", modal([](QWidget *p) {
+                 OmInputDialog::getText(p, text(), text(), QLineEdit::Normal, text(), nullptr);
+             })},
+            {"item input", modal([](QWidget *p) {
+                 OmInputDialog::getItem(p, text(), text(), {text()}, 0, false, nullptr);
+             })},
+            {"calendar", modal([](QWidget *p) { OmCalendar::selectDate(QDate(2026, 3, 14), p); }),
+             150},
+            {"wizard", wizard<COmWizard_Standard>()},
+            {"second wizard", wizard<OmWizard_Standard2>()},
+            {"avatar", [] { showAndClose(new OmAvatar(picture())); }},
+            {"small avatar",
+             filled<OmAvatarSmall>([](OmAvatarSmall *a) { a->setAvatar(picture(), true); })},
+            {"card list", filled<OmContactCardList>(fillCards)},
+            {"rating", plain<OmRatingLabel>()},
+            {"fader and shake", fadeAndShake},
+            {"balloon", showBalloon},
+            {"info pop-up",
+             filled<OmInfoPopup>([](OmInfoPopup *p) { p->setPopupMessage(text()); })},
+            {"tray pop-up", plain<OmTrayPopup>()},
+            {"countdown", countDown},
+            {"screen cutter", [] { showAndClose(new OmScreenShooter_FullscreenCutter(nullptr)); }},
+            {"browser", filled<OmTextBrowser>([](OmTextBrowser *b) {
+                 b->append(OmSafeHtml::fromHtml(QStringLiteral("<a href='http://a.de'>x</a>")));
+             })},
+            {"text edit", filled<OmTextEdit>(typeMisspelt)},
+            {"icon combo box", openIcons},
+            {"tabs", filled<OmTabWidget>(fillTabs)},
+            {"tool bar", filled<OmToolBar>([](OmToolBar *bar) { bar->addAction(text()); })},
+            {"search field", plain<OmSearchField>()},
+            {"zebra", filled<OmScribbledZebraView>(fillZebra)},
+            {"check boxes", filled<OmCheckBoxAssortmentView>(fillAssortment)},
+            {"smooth list", filled<OmSmoothList>([](OmSmoothList *l) { l->addItem(text()); })},
+    };
+}
+
+} // namespace
+
+// OMBRIN_SOAK_CYCLES in the environment is how often each window opens and closes.
+class tst_Soak : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+        OmSkin::init(true);
+        test::SpellingFolder::needBackend();
+        m_spelling.add(QStringLiteral("aa"), {"hello", "you"});
+        OmSpelling::instance()->setDict(QStringLiteral("aa"));
+    }
+
+    void windowLeavesNothingBehind_data()
+    {
+        QTest::addColumn<int>("index");
+        const std::vector<Subject> all = subjects();
+        for (std::size_t index = 0; index < all.size(); ++index)
+            QTest::newRow(all[index].name) << static_cast<int>(index);
+    }
+    void windowLeavesNothingBehind()
+    {
+        QFETCH(int, index);
+        const Subject subject = subjects().at(static_cast<std::size_t>(index));
+        for (int count = 0; count < kWarmUp; ++count)
+            subject.cycle();
+
+        QTest::qWait(kTimersMs);
+        const int widgets = static_cast<int>(QApplication::allWidgets().size());
+        const int batch = qMax(1, cycles() / kBatches);
+        std::vector<qint64> growths;
+        qint64 before = test::heapBytes();
+        const qint64 atFirst = before;
+        for (int count = 0; count < kBatches; ++count) {
+            for (int cycle = 0; cycle < batch; ++cycle)
+                subject.cycle();
+            QTest::qWait(kTimersMs);
+            const qint64 after = test::heapBytes();
+            growths.push_back(after - before);
+            before = after;
+        }
+        qInfo("%d cycles: %lld bytes more on the heap than the %lld at first", batch * kBatches,
+              before - atFirst, atFirst);
+        QCOMPARE(static_cast<int>(QApplication::allWidgets().size()), widgets);
+
+        // What every cycle left behind would show in every batch, with at least the smallest block
+        // that malloc() hands out; a cache that grows leaves some batch out.
+        constexpr qint64 kSmallestBlock = 32;
+        const qint64 least = *std::min_element(growths.begin(), growths.end());
+        QVERIFY2(least < (kSmallestBlock + subject.ofQt) * batch,
+                 qPrintable(QStringLiteral("%1 bytes in each cycle").arg(least / batch)));
+    }
+
+private:
+    const test::SpellingFolder m_spelling;
+};
+
+OMBRIN_TEST_MAIN(tst_Soak)
+#include "tst_soak.moc"

@@ -77,6 +77,13 @@ class tst_Monkey : public ombrin::test::TestCase
 {
     Q_OBJECT
 
+protected:
+    void setUp() override
+    {
+        // Qt's own text fields, when they undo what an input method composed.
+        expectWarning(QStringLiteral("^QTextCursor::setPosition: Position '\\d+' out of range"));
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {

@@ -1,6 +1,7 @@
 #include "DesignerWidget.h"
 
 #include <ombrin/OmSkin.h>
+#include <ombrin/OmTranslation.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QRegularExpression>
@@ -22,6 +23,20 @@ QString qtBaseOf(const QMetaObject *metaObject)
     while (metaObject->className()[0] != 'Q')
         metaObject = metaObject->superClass();
     return QLatin1String(metaObject->className());
+}
+
+// The editor keeps its own palette and style: they are what its forms are shown in. Nor does one
+// that speaks English begin to speak the user's language in part.
+void joinEditor()
+{
+    static bool joined = false;
+    if (joined)
+        return;
+    joined = true;
+    OmSkin::registerPictures();
+    constexpr const char *kText = "&Copy";
+    if (QCoreApplication::translate("QWidgetTextControl", kText) != QLatin1String(kText))
+        OmTranslation::load();
 }
 
 } // namespace
@@ -107,8 +122,7 @@ void DesignerWidget::initialize(QDesignerFormEditorInterface *core)
 {
     Q_UNUSED(core)
     m_isInEditor = true;
-    // The editor keeps its own palette and style: they are what its forms are shown in.
-    OmSkin::registerPictures();
+    joinEditor();
 }
 
 QWidget *DesignerWidget::createWidget(QWidget *parent)

@@ -86,23 +86,22 @@ QString shapeOf(QString text)
                  text == text.trimmed() ? QStringLiteral("no blanks") : QStringLiteral("blanks"));
 }
 
-/// The code of \a source from \a begin, which follows an opening parenthesis, to the closing one.
-QString argumentsFrom(const QString &source, int begin)
+/// The code between an opening parenthesis, which \a source follows, and the closing one.
+QString argumentsAt(const QString &source)
 {
     int depth = 1;
     bool isText = false;
-    for (int at = begin; at < source.size(); ++at) {
-        const QChar character = source.at(at);
-        if (character == QLatin1Char('\\'))
-            ++at;
-        else if (character == QLatin1Char('"'))
+    QString found;
+    for (auto at = source.begin(); at != source.end(); ++at) {
+        if (*at == QLatin1Char('"') && !found.endsWith(QLatin1Char('\\')))
             isText = !isText;
-        else if (!isText && character == QLatin1Char('('))
+        else if (!isText && *at == QLatin1Char('('))
             ++depth;
-        else if (!isText && character == QLatin1Char(')') && --depth == 0)
-            return source.mid(begin, at - begin);
+        else if (!isText && *at == QLatin1Char(')') && --depth == 0)
+            break;
+        found += *at;
     }
-    return QString();
+    return found;
 }
 
 } // namespace
@@ -188,12 +187,10 @@ void tst_TranslationFiles::noTextEscapesTranslation()
             QString source = QString::fromUtf8(file.readAll());
             source.remove(QRegularExpression(QStringLiteral("//[^\\n]*")));
             for (auto found = showing.globalMatch(source); found.hasNext(); ++calls) {
-                QString shown = argumentsFrom(source, found.next().capturedEnd());
+                QString shown = argumentsAt(source.mid(found.next().capturedEnd()));
                 for (auto call = translating.match(shown); call.hasMatch();
                      call = translating.match(shown)) {
-                    const QString inside = argumentsFrom(shown, call.capturedEnd());
-                    shown.remove(call.capturedStart(),
-                                 call.capturedEnd() - call.capturedStart() + inside.size());
+                    shown.remove(call.captured() + argumentsAt(shown.mid(call.capturedEnd())));
                 }
                 // Paths of pictures are no texts.
                 shown.remove(QRegularExpression(QStringLiteral("\":/[^\"]*\"")));

@@ -9,7 +9,8 @@
 # No line is added or taken away, so that Doxygen's warnings name the right ones.
 
 function document(text) {
-    sub(/^ +/, "    /*! " text " */ ", declaration)
+    sub(/^ +/, "", declaration)
+    declaration = "    /*! " text " */ " declaration
 }
 
 function hide() {
@@ -44,7 +45,7 @@ function finish_declaration(name) {
         finish_property()
     else if (documented || declaration ~ /\/\/\/</)
         ;
-    else if (name ~ /^~/ || declaration ~ /^ *(using) |\) *(const )?(noexcept )?override|= delete;/)
+    else if (name ~ /^~/ || declaration ~ /^ *using [^=]*;|\) *(const )?(noexcept )?override|= delete;/)
         hide()
     else if (comment != "")
         document(comment)
@@ -106,7 +107,7 @@ declaration != "" {
 }
 
 {
-    if ($0 == "" || /:$/)
+    if ($0 == "" || /[:{]$/)
         comment = ""
     documented = 0
     print

@@ -135,10 +135,10 @@ int run(int argc, char *argv[])
     }
 
     const QApplication application(argc, argv);
-    const Languages languages(commandLine.language);
     if (commandLine.task == CommandLine::Task::TakeOneDensity)
         example::pinLook();
     ombrin::OmSkin::init(true);
+    const Languages languages(commandLine.language);
     return commandLine.task == CommandLine::Task::TakeOneDensity ? takeOneDensity(commandLine)
                                                                  : chat(commandLine);
 }

@@ -34,7 +34,10 @@ constexpr QSize kChatSize(520, 480);
 constexpr QSize kProfileSize(400, 400);
 constexpr QSize kWizardSize(500, 400);
 constexpr int kBalloonMs = 6000;
-constexpr int kLongestNote = 140;
+constexpr int kLongestNote = 60;
+// From the middle of the screen, so that contacts and conversations stand side by side.
+constexpr QPoint kChatOffset(160, 0);
+constexpr QPoint kProfileOffset(120, 60);
 
 QString preferencesKey()
 {
@@ -53,7 +56,8 @@ QString noteOf(const Message &message)
     case Message::Kind::Text:
         break;
     }
-    return asLine(message.text, kLongestNote);
+    const QString note = asLine(message.text, kLongestNote + 1);
+    return note.size() <= kLongestNote ? note : note.left(kLongestNote) + QChar(0x2026);
 }
 
 void bringForward(QWidget *window)
@@ -179,7 +183,8 @@ ChatWindow *Client::openChat(const QString &contactId)
     QPointer<ChatWindow> &chat = m_chats[contactId];
     if (!chat) {
         chat = new ChatWindow(m_session, contactId, m_preferences);
-        new WindowMemory(chat, QStringLiteral("chat-") + contactId, kChatSize, &m_session->state());
+        new WindowMemory(chat, QStringLiteral("chat-") + contactId, kChatSize, kChatOffset,
+                         &m_session->state());
         connect(chat, &ChatWindow::actionId, this, &Client::perform);
     }
     bringForward(chat);
@@ -191,7 +196,8 @@ ProfileWindow *Client::openProfile(const QString &contactId)
     QPointer<ProfileWindow> &profile = m_profiles[contactId];
     if (!profile) {
         profile = new ProfileWindow(m_session, contactId);
-        new WindowMemory(profile, QStringLiteral("profile"), kProfileSize, &m_session->state());
+        new WindowMemory(profile, QStringLiteral("profile"), kProfileSize, kProfileOffset,
+                         &m_session->state());
         connect(profile, &ProfileWindow::actionId, this, &Client::perform);
     }
     bringForward(profile);

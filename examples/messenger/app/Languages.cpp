@@ -1,5 +1,7 @@
 #include "app/Languages.h"
 
+#include <ombrin/OmTranslation.h>
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
 
@@ -7,16 +9,13 @@ namespace messenger {
 
 Languages::Languages(const QString &code)
 {
-    const QLocale locale = code.isEmpty() ? QLocale::system() : QLocale(code);
+    // Dates and times are in the language, too.
     if (!code.isEmpty())
-        QLocale::setDefault(locale); // dates and times, too
+        QLocale::setDefault(QLocale(code));
     const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/translations");
-    const auto install = [&](QTranslator *translator, const QString &name) {
-        if (translator->load(locale, name, QStringLiteral("_"), folder))
-            QCoreApplication::installTranslator(translator);
-    };
-    install(&m_library, QStringLiteral("ombringui"));
-    install(&m_messenger, QStringLiteral("messenger"));
+    if (m_messenger.load(QLocale(), QStringLiteral("messenger"), QStringLiteral("_"), folder))
+        QCoreApplication::installTranslator(&m_messenger);
+    ombrin::OmTranslation::load();
 }
 
 } // namespace messenger

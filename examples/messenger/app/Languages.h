@@ -13,7 +13,6 @@ public:
     explicit Languages(const QString &code);
 
 private:
-    QTranslator m_library;
     QTranslator m_messenger;
 };
 

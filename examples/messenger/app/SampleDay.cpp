@@ -17,10 +17,10 @@ using Kind = Message::Kind;
 
 const QDate kDay(2026, 3, 14);
 
-QString tr(const char *text)
+struct SampleDay
 {
-    return QCoreApplication::translate("SampleDay", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SampleDay)
+};
 
 QDateTime at(int days, int hour, int minute)
 {
@@ -30,32 +30,35 @@ QDateTime at(int days, int hour, int minute)
 void talkWithAnna(const History &history, const QString &picture)
 {
     history.append({at(-1, 21, 4), From::Contact, Kind::Text,
-                    tr("Will you come to the rehearsal tomorrow?")});
-    history.append(
-            {at(-1, 21, 6), From::Me, Kind::Text, tr("Of course! I bring the new score :-)")});
-    history.append({at(0, 9, 41), From::Contact, Kind::Text, tr("Good morning! Look where I am:")});
+                    SampleDay::tr("Will you come to the rehearsal tomorrow?")});
+    history.append({at(-1, 21, 6), From::Me, Kind::Text,
+                    SampleDay::tr("Of course! I bring the new score :-)")});
+    history.append({at(0, 9, 41), From::Contact, Kind::Text,
+                    SampleDay::tr("Good morning! Look where I am:")});
     history.append({at(0, 9, 41), From::Contact, Kind::Picture, picture});
-    history.append({at(0, 9, 45), From::Me, Kind::Text,
-                    tr("How beautiful! Is that the hut from https://www.example.org/hut ?")});
-    history.append({at(0, 9, 45), From::Me, Kind::Text, tr("I envy you ;-)")});
+    history.append(
+            {at(0, 9, 45), From::Me, Kind::Text,
+             SampleDay::tr("How beautiful! Is that the hut from https://www.example.org/hut ?")});
+    history.append({at(0, 9, 45), From::Me, Kind::Text, SampleDay::tr("I envy you ;-)")});
     history.append({at(0, 9, 46), From::Contact, Kind::Nudge, QString()});
     history.append(
             {at(0, 9, 47), From::Contact, Kind::Text,
-             tr("It is. Write to anna@example.org if you want the key, I send it by post.")});
+             SampleDay::tr(
+                     "It is. Write to anna@example.org if you want the key, I send it by post.")});
 }
 
 } // namespace
 
 QString sampleName()
 {
-    return tr("Mira Sandberg");
+    return SampleDay::tr("Mira Sandberg");
 }
 
 void livePartOfDay(Session *session, const ProfileFolder &folder)
 {
     Account account = Account::create(sampleName(), QStringLiteral("chat.example.org"));
     account.id = QStringLiteral("mira");
-    account.remark = tr("Packing for the weekend");
+    account.remark = SampleDay::tr("Packing for the weekend");
     session->setAccount(account);
     const QString portraits =
             QFileInfo(session->roster().contact(QStringLiteral("anna")).picture).path();

@@ -27,7 +27,7 @@ bool mentions(const QString &text, std::initializer_list<const char *> words)
 QString hostileHtml()
 {
     return QStringLiteral("<script>alert(1)</script><b>%1</b> <img src=\"file:///etc/passwd\" "
-                          "alt=\"[%2]\"><a href=\"javascript:steal()\">%3</a>, "
+                          "alt=\"[%2]\"> <a href=\"javascript:steal()\">%3</a>, "
                           "<a href=\"https://www.example.org/\">%4</a>.");
 }
 
@@ -72,8 +72,8 @@ void ScriptedContact::answer(const QString &text)
         add(Deed::Picture, QString(), kThinkMs);
     } else if (mentions(text, {"link", "phone", "mail", "telefon"})) {
         write(tr(
-                "Point at these to see where they lead: https://www.example.org/, anna@example.org "
-                "and +46 8 5550 0112."));
+                "Point at these to see where they lead: https://www.example.org/ and "
+                "anna@example.org."));
     } else if (mentions(text, {"html"})) {
         write(tr("Somebody who means harm might send you this:"));
         add(Deed::Html,

@@ -7,8 +7,8 @@ namespace messenger {
 
 namespace {
 
-constexpr int kGreetingMs = 10'000;
-constexpr int kPeriodMs = 10'000;
+constexpr int kGreetingMs = 10000;
+constexpr int kPeriodMs = 10000;
 // People, and programs that speak for them, say less.
 constexpr int kMostLinesInPeriod = 400;
 constexpr qint64 kReadAtOnce = 64 << 10;

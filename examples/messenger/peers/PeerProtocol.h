@@ -30,7 +30,7 @@ namespace messenger {
 
 constexpr int kProtocolVersion = 1;
 constexpr int kLongestLine = 4 << 20;
-constexpr int kLongestText = 20'000;
+constexpr int kLongestText = 20000;
 constexpr int kLongestPeerId = 40;
 constexpr int kLongestName = 60;
 constexpr int kLongestRemark = 120;

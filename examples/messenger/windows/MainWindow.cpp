@@ -23,6 +23,7 @@ namespace {
 constexpr int kMargin = 8;
 constexpr int kGap = 6;
 constexpr QSize kFirstSize(300, 600);
+constexpr QPoint kFirstOffset(-270, 0);
 
 QString filterKey()
 {
@@ -65,7 +66,7 @@ MainWindow::MainWindow(Session *session)
     m_contacts->setFilter(m_filters->filter());
     refreshStatus();
     m_contacts->setFocus();
-    new WindowMemory(this, QStringLiteral("main"), kFirstSize, &session->state());
+    new WindowMemory(this, QStringLiteral("main"), kFirstSize, kFirstOffset, &session->state());
 }
 
 MainWindow::~MainWindow() = default;

@@ -76,7 +76,7 @@ void OwnPanel::createRemark()
     m_remark->setAccessibleName(tr("Your remark"));
     m_remark->setStatusTip(tr("What you are up to, for others to read"));
     m_remark->setMinimumSize(60, m_presence->sizeHint().height());
-    m_remark->setNoFocusMessage(tr("What are you up to?"));
+    m_remark->setNoFocusMessage(tr("What is up?"));
     connect(m_remark, &QLineEdit::editingFinished, this, &OwnPanel::setRemark);
 }
 

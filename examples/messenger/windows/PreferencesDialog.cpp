@@ -26,9 +26,8 @@ QString dictionaryNames(const QString &codes)
     for (const QString &code : codes.split(QLatin1Char(','))) {
         const QLocale locale(code);
         const bool isKnown = locale.language() != QLocale::C;
-        names.append(isKnown ? QStringLiteral("%1 (%2)").arg(
-                             QLocale::languageToString(locale.language()),
-                             code.section(QLatin1Char('_'), 1))
+        names.append(isKnown ? QStringLiteral("%1 (%2)").arg(locale.nativeLanguageName(),
+                                                             code.section(QLatin1Char('_'), 1))
                              : code);
     }
     return names.join(QStringLiteral(" + "));

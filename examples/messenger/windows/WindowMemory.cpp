@@ -14,7 +14,7 @@ namespace messenger {
 namespace {
 
 constexpr int kSettledMs = 300;
-constexpr int kLargestShift = 120;
+constexpr int kLargestShift = 50;
 
 int randomShift()
 {
@@ -37,7 +37,7 @@ QRect toRect(const QJsonArray &numbers)
 } // namespace
 
 WindowMemory::WindowMemory(QWidget *window, const QString &name, const QSize &size,
-                           StateFile *state)
+                           const QPoint &offset, StateFile *state)
     : QObject(window)
     , m_window(window)
     , m_name(name)
@@ -51,7 +51,7 @@ WindowMemory::WindowMemory(QWidget *window, const QString &name, const QSize &si
         window->resize(size);
         ombrin::OmDesktop::setCentered(window);
         // Windows of several copies should not hide each other.
-        window->move(window->pos() + QPoint(randomShift(), randomShift()));
+        window->move(window->pos() + offset + QPoint(randomShift(), randomShift()));
     }
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &WindowMemory::save);

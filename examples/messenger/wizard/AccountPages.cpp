@@ -8,6 +8,7 @@
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QFileDialog>
@@ -49,6 +50,13 @@ AccountPage::AccountPage()
 {
     m_column->setContentsMargins(8, 4, 8, 0);
     m_column->setSpacing(6);
+}
+
+void AccountPage::Activate()
+{
+    COmWizard_Page_Base::Activate();
+    // The wizard has not taken the page in yet.
+    QTimer::singleShot(0, this, [this] { setFocus(); });
 }
 
 AccountMission *AccountPage::mission() const

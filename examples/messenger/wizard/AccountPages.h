@@ -20,6 +20,8 @@ public:
     AccountPage();
 
 protected:
+    /// Takes the keyboard, too.
+    void Activate() override;
     /// Null while the page is not the current one.
     AccountMission *mission() const;
     QVBoxLayout *column() const { return m_column; }

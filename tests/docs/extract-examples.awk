@@ -1,13 +1,35 @@
-# Writes one C++ source, the variable output, of all examples in headers (\code ... \endcode) and guides (```cpp ... ```).
+# Writes one C++ source, the variable output, of all examples in headers (\code ... \endcode) and
+# guides (```cpp ... ```).
 #
 # An example with a function or an include of its own stands in a namespace; any other is the body
 # of a member function of the host that Host.h declares for the file it is in. The compiler's
 # messages name file and line of the example.
 
+# A header whose class has no example, or no place among the topics, does not compile either.
+function check_header() {
+    if (class != "" && (!has_example || !has_group))
+        examples = examples "#error \"" class ": no \\code, or no \\ingroup\"\n"
+    class = ""
+    has_example = has_group = 0
+}
+
 FNR == 1 {
+    check_header()
     tag = FILENAME
     sub(/.*\//, "", tag)
     gsub(/[^A-Za-z0-9]/, "_", tag)
+}
+
+FILENAME ~ /\.h$/ && /^class [^;]*$/ {
+    class = FILENAME
+}
+
+/\\code$/ {
+    has_example = 1
+}
+
+/\\ingroup / {
+    has_group = 1
 }
 
 !inside && (/^ *\/\/\/ *\\code$/ || /^```cpp$/) {
@@ -44,6 +66,7 @@ inside {
 }
 
 END {
+    check_header()
     print "// Made by extract-examples.awk." > output
     print includes > output
     print "#include \"Host.h\"" > output

@@ -187,6 +187,8 @@ ChatWindow *Client::openChat(const QString &contactId)
                          &m_session->state());
         connect(chat, &ChatWindow::actionId, this, &Client::perform);
     }
+    // What it said is to be read in the window.
+    ombrin::OmBalloonTip::hideBalloon();
     bringForward(chat);
     return chat;
 }

@@ -10,6 +10,9 @@ namespace {
 
 namespace Om = ombrin::Om;
 
+// Nobody knows more people on one machine.
+constexpr int kMostPeers = 200;
+
 QString stateKey()
 {
     return QStringLiteral("contacts");
@@ -129,6 +132,8 @@ void Roster::change(const QString &id, Value Contact::*member, const Value &valu
 
 void Roster::putPeer(const Contact &peer)
 {
+    if (!contains(peer.id) && m_contacts.size() >= m_book.size() + kMostPeers)
+        return;
     remember(peer.id, peerNameKey(), peer.alias);
     remember(peer.id, peerPictureKey(), peer.picture);
     remember(peer.id, removedKey(), false);

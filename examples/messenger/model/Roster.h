@@ -29,7 +29,7 @@ public:
     bool contains(const QString &id) const { return indexOf(id) >= 0; }
     QStringList groups() const;
 
-    /// A peer as it presents itself now; it is added if it is new.
+    /// A peer as it presents itself now; it is added if it is new and there are not too many.
     void putPeer(const Contact &peer);
     void setStatus(const QString &id, ombrin::Om::ContactStatus status);
     void setBlocked(const QString &id, bool isBlocked);

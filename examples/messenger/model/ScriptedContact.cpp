@@ -71,9 +71,8 @@ void ScriptedContact::answer(const QString &text)
         write(tr("Here is the view from my window. Its context menu saves it."));
         add(Deed::Picture, QString(), kThinkMs);
     } else if (mentions(text, {"link", "phone", "mail", "telefon"})) {
-        write(tr(
-                "Point at these to see where they lead: https://www.example.org/ and "
-                "anna@example.org."));
+        write(tr("Point at these to see where they lead: https://www.example.org/ and "
+                 "anna@example.org."));
     } else if (mentions(text, {"html"})) {
         write(tr("Somebody who means harm might send you this:"));
         add(Deed::Html,

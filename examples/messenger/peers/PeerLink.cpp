@@ -11,6 +11,7 @@ constexpr int kGreetingMs = 10000;
 constexpr int kPeriodMs = 10000;
 // People, and programs that speak for them, say less.
 constexpr int kMostLinesInPeriod = 400;
+constexpr qint64 kMostBytesInPeriod = 8 * kLongestLine;
 constexpr qint64 kReadAtOnce = 64 << 10;
 constexpr qint64 kLargestBacklog = 4 * kLongestLine;
 
@@ -81,7 +82,7 @@ void PeerLink::read()
             return;
         }
         while (const std::optional<QByteArray> line = m_reader.nextLine()) {
-            if (isTooMuch())
+            if (isTooMuch(line->size()))
                 close();
             else
                 take(*line);
@@ -91,13 +92,15 @@ void PeerLink::read()
     }
 }
 
-bool PeerLink::isTooMuch()
+bool PeerLink::isTooMuch(qint64 byteCount)
 {
     if (m_period.hasExpired(kPeriodMs)) {
         m_period.start();
         m_linesInPeriod = 0;
+        m_bytesInPeriod = 0;
     }
-    return ++m_linesInPeriod > kMostLinesInPeriod;
+    m_bytesInPeriod += byteCount;
+    return ++m_linesInPeriod > kMostLinesInPeriod || m_bytesInPeriod > kMostBytesInPeriod;
 }
 
 void PeerLink::take(const QByteArray &line)

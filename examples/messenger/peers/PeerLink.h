@@ -39,7 +39,7 @@ Q_SIGNALS:
 private:
     void read();
     void take(const QByteArray &line);
-    bool isTooMuch();
+    bool isTooMuch(qint64 byteCount);
     void noteClosed();
 
     QLocalSocket *m_socket;
@@ -47,6 +47,7 @@ private:
     PeerMessage m_peer;
     QElapsedTimer m_period;
     int m_linesInPeriod = 0;
+    qint64 m_bytesInPeriod = 0;
     bool m_isClosed = false;
 };
 

@@ -1,0 +1,178 @@
+#include "support/TestCase.h"
+#include "support/XUser.h"
+
+#include <QtCore/QLibraryInfo>
+#include <QtGui/QClipboard>
+#include <QtGui/QScreen>
+
+namespace {
+
+constexpr int kPatience = 30000;
+// What the default skin calls Window, and no palette of Qt's.
+constexpr QRgb kWindowColor = 0xffefeff0;
+
+QImage screenshot()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage().convertToFormat(
+            QImage::Format_RGB32);
+}
+
+int count(const QImage &picture, QRgb color)
+{
+    int found = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        found += static_cast<int>(std::count(line, line + picture.width(), color));
+    }
+    return found;
+}
+
+QStringList search(const QString &arguments)
+{
+    return ombrin::test::runBeside(
+                   QStringLiteral("xdotool"),
+                   QStringLiteral("search --onlyvisible %1").arg(arguments).split(QLatin1Char(' ')))
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+// Programs that nobody here wrote, started in the plug-in's style, do what they do without it.
+class tst_ForeignPrograms : public ombrin::test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void programsWork_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("work");
+        QTest::addColumn<QString>("result");
+
+        QTest::newRow("speedcrunch") << QString() << "alt+e"
+                                     << "type 6*7\nkey Return sleep 0.2 key ctrl+r"
+                                     << "42";
+        QTest::newRow("linguist") << translation() << "alt+v"
+                                  << "key ctrl+shift+k sleep 0.2 key ctrl+a key ctrl+c"
+                                  << "Hallo";
+        QTest::newRow("designer") << QString() << "alt+f"
+                                  << "key ctrl+a key ctrl+c"
+                                  << "QDialogButtonBox";
+    }
+    void programsWork()
+    {
+        QFETCH(QString, arguments);
+        QFETCH(QString, menu);
+        QFETCH(QString, work);
+        QFETCH(QString, result);
+        const QString name = QString::fromLatin1(QTest::currentDataTag());
+
+        ombrin::test::xdo(QStringLiteral("mousemove 0 1000")); // no tool tips
+        start(name, arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        QVERIFY2(waitFor([&] { return isActive(); }, kPatience), m_program.readAll().constData());
+        if (name == QLatin1String("designer")) { // it asks first what to make
+            QVERIFY(waitFor([&] { return windows() == 2; }, kPatience));
+            QVERIFY(insist(QStringLiteral("key Return"), [&] { return windows() == 1; }));
+        }
+        const int count = windows();
+        QVERIFY(insist(QStringLiteral("key ") + menu, [&] { return windows() > count; }));
+        QVERIFY(photograph(name + QStringLiteral("-menu")));
+        QVERIFY(insist(QStringLiteral("key Escape key Escape\n") + work,
+                       [&] { return QGuiApplication::clipboard()->text().contains(result); }));
+        QVERIFY(photograph(name));
+        QVERIFY(insist(QStringLiteral("key ctrl+q"),
+                       [&] { return m_program.state() == QProcess::NotRunning; }));
+        QCOMPARE(m_program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(m_program.exitCode(), 0);
+    }
+
+protected:
+    void tearDown() override
+    {
+        m_program.kill();
+        m_program.waitForFinished();
+    }
+
+private:
+    void start(const QString &name, const QStringList &arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+            environment.insert(QLatin1String(folder), m_home.path());
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(OMBRIN_PLUGIN_FOLDER));
+        environment.insert(QStringLiteral("QT_STYLE_OVERRIDE"), QStringLiteral("ombrin"));
+        environment.insert(QStringLiteral("OMBRIN_SKIN_PATH"),
+                           QCoreApplication::applicationDirPath() + QStringLiteral("/skins"));
+        m_program.setProcessEnvironment(environment);
+        m_program.setProcessChannelMode(QProcess::MergedChannels);
+        QString program = QStandardPaths::findExecutable(
+                name, {QLibraryInfo::location(QLibraryInfo::BinariesPath)});
+        if (program.isEmpty())
+            program = name;
+        m_program.start(program, arguments);
+    }
+
+    // A file for the linguist.
+    QString translation() const
+    {
+        const QString path = m_home.filePath(QStringLiteral("hello.ts"));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            qWarning("cannot write %s", qPrintable(path));
+        file.write("<!DOCTYPE TS><TS version='2.1' language='de'><context><name>Greetings</name>"
+                   "<message><source>Hello</source><translation>Hallo</translation></message>"
+                   "</context></TS>");
+        return path;
+    }
+
+    int windows() const
+    {
+        return search(QStringLiteral("--pid %1").arg(m_program.processId())).size();
+    }
+
+    // Whether one of the program's windows gets what is typed.
+    bool isActive() const
+    {
+        const QString owner = ombrin::test::runBeside(
+                QStringLiteral("xdotool"),
+                {QStringLiteral("getactivewindow"), QStringLiteral("getwindowpid")});
+        return owner.trimmed() == QString::number(m_program.processId());
+    }
+
+    // Does something with the keyboard until it is seen to have worked: a program that is still
+    // starting may miss it.
+    template <typename Condition>
+    static bool insist(const QString &keys, Condition condition)
+    {
+        constexpr int kAttempts = 5;
+        for (int attempt = 0; attempt < kAttempts && !condition(); ++attempt) {
+            for (const QString &part : keys.split(QLatin1Char('\n')))
+                ombrin::test::xdo(part);
+            if (waitFor(condition, kPatience / 3))
+                return true;
+        }
+        return condition();
+    }
+
+    // Keeps the picture of a screen that shows the skin's colours.
+    static bool photograph(const QString &name)
+    {
+        constexpr int kEnough = 5000;
+        QImage picture;
+        const auto isSkinned = [&] {
+            picture = screenshot();
+            return count(picture, kWindowColor) > kEnough;
+        };
+        const QString folder = QStringLiteral(OMBRIN_PHOTOGRAPHS);
+        return waitFor(isSkinned, kPatience) && QDir().mkpath(folder)
+               && picture.save(QStringLiteral("%1/%2.png").arg(folder, name));
+    }
+
+    QTemporaryDir m_home;
+    QProcess m_program;
+};
+
+OMBRIN_TEST_MAIN(tst_ForeignPrograms)
+#include "tst_foreignprograms.moc"

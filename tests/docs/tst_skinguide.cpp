@@ -1,3 +1,4 @@
+#include "SourceFolder.h"
 #include "support/TestCase.h"
 
 #include <ombrin/OmSkin.h>

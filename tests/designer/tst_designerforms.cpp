@@ -292,8 +292,6 @@ void tst_DesignerForms::hostileFormsAreHarmless_data()
     row("internalId", "OmContactCard", "string", QStringLiteral("no number"));
     row("offset", "OmImageButton", "number", biggest);
     row("maxLength", "OmTextEdit", "number", smallest);
-    row("elideMode", "OmLabel", "number", QStringLiteral("99"));
-    row("textElideMode", "OmLinkButton", "number", QStringLiteral("-1"));
     row("currentIndex", "OmTabWidget", "number", biggest);
     row("icon", "OmMenuItem", "string", QStringLiteral("/dev/zero"));
     row("pixmap", "OmImageMaskedWidget", "string", QStringLiteral("no picture"));

@@ -1,8 +1,12 @@
 #include "skin/ResourceFile.h"
 
+#include "skin/SkinPixmap.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QtEndian>
 
+#include <algorithm>
+#include <array>
 #include <limits>
 #include <vector>
 
@@ -15,7 +19,12 @@ constexpr qint64 kHeaderSize = 20;
 // Format 1. From format 2 on a node ends with a date of 8 bytes.
 constexpr qint64 kNodeSize = 14;
 constexpr qint64 kDateSize = 8;
+constexpr quint16 kDeflatedFlag = 1;
 constexpr quint16 kDirectoryFlag = 2;
+constexpr quint16 kZstandardFlag = 4;
+// What the largest picture takes that a skin may hold. Qt believes what a packed file says of its
+// size, and allocates it.
+constexpr quint64 kMaxUnpackedSize = 4ull * kMaxSkinImageExtent * kMaxSkinImageExtent;
 
 class ResourceFile
 {
@@ -58,7 +67,7 @@ private:
             if (!holds(offset, m_nodeSize) || (node > 0 && !isNameIntact(read32(offset))))
                 return false;
             if (!(read16(offset + 4) & kDirectoryFlag)) {
-                if (!isContentIntact(read32(offset + 10)))
+                if (!isContentIntact(read32(offset + 10), read16(offset + 4)))
                     return false;
                 continue;
             }
@@ -93,10 +102,41 @@ private:
     }
 
     // Length in bytes, bytes.
-    bool isContentIntact(qint64 content) const
+    bool isContentIntact(qint64 content, quint16 flags) const
     {
         const qint64 offset = m_data + content;
-        return holds(offset, 4) && holds(offset + 4, read32(offset));
+        if (!holds(offset, 4) || !holds(offset + 4, read32(offset)))
+            return false;
+        const qint64 length = read32(offset);
+        if (flags & kDeflatedFlag)
+            return length < 4 || read32(offset + 4) <= kMaxUnpackedSize;
+        if (flags & kZstandardFlag)
+            return zstandardSize(m_bytes + offset + 4, length) <= kMaxUnpackedSize;
+        return true;
+    }
+
+    // The size that the header of a Zstandard frame tells, 0 if it tells none.
+    static quint64 zstandardSize(const uchar *frame, qint64 length)
+    {
+        constexpr int kDictionarySizes[] = {0, 1, 2, 4};
+        constexpr int kMagicSize = 4;
+        constexpr int kLongestHeader = kMagicSize + 14;
+        if (length < kLongestHeader)
+            return 0; // too short to hold more than a few bytes
+        const int descriptor = frame[kMagicSize];
+        const bool isSingleSegment = descriptor & 0x20;
+        const uchar *const size =
+                frame + kMagicSize + (isSingleSegment ? 1 : 2) + kDictionarySizes[descriptor & 3];
+        switch (descriptor >> 6) {
+        case 0:
+            return isSingleSegment ? size[0] : 0;
+        case 1:
+            return 256 + quint64(qFromLittleEndian<quint16>(size));
+        case 2:
+            return qFromLittleEndian<quint32>(size);
+        default:
+            return qFromLittleEndian<quint64>(size);
+        }
     }
 
     const uchar *m_bytes;

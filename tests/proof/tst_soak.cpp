@@ -51,8 +51,8 @@ using Cycle = std::function<void()>;
 constexpr int kBatches = 5;
 constexpr int kWarmUp = 100;
 constexpr int kTimersMs = 60; // the library's single-shot timers take 20
-// What a run of all tests has time for.
-constexpr int kCycles = test::kIsSanitized ? 300 : 5000;
+// What a run of all tests has time for; `./test --soak` has more.
+constexpr int kCycles = test::kIsSanitized ? 300 : 2000;
 
 int cycles()
 {

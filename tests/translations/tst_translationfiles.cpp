@@ -75,15 +75,12 @@ QString shapeOf(QString text)
     for (auto found = place.globalMatch(text); found.hasNext();)
         places.append(found.next().captured());
     places.sort();
-    const QString end = text.trimmed().right(1);
-    const bool isClosed = QStringLiteral(".:!?<>").contains(end);
-    return QStringLiteral("%1 mnemonics, places %2, ends in \"%3\", %4")
+    const bool isContinued = text.endsWith(QLatin1String("...")) || text.endsWith(QChar(0x2026));
+    return QStringLiteral("%1 mnemonics, places %2%3%4")
             .arg(text.count(QLatin1Char('&')))
             .arg(places.join(QLatin1Char(' ')),
-                 text.endsWith(QLatin1String("...")) ? QStringLiteral("...")
-                 : isClosed                          ? end
-                                                     : QString(),
-                 text == text.trimmed() ? QStringLiteral("no blanks") : QStringLiteral("blanks"));
+                 isContinued ? QStringLiteral(", ellipsis") : QString(),
+                 text == text.trimmed() ? QString() : QStringLiteral(", blanks"));
 }
 
 /// The code between an opening parenthesis, which \a source follows, and the closing one.

@@ -224,7 +224,7 @@ private Q_SLOTS:
         WordListBackend::hold().unlock();
 
         // What is asked for goes before what was begun in advance.
-        QTRY_VERIFY(ready.contains({word("sxx")}));
+        QTRY_VERIFY_WITH_TIMEOUT(ready.contains({word("sxx")}), 20000);
         QVERIFY(ready.indexOf({word("sxx")}) <= 1);
         QVERIFY(m_spelling->prepareSuggestions(word("bxx"), 5000));
         QCOMPARE(m_spelling->suggestionList(word("bxx")), QStringList(word("Berlin")));

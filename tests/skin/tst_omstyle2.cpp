@@ -4,17 +4,11 @@
 #include <ombrin/OmStyle2.h>
 
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
-#include <QtWidgets/QMenuBar>
-#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyleFactory>
-#include <QtWidgets/QTabBar>
-#include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolBox>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
@@ -72,36 +66,6 @@ protected:
         Widget::paintEvent(event);
     }
 };
-
-void fillWithControls(QWidget *window)
-{
-    auto *layout = new QVBoxLayout(window);
-    auto *menuBar = new QMenuBar;
-    menuBar->addAction(QStringLiteral("File"));
-    layout->setMenuBar(menuBar);
-    const auto add = [layout](auto *control) {
-        layout->addWidget(control);
-        return control;
-    };
-    auto *tree = add(new QTreeWidget);
-    tree->addTopLevelItem(new QTreeWidgetItem({QStringLiteral("parent")}));
-    tree->topLevelItem(0)->addChild(new QTreeWidgetItem({QStringLiteral("child")}));
-    auto *box = add(new QCheckBox(QStringLiteral("box")));
-    box->setTristate(true);
-    box->setCheckState(Qt::PartiallyChecked);
-    add(new QComboBox)->addItem(QStringLiteral("item"));
-    add(new QProgressBar)->setRange(0, 0);
-    auto *tabs = add(new QTabBar);
-    tabs->addTab(QStringLiteral("one"));
-    tabs->addTab(QStringLiteral("two"));
-    add(new QToolBox)->addItem(new QWidget, QStringLiteral("page"));
-    add(new QToolBar)->addAction(QStringLiteral("tool"));
-    add(new QDockWidget(QStringLiteral("dock")));
-    add(new QLineEdit);
-    add(new QSpinBox);
-    add(new QScrollBar(Qt::Horizontal));
-    add(new QToolButton);
-}
 
 } // namespace
 
@@ -181,26 +145,6 @@ private Q_SLOTS:
                  size + QSize(6, 5)); // what every style adds
     }
 
-    void menuBarAndToolBarHaveNoSpacing()
-    {
-        QMenuBar menuBar;
-        setStyleOfTree(&menuBar, m_style.get());
-        QAction *first = menuBar.addAction(QStringLiteral("File"));
-        QAction *second = menuBar.addAction(QStringLiteral("Edit"));
-        menuBar.resize(200, menuBar.sizeHint().height());
-        menuBar.show();
-        QCOMPARE(menuBar.actionGeometry(first).topLeft(), QPoint(2, 2));
-        QCOMPARE(menuBar.actionGeometry(second).left(), menuBar.actionGeometry(first).right() + 1);
-
-        QToolBar toolBar;
-        toolBar.setStyle(m_style.get());
-        first = toolBar.addAction(QStringLiteral("a"));
-        second = toolBar.addAction(QStringLiteral("b"));
-        toolBar.show();
-        QCOMPARE(toolBar.widgetForAction(second)->x(),
-                 toolBar.widgetForAction(first)->geometry().right() + 1);
-    }
-
     // Title bar, buttons and content lie where they lie under the plain style.
     void dockLooksAsUnderThePlainStyle()
     {
@@ -275,17 +219,6 @@ private Q_SLOTS:
         QVERIFY(waitFor([&] { return bar->paints > before; }));
     }
 
-    void toolBoxShowsItsCaptions()
-    {
-        QToolBox box;
-        box.addItem(new QWidget, QString());
-        setStyleOfTree(&box, m_style.get());
-        box.resize(120, 80);
-        const QImage bare = box.grab().toImage();
-        box.setItemText(0, QStringLiteral("Caption"));
-        QVERIFY(box.grab().toImage() != bare);
-    }
-
     void checkableItemShowsItsMark()
     {
         QTreeWidget tree;
@@ -306,44 +239,6 @@ private Q_SLOTS:
         QCOMPARE(greenPixels(), 0);
         item->setCheckState(0, Qt::Checked);
         QVERIFY(greenPixels() > 15);
-    }
-
-    void allControlsPaintUnderIt_data()
-    {
-        QTest::addColumn<QString>("styleSheet");
-        QTest::addColumn<bool>("rightToLeft");
-        const QString sheet = QStringLiteral("* { color: #123456 } QCheckBox { spacing: 9px }"
-                                             "QTabBar::tab:selected { font-weight: bold }");
-        QTest::newRow("plain") << QString() << false;
-        QTest::newRow("right to left") << QString() << true;
-        QTest::newRow("style sheet") << sheet << false;
-        QTest::newRow("style sheet, right to left") << sheet << true;
-    }
-    void allControlsPaintUnderIt()
-    {
-        QFETCH(const QString, styleSheet);
-        QFETCH(const bool, rightToLeft);
-        QApplication::setStyle(new OmStyle2);
-        qApp->setStyleSheet(styleSheet);
-        {
-            QWidget window;
-            window.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-            fillWithControls(&window);
-            window.show();
-            const QImage enabled = window.grab().toImage();
-            QCOMPARE(window.grab().toImage(), enabled);
-            window.setEnabled(false);
-            QVERIFY(window.grab().toImage() != enabled);
-
-            // Switched while everything is on screen, and back.
-            window.setEnabled(true);
-            QApplication::setStyle(makePlainStyle());
-            window.grab();
-            QApplication::setStyle(new OmStyle2);
-            QCOMPARE(window.grab().toImage().size(), enabled.size());
-        }
-        qApp->setStyleSheet(QString());
-        prepareApplication();
     }
 
     void searchFieldLeavesRoomForItsIcons();

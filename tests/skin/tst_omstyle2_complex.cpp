@@ -123,51 +123,6 @@ private Q_SLOTS:
         QCOMPARE(drawn(QStyle::CE_ScrollBarAddLine, bar), down);
     }
 
-    // However the painter is set up, the picture is what drawPixmap() gives.
-    void partsFollowThePainter()
-    {
-        const auto bar = scrollBar(QRect(5, 6, 16, 60), Qt::Vertical);
-        const QPixmap picture(kPictureOf[5] + QStringLiteral("normal"));
-        const std::function<void(QPainter *)> ways[] = {
-                [](QPainter *painter) { painter->translate(0.5, 0.25); },
-                [](QPainter *painter) { painter->scale(1.5, 1.25); },
-                [](QPainter *painter) { painter->rotate(30); },
-                [](QPainter *painter) {
-                    painter->setRenderHint(QPainter::SmoothPixmapTransform);
-                    painter->setOpacity(0.5);
-                },
-        };
-        for (const auto &prepare : ways) {
-            for (const auto element : {QStyle::CE_ScrollBarSlider, QStyle::CE_ScrollBarAddPage}) {
-                const auto draw = [&](QPainter *painter) {
-                    prepare(painter);
-                    m_style.drawControl(element, &bar, painter, nullptr);
-                };
-                const auto expected = [&](QPainter *painter) {
-                    prepare(painter);
-                    if (element == QStyle::CE_ScrollBarSlider)
-                        painter->drawPixmap(bar.rect, picture);
-                    else
-                        drawExpectedPage(painter, bar, bar.rect);
-                };
-                QCOMPARE(painted(draw, kGround), painted(expected, kGround));
-            }
-        }
-    }
-
-    void densePicturesAreTakenForDenseScreens()
-    {
-        const auto bar = scrollBar(QRect(0, 0, 16, 16), Qt::Vertical);
-        QPixmap dense(kPictureOf[2] + QStringLiteral("normal@2x"));
-        QCOMPARE(dense.size(), QSize(32, 32));
-        dense.setDevicePixelRatio(2);
-        const auto draw = [&](QPainter *painter) {
-            m_style.drawControl(QStyle::CE_ScrollBarAddLine, &bar, painter, nullptr);
-        };
-        const auto expected = [&](QPainter *painter) { painter->drawPixmap(0, 0, dense); };
-        QCOMPARE(painted(draw, QSize(16, 16), 2), painted(expected, QSize(16, 16), 2));
-    }
-
     void pagesShadeAcrossTheBar()
     {
         const std::pair<Qt::Orientation, QRect> pages[] = {
@@ -288,24 +243,20 @@ private Q_SLOTS:
         QTest::addColumn<QStyle::SubControl>("active");
         QTest::addColumn<QString>("picture");
         QTest::addColumn<QColor>("frame");
-        const QColor grey(189, 189, 189);
-        const QColor disabledGrey(203, 203, 203);
-        const QColor orange(255, 193, 48);
+        const auto row = [](const char *name, QStyle::State state, QStyle::SubControl active,
+                            const char *picture, int red, int green, int blue) {
+            QTest::newRow(name) << state << active << picture << QColor(red, green, blue);
+        };
         const auto none = QStyle::SC_None;
         const auto arrow = QStyle::SC_ComboBoxArrow;
-        const QString normal = QStringLiteral("normal");
-        const QString hover = QStringLiteral("hover");
-        const QString clicked = QStringLiteral("clicked");
-        const QString disabled = QStringLiteral("disabled");
-        QTest::newRow("normal") << kEnabled << none << normal << grey;
-        QTest::newRow("under the mouse") << (kEnabled | kHover) << none << normal << orange;
-        QTest::newRow("arrow under the mouse") << (kEnabled | kHover) << arrow << hover << orange;
-        QTest::newRow("open") << (kEnabled | QStyle::State_On) << none << clicked << grey;
-        QTest::newRow("pressed") << (kEnabled | QStyle::State_Sunken | kHover) << arrow << clicked
-                                 << orange;
-        QTest::newRow("disabled") << (kNoState | kHover | QStyle::State_On) << arrow << disabled
-                                  << disabledGrey;
+        row("normal", kEnabled, none, "normal", 189, 189, 189);
+        row("under the mouse", kEnabled | kHover, none, "normal", 255, 193, 48);
+        row("arrow under the mouse", kEnabled | kHover, arrow, "hover", 255, 193, 48);
+        row("open", kEnabled | QStyle::State_On, none, "clicked", 189, 189, 189);
+        row("pressed", kEnabled | QStyle::State_Sunken | kHover, arrow, "clicked", 255, 193, 48);
+        row("disabled", kHover | QStyle::State_On, arrow, "disabled", 203, 203, 203);
     }
+
     void comboBoxIsAFieldWithAnArrow()
     {
         QFETCH(const QStyle::State, state);

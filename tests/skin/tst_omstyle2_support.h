@@ -2,6 +2,7 @@
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
+#include <QtTest/QTest>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
 
@@ -36,6 +37,25 @@ QImage painted(const Draw &draw, QSize size = QSize(64, 48), qreal density = 1)
     draw(&painter);
     painter.end();
     return image;
+}
+
+/// The same, by a painter with settings that must be left as they are.
+template <typename Draw>
+QImage paintedKeepingSettings(const Draw &draw, QSize size = QSize(64, 48))
+{
+    const auto checked = [&draw](QPainter *painter) {
+        const QPen pen(Qt::red, 3);
+        const QBrush brush(Qt::green);
+        painter->setPen(pen);
+        painter->setBrush(brush);
+        const QPainter::RenderHints hints = painter->renderHints();
+        draw(painter);
+        QCOMPARE(painter->pen(), pen);
+        QCOMPARE(painter->brush(), brush);
+        QCOMPARE(painter->transform(), QTransform());
+        QCOMPARE(painter->renderHints(), hints);
+    };
+    return painted(checked, size);
 }
 
 inline QImage blank(QSize size = QSize(64, 48))

@@ -48,7 +48,7 @@ QImage drawnTab(const Tab &tab, Qt::Alignment alignment = Qt::AlignLeft)
 {
     auto *style = new OmStyle2;
     const TabSettings above(style, alignment);
-    return painted([&](QPainter *painter) {
+    return paintedKeepingSettings([&](QPainter *painter) {
         style->drawControl(QStyle::CE_TabBarTabShape, &tab, painter, nullptr);
     });
 }
@@ -130,20 +130,14 @@ private Q_SLOTS:
             {25, 22, kNone, kNone});
         row("first, selected, centred", true, false, Tab::Beginning, none, centre,
             {23, 24, 24, 24});
-        row("first, centred", false, false, Tab::Beginning, none, centre, {21, 22, kNone, 22});
         row("middle before selected", false, false, Tab::Middle, next, left,
             {kNone, kNone, kNone, kNone});
-        row("middle after selected", false, false, Tab::Middle, previous, left,
-            {kNone, kNone, kNone, 22});
         row("middle, selected", true, false, Tab::Middle, none, left, {24, 24, 24, 24});
         row("last of a right bar, selected", true, false, Tab::End, none, right, {24, 24, 26, 26});
-        row("only, selected", true, false, Tab::OnlyOneTab, none, left, {25, 25, 24, 24});
         row("only of a right bar, selected", true, false, Tab::OnlyOneTab, none, right,
             {23, 24, 26, 26});
         row("right to left: first, selected", true, true, Tab::Beginning, none, left,
             {23, 24, 26, 26});
-        row("right to left: before selected", false, true, Tab::Middle, previous, left,
-            {kNone, kNone, kNone, kNone});
         row("right to left: last after selected", false, true, Tab::End, previous, right,
             {kNone, kNone, kNone, kNone});
     }
@@ -218,18 +212,6 @@ private Q_SLOTS:
         }
     }
 
-    void directionMirrorsHorizontalTabsOnly()
-    {
-        for (const auto shape : {QTabBar::RoundedSouth, QTabBar::RoundedWest}) {
-            Tab tab = makeTab(false);
-            tab.shape = shape;
-            tab.selectedPosition = Tab::NextIsSelected;
-            const QImage leftToRight = drawnTab(tab);
-            tab.direction = Qt::RightToLeft;
-            QCOMPARE(drawnTab(tab) == leftToRight, shape == QTabBar::RoundedWest);
-        }
-    }
-
     void triangularTabsAreTheCommonOnes()
     {
         for (int shape = QTabBar::TriangularNorth; shape <= QTabBar::TriangularEast; ++shape) {
@@ -239,11 +221,7 @@ private Q_SLOTS:
             const QImage expected = painted([&](QPainter *painter) {
                 style.QCommonStyle::drawControl(QStyle::CE_TabBarTabShape, &tab, painter, nullptr);
             });
-            const QImage image = painted([&](QPainter *painter) {
-                style.drawControl(QStyle::CE_TabBarTabShape, &tab, painter, nullptr);
-            });
-            QCOMPARE(image, expected);
-            QVERIFY(image != blank());
+            QCOMPARE(drawnTab(tab), expected);
         }
     }
 
@@ -261,42 +239,6 @@ private Q_SLOTS:
         QCOMPARE(drawnTab(tab), filledTab(false, standardStops(plain))); // a flat window
         tab.palette.setBrush(QPalette::Window, window);
         QCOMPARE(drawnTab(tab), filledTab(false, stops));
-    }
-
-    void wholeTabIsShapeAndLabel()
-    {
-        Tab tab = makeTab(true);
-        tab.text = QStringLiteral("Tab");
-        const OmStyle2 style;
-        const QImage expected = painted([&](QPainter *painter) {
-            style.drawControl(QStyle::CE_TabBarTabShape, &tab, painter, nullptr);
-            style.drawControl(QStyle::CE_TabBarTabLabel, &tab, painter, nullptr);
-        });
-        const QImage image = painted([&](QPainter *painter) {
-            style.drawControl(QStyle::CE_TabBarTab, &tab, painter, nullptr);
-        });
-        QCOMPARE(image, expected);
-    }
-
-    void tabBarsOfEveryShapePaint()
-    {
-        OmStyle2 style;
-        for (int shape = QTabBar::RoundedNorth; shape <= QTabBar::TriangularEast; ++shape) {
-            QTabBar bar;
-            bar.setStyle(&style);
-            bar.setShape(QTabBar::Shape(shape));
-            bar.resize(40, 20);
-            bar.grab(); // an empty bar
-            for (const char *text : {"one", "two", "three"})
-                bar.addTab(QLatin1String(text));
-            bar.resize(bar.sizeHint());
-            bar.setCurrentIndex(0);
-            const QImage first = bar.grab().toImage();
-            bar.setCurrentIndex(1);
-            QVERIFY(bar.grab().toImage() != first);
-            bar.resize(1, 1);
-            bar.grab();
-        }
     }
 };
 

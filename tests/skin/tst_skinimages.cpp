@@ -132,15 +132,6 @@ bool allAlphas(const QImage &image, const std::function<bool(int alpha)> &holds)
     return allPixels(image, [&](int x, int y) { return holds(qAlpha(image.pixel(x, y))); });
 }
 
-/// Whether two colours are the same but for the last bit, as blending rounds it.
-bool isAlike(QRgb a, QRgb b)
-{
-    const QRgb left = qPremultiply(a);
-    const QRgb right = qPremultiply(b);
-    return std::abs(qRed(left) - qRed(right)) <= 1 && std::abs(qGreen(left) - qGreen(right)) <= 1
-           && std::abs(qBlue(left) - qBlue(right)) <= 1 && qAlpha(left) == qAlpha(right);
-}
-
 QImage over(const QImage &top, QImage ground)
 {
     QPainter(&ground).drawImage(0, 0, top);
@@ -246,50 +237,6 @@ private Q_SLOTS:
         QCOMPARE(row(bottomLeft, 0), row(left, 0));
         QCOMPARE(row(bottomRight, 0), row(right, 0));
     }
-    void frameBorderFollowsTheCutCorners_data() { framePiecesMeetWithoutSeam_data(); }
-
-    void frameBorderFollowsTheCutCorners()
-    {
-        QFETCH(QString, activation);
-        QFETCH(int, density);
-        const struct
-        {
-            const char *piece;
-            bool right;
-            bool bottom;
-        } corners[] = {{"top_left_", false, false},
-                       {"top_right_", true, false},
-                       {"bottom_left_", false, true},
-                       {"bottom_right_", true, true}};
-        const QRgb border = load(QStringLiteral("top_center_") + activation).pixel(0, 0);
-        for (const auto &corner : corners) {
-            const QImage image = load(QLatin1String(corner.piece) + activation, density)
-                                         .mirrored(corner.right, corner.bottom);
-            // The window's mask takes these away; without a mask they must not show either.
-            for (const QPoint &cut : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1)})
-                QCOMPARE(qAlpha(image.pixel(cut * density)), 0);
-            for (const QPoint &edge : {QPoint(2, 0), QPoint(1, 1), QPoint(0, 2), QPoint(0, 3)})
-                QCOMPARE(image.pixel(edge * density), border);
-            QVERIFY(image.pixel(QPoint(2, 2) * density) != border);
-        }
-    }
-
-    void titleButtonsKeepTheirShape()
-    {
-        for (const char *pattern : {"minimize_%1", "maximize_%1", "restore_%1", "close_%1"}) {
-            const QStringList names = namesOf({pattern, buttonStates, 24, 20, Alpha::Cut});
-            for (const int density : densities) {
-                const QImage mask = load(names.first(), density);
-                for (const QString &name : names) {
-                    const QImage state = load(name, density);
-                    const auto isSame = [&](int x, int y) {
-                        return (qAlpha(state.pixel(x, y)) > 0) == (qAlpha(mask.pixel(x, y)) > 0);
-                    };
-                    QVERIFY2(allPixels(state, isSame), qPrintable(name));
-                }
-            }
-        }
-    }
 
     void statesDiffer()
     {
@@ -316,73 +263,6 @@ private Q_SLOTS:
                 compare(names, QColor(0xefeff0));
             }
         });
-    }
-
-    void halfStarRegistersWithEmptyAndFullStar()
-    {
-        for (const int density : densities) {
-            const auto star = [density](const char *kind) {
-                return load(QStringLiteral("star_%1-32").arg(QLatin1String(kind)), density);
-            };
-            // Laid over the empty star at rest, standing by itself under the mouse.
-            const struct
-            {
-                QImage half;
-                QImage empty;
-                QImage full;
-            } sets[] = {{over(star("half"), star("empty")), star("empty"), star("full")},
-                        {star("half_hover"), star("empty_hover"), star("full_hover")}};
-            for (const auto &set : sets) {
-                QVERIFY(allPixels(set.half, [&](int x, int y) {
-                    const QRgb half = set.half.pixel(x, y);
-                    const QRgb full = set.full.pixel(x, y);
-                    if (qAlpha(full) != qAlpha(set.empty.pixel(x, y)))
-                        return false;
-                    if (x >= set.half.width() / 2)
-                        return isAlike(half, set.empty.pixel(x, y));
-                    return qAlpha(full) < 255 || isAlike(half, full);
-                }));
-            }
-        }
-    }
-
-    void countdownHasADarkAndALightEdge()
-    {
-        // These stand alone on the desktop, cut out along their alpha and drawn without it: a soft
-        // or a light outermost edge would end in ragged steps.
-        const QStringList names = namesOf({"countdown-%1-128.png", seconds, 128, 128, Alpha::Free})
-                                  + namesOf({"countdown-snap%1-64.png", "", 64, 64, Alpha::Free});
-        for (const QString &name : names) {
-            for (const int density : densities) {
-                const QImage image = load(name, density);
-                const int middle = image.height() / 2;
-                QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
-                QCOMPARE(qAlpha(image.pixel(middle, middle)), 255);
-                QVERIFY(allPixels(image, [&](int x, int y) {
-                    const QRgb pixel = image.pixel(x, y);
-                    return qAlpha(pixel) == 0 || qAlpha(pixel) == 255 || qGray(pixel) < 64;
-                }));
-                const QRgb light = image.pixel(4 * density, middle);
-                QVERIFY(qGray(light) > 200 && qAlpha(light) == 255);
-            }
-        }
-    }
-
-    void placeholderIsAMarginAtEveryScale()
-    {
-        // A picture drawn over it leaves two pixels all round: an even, quiet grey line.
-        const QImage placeholder = load(QStringLiteral("no_userpic-78"));
-        for (const int side : {28, 46, 74, 78}) {
-            const QImage scaled =
-                    placeholder.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-            const QRgb line = scaled.pixel(side / 2, 0);
-            QVERIFY(qGray(line) >= 180 && qGray(line) <= 225);
-            for (int i = 2; i < side - 2; ++i) {
-                for (const QRgb pixel : {scaled.pixel(i, 0), scaled.pixel(i, side - 1),
-                                         scaled.pixel(0, i), scaled.pixel(side - 1, i)})
-                    QVERIFY(std::abs(qGray(pixel) - qGray(line)) <= 4);
-            }
-        }
     }
 };
 

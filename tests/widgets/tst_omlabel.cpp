@@ -6,6 +6,8 @@
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLineEdit>
 
+#include <functional>
+
 using ombrin::OmLabel;
 using namespace ombrin::test;
 
@@ -165,20 +167,6 @@ private Q_SLOTS:
         QCOMPARE(shownText(*label), kText);
     }
 
-    void hugeTextsAreShortened()
-    {
-        const QString texts[] = {QString(100000, QLatin1Char('x')), QString(100000, QChar(0x05d0)),
-                                 QString(100000, QChar(0x0301))};
-        ShownLabel test(100);
-        for (const QString &text : texts) {
-            test.label->setText(text);
-            QCOMPARE(test.label->text(), text);
-            QCOMPARE(shownText(*test.label), expectedText(*test.label, text));
-            QVERIFY(test.label->sizeHint().width() >= 0);
-            test.label->grab();
-        }
-    }
-
     void linkFollowsTheMouse()
     {
         OmLabel label;
@@ -215,27 +203,22 @@ private Q_SLOTS:
         QCOMPARE(clicksFor(Qt::RightButton, {5, 5}), 0);
     }
 
-    void mayBeDeletedInItsSlots_data()
-    {
-        QTest::addColumn<QString>("signal");
-        for (const char *signal : {"clicked", "entered", "left"})
-            QTest::newRow(signal) << signal;
-    }
     void mayBeDeletedInItsSlots()
     {
-        QFETCH(QString, signal);
-        ShownLabel test;
-        test.label->enableLink(true);
-        const auto destroy = [&test] { delete test.label; };
-        if (signal == QLatin1String("clicked")) {
-            connect(test.label, &OmLabel::clicked, this, destroy);
-            QTest::mouseClick(test.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                              QPoint(5, 5));
-        } else {
-            connect(test.label, &OmLabel::hovered, this, destroy);
-            signal == QLatin1String("entered") ? sendEnter(test.label) : sendLeave(test.label);
+        const std::function<void(ShownLabel &)> acts[] = {
+                [](ShownLabel &test) {
+                    QTest::mouseClick(test.window.windowHandle(), Qt::LeftButton, {}, {5, 5});
+                },
+                [](ShownLabel &test) { sendEnter(test.label); },
+                [](ShownLabel &test) { sendLeave(test.label); }};
+        for (const auto &act : acts) {
+            ShownLabel test;
+            test.label->enableLink(true);
+            connect(test.label, &OmLabel::clicked, this, [&test] { delete test.label; });
+            connect(test.label, &OmLabel::hovered, this, [&test] { delete test.label; });
+            act(test);
+            QVERIFY(!test.label);
         }
-        QVERIFY(!test.label);
     }
 
     void screenReadersSeeTextOrALink()

@@ -8,6 +8,7 @@
 #include <QtWidgets/QStyleOption>
 
 #include <memory>
+#include <tuple>
 
 using ombrin::OmLinkButton;
 using namespace ombrin::test;
@@ -142,38 +143,30 @@ private Q_SLOTS:
         }
     }
 
-    void arrowFollowsTheText_data()
-    {
-        QTest::addColumn<bool>("checked");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::addColumn<int>("arrow");
-        QTest::newRow("folded") << false << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowRight);
-        QTest::newRow("unfolded") << true << Qt::LeftToRight << int(QStyle::PE_IndicatorArrowDown);
-        QTest::newRow("folded, right-to-left")
-                << false << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowLeft);
-        QTest::newRow("unfolded, right-to-left")
-                << true << Qt::RightToLeft << int(QStyle::PE_IndicatorArrowDown);
-    }
     void arrowFollowsTheText()
     {
-        QFETCH(bool, checked);
-        QFETCH(Qt::LayoutDirection, direction);
-        QFETCH(int, arrow);
-        Button button;
-        button.setLayoutDirection(direction);
-        button.setCheckable(true);
-        button.setChecked(checked);
-        button.resize(button.sizeHint());
-        QImage image = blank(button.size());
-        const QRect text = drawExpected(&image, button, kText, Qt::black);
-        button.paint();
-        QCOMPARE(button.style.drawn.size(), 1);
-        QCOMPARE(int(button.style.drawn.first().first), arrow);
-        const int extent = button.fontMetrics().height();
-        const int left = direction == Qt::LeftToRight ? text.right() : text.left() - extent + 1;
-        const QRect place = button.style.drawn.first().second;
-        QCOMPARE(place, QRect(left, text.top(), extent, text.height()));
-        QVERIFY(button.rect().adjusted(0, -20, 0, 20).contains(place));
+        const std::tuple<bool, Qt::LayoutDirection, int> arrows[] = {
+                {false, Qt::LeftToRight, QStyle::PE_IndicatorArrowRight},
+                {true, Qt::LeftToRight, QStyle::PE_IndicatorArrowDown},
+                {false, Qt::RightToLeft, QStyle::PE_IndicatorArrowLeft},
+                {true, Qt::RightToLeft, QStyle::PE_IndicatorArrowDown}};
+        for (const auto &[checked, direction, arrow] : arrows) {
+            Button button;
+            button.setLayoutDirection(direction);
+            button.setCheckable(true);
+            button.setChecked(checked);
+            button.resize(button.sizeHint());
+            QImage image = blank(button.size());
+            const QRect text = drawExpected(&image, button, kText, Qt::black);
+            button.paint();
+            QCOMPARE(button.style.drawn.size(), 1);
+            QCOMPARE(int(button.style.drawn.first().first), arrow);
+            const int extent = button.fontMetrics().height();
+            const int left = direction == Qt::LeftToRight ? text.right() : text.left() - extent + 1;
+            const QRect place = button.style.drawn.first().second;
+            QCOMPARE(place, QRect(left, text.top(), extent, text.height()));
+            QVERIFY(button.rect().adjusted(0, -20, 0, 20).contains(place));
+        }
     }
 
     void focusIsVisible()
@@ -196,25 +189,6 @@ private Q_SLOTS:
         QSignalSpy spy(&button, &QAbstractButton::clicked);
         QTest::keyClick(&button, Qt::Key_Space);
         QCOMPARE(spy.size(), 1);
-    }
-
-    void absurdTextsPaint()
-    {
-        for (const QString &text :
-             {QString(100000, QLatin1Char('x')), QString(100000, QChar(0x0301)),
-              QString(1000, QLatin1Char('\n')), QString()}) {
-            Button button(text);
-            button.setCheckable(true);
-            for (const auto mode : {Qt::ElideNone, Qt::ElideMiddle}) {
-                button.setTextElideMode(mode);
-                QVERIFY(button.sizeHint().isValid());
-                for (const QSize &size : {QSize(200, 30), QSize(1, 1), QSize(0, 0)}) {
-                    button.resize(size);
-                    button.grab();
-                    QCOMPARE(button.size(), size);
-                }
-            }
-        }
     }
 
     void screenReadersSeeALinkOrAnExpander()

@@ -91,19 +91,6 @@ private Q_SLOTS:
         }
     }
 
-    void pressGoesOnToTheParent()
-    {
-        struct Menu : QWidget
-        {
-            void mousePressEvent(QMouseEvent *) override { ++presses; }
-            int presses = 0;
-        } menu;
-        OmMenuItem item(&menu);
-        QTest::mousePress(&item, Qt::LeftButton);
-        QCOMPARE(menu.presses, 1);
-        QTest::mouseRelease(&item, Qt::LeftButton);
-    }
-
     void mayBeDeletedInItsSlot()
     {
         QWidget window;

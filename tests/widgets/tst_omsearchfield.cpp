@@ -209,33 +209,28 @@ private Q_SLOTS:
 
     void erasingTellsWhatAnyChangeTells()
     {
-        const auto record = [](QLineEdit *edit, QStringList *log) {
-            connect(edit, &QLineEdit::textChanged, edit, [=](const QString &text) {
-                log->append(QStringLiteral("text \"%1\"").arg(text));
-            });
-            connect(edit, &QLineEdit::textEdited, edit,
-                    [=] { log->append(QStringLiteral("edited")); });
-            connect(edit, &QLineEdit::selectionChanged, edit,
-                    [=] { log->append(QStringLiteral("selection")); });
-            connect(edit, &QLineEdit::cursorPositionChanged, edit, [=](int from, int to) {
-                log->append(QStringLiteral("cursor %1 %2").arg(from).arg(to));
-            });
-            edit->setText(QStringLiteral("Ada"));
-            edit->setSelection(0, 2);
-            log->clear();
-        };
-        QStringList expected;
-        QLineEdit plain;
-        record(&plain, &expected);
-        plain.clear();
-
-        QStringList log;
         OmSearchField field;
-        field.resize(kSize);
-        record(&field, &log);
+        QLineEdit plain;
+        QStringList logs[2];
+        QLineEdit *const edits[] = {&field, &plain};
+        for (int i = 0; i < 2; ++i) {
+            QStringList *const log = &logs[i];
+            edits[i]->resize(kSize);
+            edits[i]->setText(QStringLiteral("Ada"));
+            edits[i]->setSelection(0, 2);
+            connect(edits[i], &QLineEdit::textChanged,
+                    [log] { log->append(QStringLiteral("text")); });
+            connect(edits[i], &QLineEdit::textEdited,
+                    [log] { log->append(QStringLiteral("edited")); });
+            connect(edits[i], &QLineEdit::selectionChanged,
+                    [log] { log->append(QStringLiteral("selection")); });
+            connect(edits[i], &QLineEdit::cursorPositionChanged,
+                    [log](int from, int to) { log->append(QString::number(10 * from + to)); });
+        }
+        plain.clear();
         QTest::mousePress(&field, Qt::RightButton, Qt::NoModifier, QPoint(190, 10));
-        QCOMPARE(log, expected);
-        QVERIFY(field.isUndoAvailable());
+        QCOMPARE(logs[0], logs[1]);
+        QVERIFY(logs[0].size() > 2 && field.isUndoAvailable());
     }
 
     void mayBeDeletedWhenItIsErased()
@@ -248,22 +243,6 @@ private Q_SLOTS:
         connect(field, &QLineEdit::textChanged, this, [field] { delete field; });
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
         QVERIFY(!field);
-    }
-
-    void absurdTextsAndSizesPaint()
-    {
-        OmSearchField field;
-        for (const QChar character : {QChar(u'x'), QChar(0x0301), QChar(0x05d0), QChar(u'\n')}) {
-            field.setDefaultText(QString(100000, character));
-            for (const QSize &size : {kSize, QSize(10, 3), QSize(1, 1)}) {
-                field.clear();
-                field.resize(size);
-                field.grab();
-                field.setText(field.defaultText());
-                field.grab();
-                QCOMPARE(field.text().size(), 32767);
-            }
-        }
     }
 
     void screenReadersHearTheDefaultTextAsName()

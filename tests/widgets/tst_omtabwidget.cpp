@@ -79,16 +79,6 @@ struct FragileTabs
     QPointer<QWidget> page = tabs->widget(0);
 };
 
-void addVictims(std::initializer_list<const char *> victims)
-{
-    QTest::addColumn<QString>("victim");
-    QTest::addColumn<bool>("early");
-    for (const char *victim : victims) {
-        QTest::addRow("%s", victim) << victim << false;
-        QTest::addRow("%s, in currentChanged", victim) << victim << true;
-    }
-}
-
 bool isShown(QWidget *window)
 {
     window->show();
@@ -133,10 +123,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("rightHalf");
         QTest::addColumn<QString>("contents");
         QTest::newRow("later tab") << 1 << 3 << true << "Aa Dd Cc [Bb] Ee";
-        QTest::newRow("its own place") << 1 << 0 << true << "Aa [Bb] Cc Dd Ee";
         QTest::newRow("first tab") << 1 << 0 << false << "[Bb] Aa Cc Dd Ee";
         QTest::newRow("from one end to the other") << 0 << 4 << true << "Ee Bb Cc Dd [Aa]";
-        QTest::newRow("and back") << 4 << 0 << false << "[Ee] Bb Cc Dd Aa";
         QTest::newRow("a disabled tab, which a press does not select")
                 << 2 << 4 << true << "Aa Bb Ee Dd [Cc]";
     }
@@ -161,43 +149,18 @@ private Q_SLOTS:
         }
     }
 
-    void theEditOfADraggedPageKeepsTheFocus()
-    {
-        for (const int target : {0, 2}) {
-            Tabs tabs;
-            tabs.addTab(new QLabel, QStringLiteral("A"));
-            auto *page = new QWidget;
-            auto *column = new QVBoxLayout(page);
-            auto *edit = new QLineEdit;
-            column->addWidget(new QLineEdit);
-            column->addWidget(edit);
-            tabs.addTab(page, QStringLiteral("B"));
-            tabs.addTab(new QLineEdit, QStringLiteral("C"));
-            tabs.setCurrentIndex(1);
-            QVERIFY(isShown(&tabs));
-            edit->setFocus();
-            dragOnto(tabs.tabBar(), 1, target, target > 1);
-            QCOMPARE(tabs.currentWidget(), page);
-            // Here, unlike on a screen, the pointer's window takes the focus from ours during a
-            // drag.
-            QCOMPARE(tabs.focusWidget(), edit);
-        }
-    }
-
     void swappingNonsenseSwapsNothing()
     {
-        const std::pair<int, int> nonsense[] = {{1, 1}, {-1, 1}, {1, 3}, {17, -17}};
+        Tabs tabs(QStringLiteral("ABC"));
+        QVERIFY(isShown(&tabs));
+        Tabs empty;
+        const std::pair<int, int> nonsense[] = {{-1, 1}, {1, 3}, {17, -17}, {1, 1}};
         for (const auto &[first, second] : nonsense) {
-            Tabs tabs(QStringLiteral("ABC"));
-            QVERIFY(isShown(&tabs));
             Q_EMIT tabs.bar()->tabsExchanged(first, second);
-            QCOMPARE(tabs.contents(),
-                     first == 1 ? QStringLiteral("Aa [Bb] Cc") : QStringLiteral("[Aa] Bb Cc"));
-            QCOMPARE(tabs.shownPage(), tabs.currentWidget()->objectName());
-            Tabs empty;
             Q_EMIT empty.bar()->tabsExchanged(first, second);
-            QCOMPARE(empty.count(), 0);
         }
+        QCOMPARE(tabs.contents(), QStringLiteral("Aa [Bb] Cc"));
+        QCOMPARE(tabs.shownPage(), QStringLiteral("b"));
     }
 
     void pagesSwitchWithoutTabBar()
@@ -209,10 +172,10 @@ private Q_SLOTS:
         QVERIFY(!tabs.hasTabBar() && !tabs.tabBar()->isVisible());
         tabs.setCurrentIndex(2);
         QCOMPARE(tabs.shownPage(), QStringLiteral("c"));
-        QTRY_VERIFY(tabs.currentWidget()->height() > height);
+        QTRY_VERIFY_WITH_TIMEOUT(tabs.currentWidget()->height() > height, 20000);
         tabs.enableTabBar(true);
         QVERIFY(tabs.hasTabBar() && tabs.tabBar()->isVisible());
-        QTRY_COMPARE(tabs.currentWidget()->height(), height);
+        QTRY_COMPARE_WITH_TIMEOUT(tabs.currentWidget()->height(), height, 20000);
     }
 
     void closeButtonStandsInTheCorner()
@@ -221,17 +184,15 @@ private Q_SLOTS:
         QVERIFY(isShown(&tabs));
         tabs.enableCloseTabButton(true);
         QToolButton *const button = tabs.closeButton();
-        QVERIFY(tabs.hasCloseTabButton() && button);
-        QVERIFY(button->isVisible() && button->isEnabled() && button->autoRaise());
-        QAccessibleInterface *const seen = QAccessible::queryAccessibleInterface(button);
-        QCOMPARE(seen->role(), QAccessible::Button);
-        QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("Close tab"));
-
-        tabs.enableCloseTabButton(false);
-        QVERIFY(!tabs.hasCloseTabButton() && !button->isVisible());
-        tabs.enableCloseTabButton(true);
+        QVERIFY(button && button->isVisible() && button->isEnabled() && button->autoRaise());
+        QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name),
+                 QStringLiteral("Close tab"));
+        for (const bool enabled : {false, true}) {
+            tabs.enableCloseTabButton(enabled);
+            QCOMPARE(tabs.hasCloseTabButton(), enabled);
+            QCOMPARE(button->isVisible(), enabled);
+        }
         QCOMPARE(tabs.closeButton(), button);
-        QVERIFY(button->isVisible());
     }
 
     void closeButtonRemovesTheCurrentTab()
@@ -324,7 +285,12 @@ private Q_SLOTS:
 
     void receiverOfTabRemovedMayDeleteAnything_data()
     {
-        addVictims({"page", "tabs", "button", "window"});
+        QTest::addColumn<QString>("victim");
+        QTest::addColumn<bool>("early");
+        for (const char *victim : {"page", "tabs", "button", "window"}) {
+            QTest::addRow("%s", victim) << victim << false;
+            QTest::addRow("%s, in currentChanged", victim) << victim << true;
+        }
     }
     void receiverOfTabRemovedMayDeleteAnything()
     {
@@ -347,28 +313,6 @@ private Q_SLOTS:
             QCOMPARE(removed, QList<QWidget *>{test.page});
         else if (early && test.tabs)
             QCOMPARE(removed, QList<QWidget *>{nullptr}); // and not a page that is no more
-    }
-
-    void receiverOfTabsExchangedMayDeleteAnything_data() { addVictims({"page", "tabs", "window"}); }
-    void receiverOfTabsExchangedMayDeleteAnything()
-    {
-        QFETCH(QString, victim);
-        QFETCH(bool, early);
-        FragileTabs test;
-        QVERIFY(test.isReady());
-        const auto destroy = [&] { test.destroy(victim); };
-        QTabBar *const bar = test.tabs->tabBar();
-        QVERIFY(dragTab(bar, halfOfTab(*bar, 0, true), [&] {
-            const QPoint to = halfOfTab(*bar, 2, true);
-            QVERIFY(sendDrag<QDragEnterEvent>(bar, to));
-            QVERIFY(sendDrag<QDropEvent>(bar, to));
-            if (early)
-                connect(test.tabs, &QTabWidget::currentChanged, this, destroy);
-            else
-                connect(test.tabs->bar(), &OmTabBar::tabsExchanged, this, destroy);
-        }));
-        if (test.tabs)
-            QCOMPARE(test.tabs->contents(), QStringLiteral("Cc [Bb]"));
     }
 };
 

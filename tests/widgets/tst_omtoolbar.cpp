@@ -102,32 +102,27 @@ private Q_SLOTS:
         QCOMPARE(b.buttons.last()->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
     }
 
-    void windowsDoNotGrowForTheMeasuring_data()
-    {
-        QTest::addColumn<bool>("mainWindow");
-        QTest::newRow("main window") << true;
-        QTest::newRow("layout") << false;
-    }
     void windowsDoNotGrowForTheMeasuring()
     {
-        QFETCH(bool, mainWindow);
-        Bar b;
-        const int needed = widthOf(b.buttons);
-        OmToolBar *const bar = b.bar.release();
-        const std::unique_ptr<QWidget> window(mainWindow ? new QMainWindow : new QWidget);
-        if (auto *const main = qobject_cast<QMainWindow *>(window.get()))
-            main->addToolBar(bar);
-        else
-            (new QVBoxLayout(window.get()))->addWidget(bar);
-        window->resize(600, 200);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-        QCOMPARE(window->size(), QSize(600, 200));
-        QVERIFY(bar->width() <= 600 && bar->width() > needed + 31);
-        QVERIFY(b.hasTexts());
-        window->resize(needed, 200);
-        QCoreApplication::processEvents();
-        QVERIFY(!b.hasTexts());
+        for (const bool mainWindow : {true, false}) {
+            Bar b;
+            const int needed = widthOf(b.buttons);
+            OmToolBar *const bar = b.bar.release();
+            const std::unique_ptr<QWidget> window(mainWindow ? new QMainWindow : new QWidget);
+            if (auto *const main = qobject_cast<QMainWindow *>(window.get()))
+                main->addToolBar(bar);
+            else
+                (new QVBoxLayout(window.get()))->addWidget(bar);
+            window->resize(600, 200);
+            window->show();
+            QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+            QCOMPARE(window->size(), QSize(600, 200));
+            QVERIFY(bar->width() <= 600 && bar->width() > needed + 31);
+            QVERIFY(b.hasTexts());
+            window->resize(needed, 200);
+            QCoreApplication::processEvents();
+            QVERIFY(!b.hasTexts());
+        }
     }
 
     void deletedAndMissingButtonsAreSkipped()

@@ -56,40 +56,29 @@ private Q_SLOTS:
                             ArrowCorner corner, QPoint place) {
             QTest::newRow(name) << screen << position << corner << place;
         };
-        row("middle", kFirst, {600, 500}, kTopLeft, {582, 500});
         row("last row with room", kFirst, {600, 965}, kTopLeft, {582, 965});
         row("first row without", kFirst, {600, 966}, kBottomLeft, {582, 902});
         row("last column with room", kFirst, {1197, 500}, kTopLeft, {1179, 500});
         row("first column without", kFirst, {1198, 500}, kTopRight, {1108, 500});
-        row("lower right", kFirst, {1200, 1000}, kBottomRight, {1110, 936});
         row("left edge", kFirst, {5, 500}, kTopLeft, {2, 500});
-        row("left edge below", kFirst, {0, 1023}, kBottomLeft, {2, 959});
-        row("right edge", kFirst, {1279, 0}, kTopRight, {1169, 0});
         row("lower right corner", kFirst, {1279, 1023}, kBottomRight, {1169, 959});
         row("no screen", QRect(), {7, 8}, kBottomRight, {-111, -56});
 
         // Width and height count from the origin on other screens too.
         const QRect right(1280, 0, 1280, 1024);
         row("right screen", right, {1900, 500}, kTopRight, {1810, 500});
-        row("right screen, lower", right, {1900, 1000}, kBottomRight, {1810, 936});
         row("right screen, right edge", right, {2559, 500}, kTopRight, {2449, 500});
         const QRect below(0, 1024, 1280, 1024);
-        row("lower screen", below, {600, 1500}, kBottomLeft, {582, 1436});
         row("lower screen, lower edge", below, {1279, 2047}, kBottomRight, {1169, 1983});
         const QRect left(-1280, 0, 1280, 1024);
-        row("left screen", left, {-600, 500}, kTopLeft, {-618, 500});
         row("left screen, left edge", left, {-1280, 500}, kTopLeft, {-1278, 500});
         const QRect above(0, -1024, 1280, 1024);
-        row("upper screen", above, {600, -500}, kTopLeft, {582, -500});
         row("upper screen, upper edge", above, {600, -1024}, kTopLeft, {582, -1024});
 
         // But not where that takes the balloon off its screen.
         row("right screen, left edge", right, {1290, 500}, kTopLeft, {1282, 500});
-        row("right screen, lower left", right, {1290, 1000}, kBottomLeft, {1282, 936});
         row("lower screen, upper edge", below, {600, 1030}, kTopLeft, {582, 1030});
-        row("lower screen, upper right", below, {1250, 1030}, kTopRight, {1160, 1030});
         row("left screen, right edge", left, {-10, 500}, kTopRight, {-111, 500});
-        row("left screen, lower right", left, {-10, 1000}, kBottomRight, {-111, 936});
         row("upper screen, lower edge", above, {600, -10}, kBottomLeft, {582, -74});
         const QRect corner(-800, -600, 800, 600);
         row("left of and above the origin", corner, {-400, -300}, kTopLeft, {-418, -300});
@@ -109,41 +98,6 @@ private Q_SLOTS:
         const QMargins around = margins(corner);
         QCOMPARE(around, corner.atTop ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
         QCOMPARE(topLeft(position, contents.grownBy(around), corner, screen), place);
-    }
-
-    void outlineTouchesAllSidesAndTheTip_data()
-    {
-        QTest::addColumn<ArrowCorner>("corner");
-        QTest::addColumn<QVector<QPointF>>("arrow");
-        QTest::addColumn<QRectF>("bubble");
-        using Points = QVector<QPointF>;
-        const QRectF low(0, 18, 99, 41);
-        const QRectF high(0, 0, 99, 41);
-        QTest::newRow("top left") << kTopLeft << Points{{18, 18}, {18, 0}, {36, 18}} << low;
-        QTest::newRow("top right") << kTopRight << Points{{63, 18}, {81, 0}, {81, 18}} << low;
-        QTest::newRow("bottom right")
-                << kBottomRight << Points{{81, 41}, {81, 59}, {63, 41}} << high;
-        QTest::newRow("bottom left") << kBottomLeft << Points{{36, 41}, {18, 59}, {18, 41}} << high;
-    }
-
-    void outlineTouchesAllSidesAndTheTip()
-    {
-        QFETCH(ArrowCorner, corner);
-        QFETCH(QVector<QPointF>, arrow);
-        QFETCH(QRectF, bubble);
-        const QSize size(100, 60);
-        QCOMPARE(outline(size, corner, true).boundingRect(), QRectF(0, 0, 99, 59));
-        QCOMPARE(outline(size, corner, false).boundingRect(), bubble);
-
-        const QPainterPath path = outline(size, corner, true);
-        QVector<QPointF> points;
-        for (int i = 0; i < path.elementCount(); ++i)
-            points.append(path.elementAt(i));
-        const auto first = std::find(points.cbegin(), points.cend(), arrow.first());
-        QVERIFY(first != points.cend());
-        const int at = int(first - points.cbegin());
-        QCOMPARE(points.mid(at, 3), arrow);
-        QCOMPARE(points.last(), points.first()); // closed
     }
 
     void thereIsRoomOnOneSideOfThePosition()

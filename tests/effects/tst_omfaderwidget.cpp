@@ -90,8 +90,6 @@ private Q_SLOTS:
                 {"a second", 1000, 8, 32},
                 {"longest", 8415, 1, 255},
                 {"beyond the longest", 8416, 1, 255},
-                {"absurd", std::numeric_limits<int>::max(), 1, 255},
-                {"one millisecond", 1, 8415, 1},
                 {"zero", 0, 8415, 1},
                 {"negative", -333, 8415, 1},
                 {"most negative", std::numeric_limits<int>::min(), 8415, 1},
@@ -116,6 +114,7 @@ private Q_SLOTS:
         QSignalSpy done(fader, &OmFaderWidget::done);
         fader->setFadeColor(QColor::fromRgb(kFade));
         fader->setFadeDuration(duration);
+        QCOMPARE(paintOnce(fader), kGround);
         (fader->*fadeFunction(out))();
         for (int paint = 0; paint < paints; ++paint) {
             const int alpha = out ? paint * step : 255 - paint * step;
@@ -126,35 +125,6 @@ private Q_SLOTS:
         QCOMPARE(paintOnce(fader), blended(out ? 255 : 0));
         QVERIFY(waitFor([&] { return fader.isNull(); }));
         QCOMPARE(done, QList<QVariantList>{{out}});
-    }
-
-    void fadesByItselfAndIsGone_data()
-    {
-        QTest::addColumn<bool>("out");
-        QTest::newRow("in") << false;
-        QTest::newRow("out") << true;
-    }
-
-    void fadesByItselfAndIsGone()
-    {
-        QFETCH(bool, out);
-        QWidget parent;
-        parent.resize(60, 40);
-        parent.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&parent));
-        QPointer<OmFaderWidget> fader = new OmFaderWidget(&parent);
-        bool visibleAtTheEnd = true;
-        int ends = 0;
-        connect(fader, &OmFaderWidget::done, &parent, [&](bool fadeOut) {
-            QCOMPARE(fadeOut, out);
-            visibleAtTheEnd = fader->isVisible();
-            ++ends;
-        });
-        (fader->*fadeFunction(out))();
-        QVERIFY(fader->isVisible());
-        QVERIFY(waitFor([&] { return fader.isNull(); }));
-        QCOMPARE(ends, 1);
-        QVERIFY(!visibleAtTheEnd);
     }
 
     void startingAgainBeginsAtThatDirectionsEnd()
@@ -181,46 +151,25 @@ private Q_SLOTS:
         QCOMPARE(done, QList<QVariantList>{{true}});
     }
 
-    void paintsNothingBeforeItIsStarted()
-    {
-        QWidget parent;
-        OmFaderWidget fader(&parent);
-        for (int paint = 0; paint < 20; ++paint)
-            QCOMPARE(paintOnce(&fader), kGround);
-    }
-
-    void hostMayDeleteFaderOrParentAtTheEnd_data()
-    {
-        QTest::addColumn<bool>("deleteParent");
-        QTest::newRow("fader") << false;
-        QTest::newRow("parent") << true;
-    }
-
     void hostMayDeleteFaderOrParentAtTheEnd()
     {
-        QFETCH(bool, deleteParent);
-        QPointer<QWidget> parent = new QWidget;
-        QPointer<OmFaderWidget> fader = new OmFaderWidget(parent);
-        fader->setFadeDuration(66);
-        connect(fader, &OmFaderWidget::done, qApp, [&] {
-            if (deleteParent)
-                delete parent;
-            else
-                delete fader;
-        });
-        parent->show();
-        fader->fadeOut();
-        QVERIFY(waitFor([&] { return fader.isNull(); }));
-        QCOMPARE(parent.isNull(), deleteParent);
-        delete parent;
-    }
-
-    void windowWithoutParentFades()
-    {
-        QPointer<OmFaderWidget> fader = new OmFaderWidget(nullptr);
-        fader->setFadeDuration(66);
-        fader->fadeIn();
-        QVERIFY(waitFor([&] { return fader.isNull(); }));
+        for (const bool deleteParent : {false, true}) {
+            QPointer<QWidget> parent = new QWidget;
+            QPointer<OmFaderWidget> fader = new OmFaderWidget(parent);
+            fader->setFadeDuration(66);
+            connect(fader, &OmFaderWidget::done, qApp, [&](bool out) {
+                QVERIFY(out && !fader->isVisible());
+                if (deleteParent)
+                    delete parent;
+                else
+                    delete fader;
+            });
+            parent->show();
+            fader->fadeOut();
+            QVERIFY(waitFor([&] { return fader.isNull(); }));
+            QCOMPARE(parent.isNull(), deleteParent);
+            delete parent;
+        }
     }
 };
 

@@ -33,8 +33,8 @@ private Q_SLOTS:
         OmInfoPopup icon(&window);
         icon.move(20, 30);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QTest::qWait(200);
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window, 20000)); // the window manager has placed it
         for (int round = 0; round < 2; ++round) {
             const QPoint corner = icon.mapToGlobal(QPoint(0, 0));
             movePointerTo(corner + QPoint(5, 5));

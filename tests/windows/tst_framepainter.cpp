@@ -69,18 +69,6 @@ private Q_SLOTS:
         QCOMPARE(image, expected);
     }
 
-    void smallestWindowHasCornersOnly()
-    {
-        const QImage image = paintFrame(QSize(174, 35), 1, true);
-        for (int x = 0; x < 174; ++x) {
-            QCOMPARE(image.pixelColor(x, 10),
-                     flat_skin::piece(x < 86 ? "top_left" : "top_right", true));
-        }
-        QCOMPARE(image.pixelColor(0, 29), flat_skin::piece("top_left", true));
-        QCOMPARE(image.pixelColor(0, 30), flat_skin::piece("bottom_left", true));
-        QCOMPARE(image.pixelColor(173, 30), flat_skin::piece("bottom_right", true));
-    }
-
     void fractionalDensityShowsNoSeamAndNoGap()
     {
         for (const qreal density : {1.25, 1.5, 1.75}) {
@@ -151,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(paintTitle(title, true), expected);
         QVERIFY(paintTitle(title, false) != expected); // white instead of black
 
-        // A title that fits is drawn as it is, and nothing remains of an earlier one.
+        // Nothing remains of an earlier one.
         FramePainter painterOfBoth;
         QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
         for (const QString &text : {title, QStringLiteral("Short")}) {

@@ -30,17 +30,19 @@ private Q_SLOTS:
         window.resize(400, 300);
         window.show();
         window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(QTest::qWaitForWindowActive(&window, 20000));
 
         const QList<QScreen *> screens = QGuiApplication::screens();
         for (QScreen *screen : {screens.at(1), screens.at(0), screens.at(1)}) {
             const QPoint place = screen->geometry().topLeft() + QPoint(100, 100);
             window.move(place);
-            QVERIFY(waitFor([&] { return window.screen() == screen && window.pos() == place; }));
-            QTest::qWait(100);
-
             const qreal density = screen->devicePixelRatio();
-            QCOMPARE(window.devicePixelRatioF(), density);
+            const OmImageButton *const button = window.findChild<OmImageButton *>();
+            QVERIFY(waitFor([&] {
+                return window.screen() == screen && window.pos() == place
+                       && window.devicePixelRatioF() == density
+                       && button->pixmapUp().devicePixelRatio() == density;
+            }));
             QCOMPARE(window.size(), QSize(400, 300));
             const QImage picture = ombrin::skinImage(QStringLiteral(":/top_left_active"), density)
                                            .convertToFormat(QImage::Format_RGB32);
@@ -51,9 +53,9 @@ private Q_SLOTS:
             QCOMPARE(grabbed.copy(inner), picture.copy(inner));
 
             const auto buttons = window.findChildren<OmImageButton *>();
-            for (const OmImageButton *button : buttons) {
-                QCOMPARE(button->pixmapUp().devicePixelRatio(), density);
-                QCOMPARE(button->pixmapUp().size(), QSize(24, 20) * density);
+            for (const OmImageButton *each : buttons) {
+                QCOMPARE(each->pixmapUp().devicePixelRatio(), density);
+                QCOMPARE(each->pixmapUp().size(), QSize(24, 20) * density);
             }
         }
     }

@@ -21,7 +21,7 @@ void showAt(QWidget &window, const QRect &geometry)
     window.setGeometry(geometry);
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, 20000));
     // The window manager places new windows as it likes.
     window.setGeometry(geometry);
     QVERIFY(TestCase::waitFor([&] { return window.geometry() == geometry; }));
@@ -30,7 +30,7 @@ void showAt(QWidget &window, const QRect &geometry)
 
 bool becomes(const QWidget &window, const QRect &geometry)
 {
-    return TestCase::waitFor([&] { return window.geometry() == geometry; }, 2000);
+    return TestCase::waitFor([&] { return window.geometry() == geometry; });
 }
 
 // After a drag the window may lag behind by the pixels that told the drag from a click.
@@ -41,13 +41,11 @@ bool isDragged(const QWidget &window, const QRect &geometry)
         return std::abs(one.x() - other.x()) <= kDragDistance
                && std::abs(one.y() - other.y()) <= kDragDistance;
     };
-    return TestCase::waitFor(
-            [&] {
-                const QRect now = window.geometry();
-                return isNear(now.topLeft(), geometry.topLeft())
-                       && isNear(now.bottomRight(), geometry.bottomRight());
-            },
-            2000);
+    return TestCase::waitFor([&] {
+        const QRect now = window.geometry();
+        return isNear(now.topLeft(), geometry.topLeft())
+               && isNear(now.bottomRight(), geometry.bottomRight());
+    });
 }
 
 QString name(const QRect &rect)
@@ -100,14 +98,11 @@ private Q_SLOTS:
             QTest::newRow(title) << fixed << from << delta << change;
         };
         row("title", false, {200, 15}, {60, 45}, {60, 45, 0, 0});
-        row("inside", false, {200, 150}, {-70, -30}, {-70, -30, 0, 0});
         row("left edge", false, {1, 150}, {-50, 20}, {-50, 0, 50, 0});
-        row("bottom edge", false, {200, 298}, {15, 40}, {0, 0, 0, 40});
         row("top left corner", false, {2, 2}, {-30, -20}, {-30, -20, 30, 20});
         row("bottom right corner", false, {397, 297}, {30, 20}, {0, 0, 30, 20});
         row("left edge past the minimum", false, {1, 150}, {350, 0}, {226, 0, -226, 0});
         row("title when fixed", true, {200, 15}, {60, 45}, {60, 45, 0, 0});
-        row("right edge when fixed", true, {398, 150}, {40, 10}, {40, 10, 0, 0});
     }
 
     void mouseMovesAndResizesTheWindow()
@@ -135,7 +130,7 @@ private Q_SLOTS:
             OmWindow window;
             window.setGeometry(kStart);
             window.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QVERIFY(QTest::qWaitForWindowExposed(&window, 20000));
             QTest::qWait(100);
             const QString seen =
                     runBeside(QStringLiteral("xwininfo"),
@@ -178,22 +173,6 @@ private Q_SLOTS:
         clickAt(QPoint(200, 15), 1, 2);
         QVERIFY2(becomes(window, kStart), qPrintable(name(window.geometry())));
         QVERIFY(waitFor([&] { return !restore->isVisible() && maximize->isVisible(); }));
-    }
-
-    void dragOnATitleButtonIsNoDragAndAPressIsAClick()
-    {
-        OmWindow window;
-        showAt(window, kStart);
-        auto *close =
-                window.findChildren<OmImageButton *>(QString(), Qt::FindDirectChildrenOnly).at(3);
-        const QPoint onClose = close->mapToGlobal(close->rect().center());
-        dragBy(onClose, QPoint(-120, 60));
-        QCOMPARE(window.geometry(), kStart);
-        QVERIFY(window.isVisible());
-        clickAt(kStart.topLeft() + QPoint(200, 15));
-        QCOMPARE(window.geometry(), kStart);
-        clickAt(onClose);
-        QVERIFY(waitFor([&window] { return !window.isVisible(); }));
     }
 };
 

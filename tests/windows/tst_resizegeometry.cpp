@@ -24,15 +24,12 @@ private Q_SLOTS:
         row("last of left", {3, 150}, Qt::LeftEdge, Qt::SizeHorCursor);
         row("beside left", {4, 150}, {}, Qt::ArrowCursor);
         row("first of right", {396, 150}, Qt::RightEdge, Qt::SizeHorCursor);
-        row("beside right", {395, 150}, {}, Qt::ArrowCursor);
-        row("top", {200, 0}, Qt::TopEdge, Qt::SizeVerCursor);
-        row("bottom", {200, 299}, Qt::BottomEdge, Qt::SizeVerCursor);
         row("top left", {0, 0}, Qt::LeftEdge | Qt::TopEdge, Qt::SizeFDiagCursor);
         row("top right", {399, 3}, Qt::RightEdge | Qt::TopEdge, Qt::SizeBDiagCursor);
+        row("bottom", {200, 299}, Qt::BottomEdge, Qt::SizeVerCursor);
         row("bottom left", {2, 297}, Qt::LeftEdge | Qt::BottomEdge, Qt::SizeBDiagCursor);
         row("bottom right", {399, 299}, Qt::RightEdge | Qt::BottomEdge, Qt::SizeFDiagCursor);
         row("outside", {-1, 150}, {}, Qt::ArrowCursor);
-        row("below", {200, 300}, {}, Qt::ArrowCursor);
     }
 
     void borderIsFourPixelsWideAndCornersHaveTwoEdges()
@@ -56,12 +53,9 @@ private Q_SLOTS:
         row("right", Qt::RightEdge, {20, 5}, {100, 100, 420, 300});
         row("bottom", Qt::BottomEdge, {20, 5}, {100, 100, 400, 305});
         row("left", Qt::LeftEdge, {20, 5}, {120, 100, 380, 300});
-        row("top", Qt::TopEdge, {20, -5}, {100, 95, 400, 305});
         row("corner", Qt::LeftEdge | Qt::TopEdge, {-10, 10}, {90, 110, 410, 290});
         row("left past the minimum", Qt::LeftEdge, {900, 0}, {326, 100, 174, 300});
         row("top past the minimum", Qt::TopEdge, {0, 900}, {100, 365, 400, 35});
-        row("left past the maximum", Qt::LeftEdge, {-900, 0}, {-100, 100, 600, 300});
-        row("right past the minimum", Qt::RightEdge, {-900, 0}, {100, 100, 174, 300});
         row("bottom past the maximum", Qt::BottomEdge, {0, 900}, {100, 100, 400, 500});
     }
 

@@ -35,7 +35,7 @@ void whenOpen(const std::function<void(Dialog *)> &action)
                 continue;
             timer->stop();
             timer->deleteLater();
-            QTimer::singleShot(5000, dialog, [dialog] {
+            QTimer::singleShot(60000, dialog, [dialog] {
                 qWarning("%s stays open", dialog->metaObject()->className());
                 dialog->hide();
             });

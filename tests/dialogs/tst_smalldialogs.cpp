@@ -31,9 +31,9 @@ using Act = std::function<void(OmDialog2 *)>;
 constexpr const char *kPrintFirstDay = "--print-first-day";
 
 Call message(int (*call)(QWidget *, const QString &, const QString &),
-             const QString &title = "Title"_q, const QString &text = "Text"_q)
+             const QString &title = "Title"_q)
 {
-    return [=](QWidget *parent, bool *) { return call(parent, title, text); };
+    return [=](QWidget *parent, bool *) { return call(parent, title, "Text"_q); };
 }
 
 Call text(QLineEdit::EchoMode mode = QLineEdit::Normal)
@@ -105,228 +105,211 @@ class tst_SmallDialogs : public ombrin::test::TestCase
 private Q_SLOTS:
     void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
 
-    void answersAreReturned_data();
-    void answersAreReturned();
-    void dialogsLookAsDescribed_data();
-    void dialogsLookAsDescribed();
-    void weeksBeginAsTheSystemsLocaleHasIt_data();
-    void weeksBeginAsTheSystemsLocaleHasIt();
-    void languageChangeReachesOpenDialogs();
-};
+    void answersAreReturned_data()
+    {
+        QTest::addColumn<Call>("call");
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QVariant>("answer");
+        const Act close = [](OmDialog2 *dialog) { click(closeButton(dialog)); };
+        const Act destroy = [](OmDialog2 *dialog) { delete dialog; };
+        const Act destroyParent = [](OmDialog2 *dialog) { delete dialog->parentWidget(); };
+        const Act accept = [](OmDialog2 *dialog) { dialog->accept(); };
+        const Call information = message(&OmMessageBox::information);
+        const Call question = message(&OmMessageBox::question);
+        const QDate pi(2011, 3, 14);
+        const auto row = [](const char *name, const Call &call, const Act &act,
+                            const QVariant &answer) {
+            QTest::newRow(name) << call << act << answer;
+        };
+        row("information: ok", information, press("&Ok"), 0);
+        row("question: yes", question, press("&Yes"), 1);
+        row("question: no", question, press("&No"), 0);
+        row("question: return", question, key(Qt::Key_Return), 1);
+        row("text: ok", text(), press("&Ok"), "preset"_q);
+        row("text: typed over", text(), typeOver("new"_q), "new"_q);
+        row("text: empty", text(), typeOver(QString()), ""_q);
+        row("text: cancel", text(), press("&Cancel"), QString());
+        row(
+                "text: password", text(QLineEdit::Password),
+                [](OmDialog2 *dialog) {
+                    const QString shown = dialog->findChild<QLineEdit *>()->displayText();
+                    QVERIFY(shown.size() == 6 && !shown.contains("preset"_q));
+                    dialog->accept();
+                },
+                "preset"_q);
+        row("item: second", item(1), key(Qt::Key_Return), "Pear"_q);
+        row("item: beyond the list", item(2), key(Qt::Key_Return), ""_q);
+        row("item: typed", item(1, true), typeOver("plum"_q), "plum"_q);
+        row("item: cancel", item(1, true), press("&Cancel"), QString());
+        row(
+                "item: input destroyed", item(1),
+                [](OmDialog2 *dialog) {
+                    delete dialog->findChild<QComboBox *>();
+                    dialog->accept();
+                },
+                QString());
+        row("date: clicked", date(pi), day("23"_q), QDate(2011, 3, 23));
+        row(
+                "date: keyboard", date(pi),
+                [](OmDialog2 *dialog) {
+                    dialog->findChild<QTableView *>()->setFocus();
+                    type(dialog, Qt::Key_Right);
+                    type(dialog, Qt::Key_Return);
+                },
+                QDate(2011, 3, 15));
+        row("date: none, accepted", date(QDate()), accept, QDate::currentDate());
 
-void tst_SmallDialogs::answersAreReturned_data()
-{
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<Act>("act");
-    QTest::addColumn<QVariant>("answer");
-    const Act close = [](OmDialog2 *dialog) { click(closeButton(dialog)); };
-    const Act destroy = [](OmDialog2 *dialog) { delete dialog; };
-    const Act destroyParent = [](OmDialog2 *dialog) { delete dialog->parentWidget(); };
-    const Act accept = [](OmDialog2 *dialog) { dialog->accept(); };
-    const Call information = message(&OmMessageBox::information);
-    const Call question = message(&OmMessageBox::question);
-    const QDate pi(2011, 3, 14);
-    const auto row = [](const char *name, const Call &call, const Act &act,
-                        const QVariant &answer) { QTest::newRow(name) << call << act << answer; };
-    row("information: ok", information, press("&Ok"), 0);
-    row("information: return", information, key(Qt::Key_Return), 0);
-    row("question: yes", question, press("&Yes"), 1);
-    row("question: no", question, press("&No"), 0);
-    row("question: return", question, key(Qt::Key_Return), 1);
-    row("question: enter", question, key(Qt::Key_Enter), 1);
-    row("text: ok", text(), press("&Ok"), "preset"_q);
-    row("text: return", text(), key(Qt::Key_Return), "preset"_q);
-    row("text: typed over", text(), typeOver("new"_q), "new"_q);
-    row("text: empty", text(), typeOver(QString()), ""_q);
-    row("text: cancel", text(), press("&Cancel"), QString());
-    row(
-            "text: password", text(QLineEdit::Password),
-            [](OmDialog2 *dialog) {
-                const QString shown = dialog->findChild<QLineEdit *>()->displayText();
-                QVERIFY(shown.size() == 6 && !shown.contains("preset"_q));
-                dialog->accept();
-            },
-            "preset"_q);
-    row("item: first", item(0), key(Qt::Key_Return), "Apple"_q);
-    row("item: second", item(1), key(Qt::Key_Return), "Pear"_q);
-    row("item: beyond the list", item(2), key(Qt::Key_Return), ""_q);
-    row("item: below the list", item(-7, true), key(Qt::Key_Return), ""_q);
-    row("item: typed", item(1, true), typeOver("plum"_q), "plum"_q);
-    row("item: cancel", item(1, true), press("&Cancel"), QString());
-    row(
-            "item: input destroyed", item(1),
-            [](OmDialog2 *dialog) {
-                delete dialog->findChild<QComboBox *>();
-                dialog->accept();
-            },
-            QString());
-    row("date: clicked", date(pi), day("23"_q), QDate(2011, 3, 23));
-    row(
-            "date: keyboard", date(pi),
-            [](OmDialog2 *dialog) {
-                dialog->findChild<QTableView *>()->setFocus();
-                type(dialog, Qt::Key_Right);
-                type(dialog, Qt::Key_Return);
-            },
-            QDate(2011, 3, 15));
-    row("date: none, accepted", date(QDate()), accept, QDate::currentDate());
-
-    const std::tuple<const char *, Call, QVariant> calls[] = {
-            {"information", information, 0}, {"question", question, 0},
-            {"text", text(), QString()},     {"item", item(0), QString()},
-            {"date", date(pi), pi},          {"no date", date(QDate()), QDate()}};
-    const std::pair<const char *, Act> rejections[] = {{"escape", key(Qt::Key_Escape)},
-                                                       {"closed", close},
-                                                       {"destroyed", destroy},
-                                                       {"parent destroyed", destroyParent}};
-    for (const auto &[name, call, answer] : calls) {
-        for (const auto &[how, act] : rejections)
-            row(qPrintable("%1: %2"_q.arg(QLatin1String(name), QLatin1String(how))), call, act,
-                answer);
-    }
-}
-
-void tst_SmallDialogs::answersAreReturned()
-{
-    QFETCH(Call, call);
-    QFETCH(Act, act);
-    QFETCH(QVariant, answer);
-    for (const bool asksWhetherOk : {true, false}) {
-        const QPointer<QWidget> parent(new QWidget);
-        parent->show();
-        whenOpen<OmDialog2>(act);
-        bool ok = answer.toString().isNull();
-        const QVariant given = call(parent, asksWhetherOk ? &ok : nullptr);
-        delete parent;
-        QCOMPARE(given, answer);
-        QCOMPARE(given.toString().isNull(), answer.toString().isNull());
-        if (asksWhetherOk && answer.userType() == QMetaType::QString)
-            QCOMPARE(ok, !answer.toString().isNull());
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
-}
-
-void tst_SmallDialogs::dialogsLookAsDescribed_data()
-{
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<QString>("captions"); // the default button first
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-    const QString title = "A title longer than that"_q;
-    const auto information = &OmMessageBox::information;
-    const auto question = &OmMessageBox::question;
-    QTest::newRow("information") << message(information) << "&Ok"_q
-                                 << "Title"_q
-                                 << "Text"_q;
-    QTest::newRow("question") << message(question) << "&Yes &No"_q
-                              << "Title"_q
-                              << "Text"_q;
-    QTest::newRow("no texts") << message(question, QString(), QString()) << "&Yes &No"_q
-                              << QString() << QString();
-    QTest::newRow("long title") << message(question, title) << "&Yes &No"_q << title << "Text"_q;
-    QTest::newRow("text") << text() << "&Ok &Cancel"_q
-                          << "Title"_q
-                          << "Text"_q;
-    QTest::newRow("item") << item(0) << "&Ok &Cancel"_q
-                          << "Title"_q
-                          << "Text"_q;
-}
-
-void tst_SmallDialogs::dialogsLookAsDescribed()
-{
-    QFETCH(Call, call);
-    whenOpen<OmDialog2>([](OmDialog2 *dialog) {
-        QTEST(dialog->windowTitleOnly(), "title");
-        QTEST(dialog->windowTitle(), "title");
-        const auto labels = dialog->findChildren<QLabel *>();
-        QCOMPARE(labels.value(0)->size(), QSize(48, 48));
-        QCOMPARE(labels.value(0)->alignment(), Qt::AlignCenter);
-        QTEST(labels.value(1)->text(), "text");
-        QVERIFY(!labels.value(1)->wordWrap());
-        QTEST(captions(dialog), "captions");
-        QCOMPARE(dialog->size(), dialog->minimumSizeHint().expandedTo(QSize(174, 35)));
-        QFont bold = dialog->font();
-        bold.setBold(true);
-        bold.setPixelSize(bold.pixelSize() + 2);
-        QVERIFY(dialog->width() - 179
-                >= QFontMetrics(bold).horizontalAdvance(dialog->windowTitle()));
-
-        QList<QPushButton *> buttons;
-        for (const QString &caption : captions(dialog).split(QLatin1Char(' ')))
-            buttons.append(button(dialog, qPrintable(caption)));
-        for (const QPushButton *shown : std::as_const(buttons)) {
-            QCOMPARE(shown->size(), QSize(110, 26));
-            QCOMPARE(shown->isDefault(), shown == buttons.first());
+        const std::tuple<const char *, Call, QVariant> calls[] = {
+                {"information", information, 0}, {"question", question, 0},
+                {"text", text(), QString()},     {"item", item(0), QString()},
+                {"date", date(pi), pi},          {"no date", date(QDate()), QDate()}};
+        const std::pair<const char *, Act> rejections[] = {{"escape", key(Qt::Key_Escape)},
+                                                           {"closed", close},
+                                                           {"destroyed", destroy},
+                                                           {"parent destroyed", destroyParent}};
+        for (const auto &[name, call, answer] : calls) {
+            for (const auto &[how, act] : rejections)
+                row(qPrintable("%1: %2"_q.arg(QLatin1String(name), QLatin1String(how))), call, act,
+                    answer);
         }
-        const int left = buttons.first()->geometry().left();
-        const int right = dialog->width() - 1 - buttons.last()->geometry().right();
-        QVERIFY(std::abs(left - right) <= 1); // in the middle
+    }
 
-        if (QWidget *input =
-                    qobject_cast<OmInputDialog *>(dialog) ? dialog->focusWidget() : nullptr) {
-            QVERIFY(input->geometry().top() > labels.value(1)->geometry().bottom());
-            QCOMPARE(input->accessibleName(), "Text"_q);
-            if (qobject_cast<QComboBox *>(input))
-                QCOMPARE(input->height(), 22);
-            for (const QPushButton *next : std::as_const(buttons)) {
-                type(dialog, Qt::Key_Tab);
-                QVERIFY(next->hasFocus());
+    void answersAreReturned()
+    {
+        QFETCH(Call, call);
+        QFETCH(Act, act);
+        QFETCH(QVariant, answer);
+        for (const bool asksWhetherOk : {true, false}) {
+            const QPointer<QWidget> parent(new QWidget);
+            parent->show();
+            whenOpen<OmDialog2>(act);
+            bool ok = answer.toString().isNull();
+            const QVariant given = call(parent, asksWhetherOk ? &ok : nullptr);
+            delete parent;
+            QCOMPARE(given, answer);
+            QCOMPARE(given.toString().isNull(), answer.toString().isNull());
+            if (asksWhetherOk && answer.userType() == QMetaType::QString)
+                QCOMPARE(ok, !answer.toString().isNull());
+            QVERIFY(QApplication::topLevelWidgets().isEmpty());
+        }
+    }
+
+    void dialogsLookAsDescribed_data()
+    {
+        QTest::addColumn<Call>("call");
+        QTest::addColumn<QString>("captions"); // the default button first
+        QTest::addColumn<QString>("title");
+        const auto row = [](const char *name, const Call &call, const char *captions,
+                            const char *title = "Title") {
+            QTest::newRow(name) << call << captions << title;
+        };
+        const char *longTitle = "A title longer than that";
+        row("information", message(&OmMessageBox::information), "&Ok");
+        row("question", message(&OmMessageBox::question), "&Yes &No");
+        row("no title", message(&OmMessageBox::question, QString()), "&Yes &No", "");
+        row("long title", message(&OmMessageBox::question, QLatin1String(longTitle)), "&Yes &No",
+            longTitle);
+        row("text", text(), "&Ok &Cancel");
+        row("item", item(0), "&Ok &Cancel");
+    }
+
+    void dialogsLookAsDescribed()
+    {
+        QFETCH(Call, call);
+        whenOpen<OmDialog2>([](OmDialog2 *dialog) {
+            QTEST(dialog->windowTitleOnly(), "title");
+            QTEST(dialog->windowTitle(), "title");
+            const auto labels = dialog->findChildren<QLabel *>();
+            QCOMPARE(labels.value(0)->size(), QSize(48, 48));
+            QCOMPARE(labels.value(0)->alignment(), Qt::AlignCenter);
+            QCOMPARE(labels.value(1)->text(), "Text"_q);
+            QVERIFY(!labels.value(1)->wordWrap());
+            QTEST(captions(dialog), "captions");
+            QCOMPARE(dialog->size(), dialog->minimumSizeHint().expandedTo(QSize(174, 35)));
+            QFont bold = dialog->font();
+            bold.setBold(true);
+            bold.setPixelSize(bold.pixelSize() + 2);
+            QVERIFY(dialog->width() - 179
+                    >= QFontMetrics(bold).horizontalAdvance(dialog->windowTitle()));
+
+            QList<QPushButton *> buttons;
+            for (const QString &caption : captions(dialog).split(QLatin1Char(' ')))
+                buttons.append(button(dialog, qPrintable(caption)));
+            for (const QPushButton *shown : std::as_const(buttons)) {
+                QCOMPARE(shown->size(), QSize(110, 26));
+                QCOMPARE(shown->isDefault(), shown == buttons.first());
             }
-        }
-        dialog->reject();
-    });
-    call(nullptr, nullptr);
-}
+            const int left = buttons.first()->geometry().left();
+            const int right = dialog->width() - 1 - buttons.last()->geometry().right();
+            QVERIFY(std::abs(left - right) <= 1); // in the middle
 
-void tst_SmallDialogs::weeksBeginAsTheSystemsLocaleHasIt_data()
-{
-    QTest::addColumn<int>("firstDay");
-    QTest::newRow("de_AT.UTF-8") << int(Qt::Monday);
-    QTest::newRow("en_US.UTF-8") << int(Qt::Sunday);
-    QTest::newRow("fr_FR.UTF-8") << int(Qt::Sunday);
-}
+            if (QWidget *input =
+                        qobject_cast<OmInputDialog *>(dialog) ? dialog->focusWidget() : nullptr) {
+                QVERIFY(input->geometry().top() > labels.value(1)->geometry().bottom());
+                QCOMPARE(input->accessibleName(), "Text"_q);
+                if (qobject_cast<QComboBox *>(input))
+                    QCOMPARE(input->height(), 22);
+                for (const QPushButton *next : std::as_const(buttons)) {
+                    type(dialog, Qt::Key_Tab);
+                    QVERIFY(next->hasFocus());
+                }
+            }
+            dialog->reject();
+        });
+        call(nullptr, nullptr);
+    }
 
-void tst_SmallDialogs::weeksBeginAsTheSystemsLocaleHasIt()
-{
-    // The system's locale is that of the process, which has asked for it already.
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"LC_ALL", "LC_TIME", "LC_MESSAGES", "LC_NUMERIC", "LANG"})
-        environment.insert(QLatin1String(name), QLatin1String(QTest::currentDataTag()));
-    process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), {QLatin1String(kPrintFirstDay)});
-    QVERIFY(process.waitForFinished());
-    QTEST(process.readAllStandardOutput().trimmed().toInt(), "firstDay");
-}
+    void weeksBeginAsTheSystemsLocaleHasIt_data()
+    {
+        QTest::addColumn<int>("firstDay");
+        QTest::newRow("de_AT.UTF-8") << int(Qt::Monday);
+        QTest::newRow("en_US.UTF-8") << int(Qt::Sunday);
+        QTest::newRow("fr_FR.UTF-8") << int(Qt::Sunday);
+    }
 
-void tst_SmallDialogs::languageChangeReachesOpenDialogs()
-{
-    const Act check = [](OmDialog2 *dialog) {
-        const QString before = captions(dialog) + dialog->windowTitleOnly();
-        const QString prefix = QLatin1String(dialog->metaObject()->className()) + QLatin1Char('|');
-        {
-            const TaggedLanguage language;
-            if (qobject_cast<OmCalendar *>(dialog))
-                QCOMPARE(dialog->windowTitleOnly(), prefix + "Choose a Date|"_q);
-            else if (qobject_cast<OmMessageBox *>(dialog))
-                QCOMPARE(captions(dialog), "%1&Ok| %1&Yes| %1&No|"_q.arg(prefix));
-            else
-                QCOMPARE(captions(dialog), "%1&Ok| %1&Cancel|"_q.arg(prefix));
-        }
-        QCOMPARE(captions(dialog) + dialog->windowTitleOnly(), before);
-        dialog->reject();
-    };
-    OmMessageBox box; // with all its buttons
-    QCOMPARE(captions(&box), "&Ok &Yes &No"_q);
-    check(&box);
-    OmCalendar calendar;
-    QCOMPARE(calendar.windowTitle(), "Choose a Date"_q);
-    QCOMPARE(calendar.layout()->contentsMargins(), QMargins());
-    QCOMPARE(calendar.size(), QSize(250, 200));
-    check(&calendar);
-    whenOpen<OmDialog2>(check);
-    text()(nullptr, nullptr);
-}
+    void weeksBeginAsTheSystemsLocaleHasIt()
+    {
+        // The system's locale is that of the process, which has asked for it already.
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"LC_ALL", "LC_TIME", "LC_MESSAGES", "LC_NUMERIC", "LANG"})
+            environment.insert(QLatin1String(name), QLatin1String(QTest::currentDataTag()));
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), {QLatin1String(kPrintFirstDay)});
+        QVERIFY(process.waitForFinished());
+        QTEST(process.readAllStandardOutput().trimmed().toInt(), "firstDay");
+    }
+
+    void languageChangeReachesOpenDialogs()
+    {
+        const Act check = [](OmDialog2 *dialog) {
+            const QString before = captions(dialog) + dialog->windowTitleOnly();
+            const QString prefix =
+                    QLatin1String(dialog->metaObject()->className()) + QLatin1Char('|');
+            {
+                const TaggedLanguage language;
+                if (qobject_cast<OmCalendar *>(dialog))
+                    QCOMPARE(dialog->windowTitleOnly(), prefix + "Choose a Date|"_q);
+                else if (qobject_cast<OmMessageBox *>(dialog))
+                    QCOMPARE(captions(dialog), "%1&Ok| %1&Yes| %1&No|"_q.arg(prefix));
+                else
+                    QCOMPARE(captions(dialog), "%1&Ok| %1&Cancel|"_q.arg(prefix));
+            }
+            QCOMPARE(captions(dialog) + dialog->windowTitleOnly(), before);
+            dialog->reject();
+        };
+        OmMessageBox box; // with all its buttons
+        QCOMPARE(captions(&box), "&Ok &Yes &No"_q);
+        check(&box);
+        OmCalendar calendar;
+        QCOMPARE(calendar.windowTitle(), "Choose a Date"_q);
+        QCOMPARE(calendar.layout()->contentsMargins(), QMargins());
+        QCOMPARE(calendar.size(), QSize(250, 200));
+        check(&calendar);
+        whenOpen<OmDialog2>(check);
+        text()(nullptr, nullptr);
+    }
+};
 
 int main(int argc, char *argv[])
 {

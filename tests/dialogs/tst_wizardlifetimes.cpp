@@ -102,184 +102,161 @@ class tst_WizardLifetimes : public ombrin::test::TestCase
 private Q_SLOTS:
     void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
 
-    void anythingMayHappenAtAnyTime_data();
-    void anythingMayHappenAtAnyTime();
-    void anythingMayDieWhileTheQuestionIsOpen_data() { forBothWizards(); }
-    void anythingMayDieWhileTheQuestionIsOpen();
-    void pagesGoFromWizardToWizard_data() { forBothWizards(); }
-    void pagesGoFromWizardToWizard();
-    void onlyTheCurrentPageGoesWithTheWizard_data() { forBothWizards(); }
-    void onlyTheCurrentPageGoesWithTheWizard();
-    void wizardThatDeletesItselfOnCloseDoesSoHoweverItEnds_data() { forBothWizards(); }
-    void wizardThatDeletesItselfOnCloseDoesSoHoweverItEnds();
-};
-
-void tst_WizardLifetimes::anythingMayHappenAtAnyTime_data()
-{
-    QTest::addColumn<bool>("compact");
-    QTest::addColumn<Act>("act");
-    QTest::addColumn<bool>("kills");
-    const auto row = [](const char *name, bool kills, const Act &act) {
-        for (const bool compact : {false, true})
-            QTest::addRow("%s, %s", name, compact ? "compact" : "standard")
-                    << compact << act << kills;
-    };
-    row("mission deleted", true, [](Scene &scene) { scene.killMission(); });
-    row("wizard deleted", true, [](Scene &scene) { delete scene.wizard; });
-    row("both deleted", true, [](Scene &scene) {
-        scene.killMission();
-        delete scene.wizard;
-    });
-    row("current page deleted", true, [](Scene &scene) { delete scene.mission->CurrentPage(); });
-    row("other pages deleted", true, [](Scene &scene) {
-        for (int index = 0; index < 3; ++index) {
-            if (scene.pages[index] != scene.mission->CurrentPage())
-                delete scene.pages[index];
-        }
-    });
-    row("change", false, [](Scene &scene) { scene.mission->DoOnChanged(); });
-    row("other page", false, [](Scene &scene) { scene.mission->Set_CurrentPage(scene.pages[2]); });
-    row("no page", false, [](Scene &scene) { scene.mission->Set_CurrentPage(nullptr); });
-    row("closed", false, [](Scene &scene) { scene.mission->CloseWizard(); });
-    row("no mission", false, [](Scene &scene) { scene.wizard->Set_Mission(nullptr); });
-    row("other wizard", true, [](Scene &scene) {
-        delete makeWizard(true, scene.mission).release(); // takes the page along
-    });
-}
-
-/// Lets everything happen again and again, and \a act at the first moment anything is heard of, at
-/// the second one, and so on.
-void tst_WizardLifetimes::anythingMayHappenAtAnyTime()
-{
-    QFETCH(bool, compact);
-    QFETCH(Act, act);
-    QFETCH(bool, kills);
-    bool happened = true;
-    for (int moment = 0; happened; ++moment) {
-        Scene scene(compact);
-        scene.wizard->setAttribute(Qt::WA_DontShowOnScreen);
-        scene.wizard->show();
-        happened = false;
-        int heard = 0;
-        scene.log.heard = [&](const QString &what) {
-            // Qt itself does not survive a widget that dies of what it is told of itself.
-            if ((kills && what.contains("event"_q)) || !scene.mission || !scene.wizard)
-                return;
-            if (heard++ != moment)
-                return;
-            happened = true;
-            act(scene);
+    void anythingMayHappenAtAnyTime_data()
+    {
+        QTest::addColumn<bool>("compact");
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<bool>("kills");
+        const auto row = [](const char *name, bool kills, const Act &act) {
+            for (const bool compact : {false, true})
+                QTest::addRow("%s, %s", name, compact ? "compact" : "standard")
+                        << compact << act << kills;
         };
-        scene.play();
-        if (!scene.wizard || !scene.mission)
-            continue;
-        // What is left works.
-        scene.log.heard = nullptr;
-        scene.wizard->Set_Mission(nullptr);
-        scene.wizard->Set_Mission(scene.mission);
-        const QPointer<Page> last(scene.pages[2]);
-        scene.mission->Set_CurrentPage(last);
-        QVERIFY(!last || scene.wizard->isAncestorOf(last));
+        row("mission deleted", true, [](Scene &scene) { scene.killMission(); });
+        row("wizard deleted", true, [](Scene &scene) { delete scene.wizard; });
+        row("both deleted", true, [](Scene &scene) {
+            scene.killMission();
+            delete scene.wizard;
+        });
+        row("current page deleted", true,
+            [](Scene &scene) { delete scene.mission->CurrentPage(); });
+        row("other pages deleted", true, [](Scene &scene) {
+            for (int index = 0; index < 3; ++index) {
+                if (scene.pages[index] != scene.mission->CurrentPage())
+                    delete scene.pages[index];
+            }
+        });
+        row("change", false, [](Scene &scene) { scene.mission->DoOnChanged(); });
+        row("other page", false,
+            [](Scene &scene) { scene.mission->Set_CurrentPage(scene.pages[2]); });
+        row("no page", false, [](Scene &scene) { scene.mission->Set_CurrentPage(nullptr); });
+        row("closed", false, [](Scene &scene) { scene.mission->CloseWizard(); });
+        row("no mission", false, [](Scene &scene) { scene.wizard->Set_Mission(nullptr); });
+        row("other wizard", true, [](Scene &scene) {
+            delete makeWizard(true, scene.mission).release(); // takes the page along
+        });
     }
-}
 
-void tst_WizardLifetimes::anythingMayDieWhileTheQuestionIsOpen()
-{
-    QFETCH(bool, compact);
-    for (const bool byFrame : {false, true}) {
-        for (int victims = 0; victims < 8; ++victims) {
+    /// Lets everything happen again and again, and \a act at the first moment anything is heard of,
+    /// at the second one, and so on.
+    void anythingMayHappenAtAnyTime()
+    {
+        QFETCH(bool, compact);
+        QFETCH(Act, act);
+        QFETCH(bool, kills);
+        bool happened = true;
+        for (int moment = 0; happened; ++moment) {
             Scene scene(compact);
-            scene.mission->confirms.reset();
-            QVERIFY(show(scene.wizard));
-            whenOpen<OmMessageBox>([&](OmMessageBox *box) {
-                if (victims & 1)
-                    scene.killMission();
-                if (victims & 2)
-                    delete scene.wizard;
-                if (victims & 4)
-                    delete box;
-                else
-                    box->accept();
-            });
-            if (byFrame)
-                click(dialog_user::closeButton(scene.wizard));
-            else
-                scene.press(Cancel);
-            QCOMPARE(scene.wizard && scene.wizard->isVisible(), (victims & 2) == 0 && victims >= 4);
+            scene.wizard->setAttribute(Qt::WA_DontShowOnScreen);
+            scene.wizard->show();
+            happened = false;
+            int heard = 0;
+            scene.log.heard = [&](const QString &what) {
+                // Qt itself does not survive a widget that dies of what it is told of itself.
+                if ((kills && what.contains("event"_q)) || !scene.mission || !scene.wizard)
+                    return;
+                if (heard++ != moment)
+                    return;
+                happened = true;
+                act(scene);
+            };
+            scene.play();
+            if (!scene.wizard || !scene.mission)
+                continue;
+            // What is left works.
+            scene.log.heard = nullptr;
+            scene.wizard->Set_Mission(nullptr);
+            scene.wizard->Set_Mission(scene.mission);
+            const QPointer<Page> last(scene.pages[2]);
+            scene.mission->Set_CurrentPage(last);
+            QVERIFY(!last || scene.wizard->isAncestorOf(last));
         }
     }
-}
 
-void tst_WizardLifetimes::pagesGoFromWizardToWizard()
-{
-    QFETCH(bool, compact);
-    for (const bool secondIsCompact : {false, true}) {
-        Scene scene(compact);
-        QVERIFY(show(scene.wizard));
-        // One mission in two wizards: the page is in the one that was refreshed last.
-        auto second = makeWizard(secondIsCompact, scene.mission);
-        QVERIFY(show(second.get()));
-        QVERIFY(second->isAncestorOf(scene.pages[1]));
-        click(button(second.get(), Next));
-        QVERIFY(second->isAncestorOf(scene.pages[2]));
-        QVERIFY(scene.pages[2]->isVisible() && !scene.pages[1]->parentWidget());
-        second.reset(); // takes the page along
-        QVERIFY(!scene.mission->CurrentPage());
-        click(button(scene.wizard, Previous));
-        QVERIFY(scene.pages[1]->isVisible() && scene.wizard->isAncestorOf(scene.pages[1]));
-
-        // Two missions in one wizard: the replaced one keeps its page.
-        const Pages others(1);
-        Mission other(others);
-        scene.wizard->Set_Mission(&other);
-        QVERIFY(others[0]->isVisible() && !scene.pages[1]->parentWidget());
-        QCOMPARE(scene.pages[1]->mission(), scene.mission.data());
-        scene.mission->PrevPage(); // of no consequence here
-        QVERIFY(others[0]->isVisible());
-        scene.wizard->Set_Mission(scene.mission);
-        QVERIFY(scene.pages[0]->isVisible() && !others[0]->parentWidget());
+    void anythingMayDieWhileTheQuestionIsOpen_data() { forBothWizards(); }
+    void anythingMayDieWhileTheQuestionIsOpen()
+    {
+        QFETCH(bool, compact);
+        for (const bool byFrame : {false, true}) {
+            for (int victims = 0; victims < 8; ++victims) {
+                Scene scene(compact);
+                scene.mission->confirms.reset();
+                QVERIFY(show(scene.wizard));
+                whenOpen<OmMessageBox>([&](OmMessageBox *box) {
+                    if (victims & 1)
+                        scene.killMission();
+                    if (victims & 2)
+                        delete scene.wizard;
+                    if (victims & 4)
+                        delete box;
+                    else
+                        box->accept();
+                });
+                if (byFrame)
+                    click(dialog_user::closeButton(scene.wizard));
+                else
+                    scene.press(Cancel);
+                QCOMPARE(scene.wizard && scene.wizard->isVisible(),
+                         (victims & 2) == 0 && victims >= 4);
+            }
+        }
     }
-}
 
-void tst_WizardLifetimes::onlyTheCurrentPageGoesWithTheWizard()
-{
-    QFETCH(bool, compact);
-    Scene scene(compact);
-    QVERIFY(show(scene.wizard));
-    scene.press(Previous);
-    delete scene.wizard;
-    QVERIFY(!scene.mission->CurrentPage());
-    QVERIFY(scene.mission->NextPage());
-    QVERIFY(!scene.mission->CurrentPage()->parentWidget());
-    QVERIFY(scene.mission->NextPage() && !scene.mission->NextPage());
-}
+    void pagesGoFromWizardToWizard_data() { forBothWizards(); }
+    void pagesGoFromWizardToWizard()
+    {
+        QFETCH(bool, compact);
+        for (const bool secondIsCompact : {false, true}) {
+            Scene scene(compact);
+            QVERIFY(show(scene.wizard));
+            // One mission in two wizards: the page is in the one that was refreshed last.
+            auto second = makeWizard(secondIsCompact, scene.mission);
+            QVERIFY(show(second.get()));
+            QVERIFY(second->isAncestorOf(scene.pages[1]));
+            click(button(second.get(), Next));
+            QVERIFY(second->isAncestorOf(scene.pages[2]));
+            QVERIFY(scene.pages[2]->isVisible() && !scene.pages[1]->parentWidget());
+            second.reset(); // takes the page along, and no other one
+            QVERIFY(!scene.mission->CurrentPage());
+            click(button(scene.wizard, Previous));
+            QVERIFY(scene.pages[1]->isVisible() && scene.wizard->isAncestorOf(scene.pages[1]));
 
-void tst_WizardLifetimes::wizardThatDeletesItselfOnCloseDoesSoHoweverItEnds()
-{
-    QFETCH(bool, compact);
-    const std::function<void(Scene &)> ends[] = {
-            [](Scene &scene) { scene.press(Cancel); },
-            [](Scene &scene) { click(dialog_user::closeButton(scene.wizard)); },
-            [](Scene &scene) { dialog_user::type(scene.wizard, Qt::Key_Escape); },
-            [](Scene &scene) { scene.mission->CloseWizard(); },
-            [](Scene &scene) {
-                // Not confirmed, as the one case that does not end.
-                scene.mission->confirms = false;
-                click(dialog_user::closeButton(scene.wizard));
-                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-                QVERIFY(scene.wizard);
-                delete scene.wizard;
-            }};
-    for (const auto &end : ends) {
-        Scene scene(compact);
-        scene.mission->confirms = true;
-        scene.wizard->setAttribute(Qt::WA_DeleteOnClose);
-        QVERIFY(show(scene.wizard));
-        end(scene);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!scene.wizard);
+            // Two missions in one wizard: the replaced one keeps its page.
+            const Pages others(1);
+            Mission other(others);
+            scene.wizard->Set_Mission(&other);
+            QVERIFY(others[0]->isVisible() && !scene.pages[1]->parentWidget());
+            QCOMPARE(scene.pages[1]->mission(), scene.mission.data());
+            scene.mission->PrevPage(); // of no consequence here
+            QVERIFY(others[0]->isVisible());
+            scene.wizard->Set_Mission(scene.mission);
+            QVERIFY(scene.pages[0]->isVisible() && !others[0]->parentWidget());
+        }
     }
-}
+
+    void wizardThatDeletesItselfOnCloseDoesSoHoweverItEnds_data() { forBothWizards(); }
+    void wizardThatDeletesItselfOnCloseDoesSoHoweverItEnds()
+    {
+        QFETCH(bool, compact);
+        const std::function<void(Scene &)> ends[] = {
+                [](Scene &scene) { scene.press(Cancel); },
+                [](Scene &scene) { click(dialog_user::closeButton(scene.wizard)); },
+                [](Scene &scene) { dialog_user::type(scene.wizard, Qt::Key_Escape); },
+                [](Scene &scene) { scene.mission->CloseWizard(); }};
+        for (const auto &end : ends) {
+            Scene scene(compact);
+            scene.wizard->setAttribute(Qt::WA_DeleteOnClose);
+            QVERIFY(show(scene.wizard));
+            click(dialog_user::closeButton(scene.wizard)); // not confirmed
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(scene.wizard);
+            scene.mission->confirms = true;
+            end(scene);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(!scene.wizard);
+        }
+    }
+};
 
 OMBRIN_TEST_MAIN(tst_WizardLifetimes)
 #include "tst_wizardlifetimes.moc"

@@ -32,157 +32,143 @@ class tst_CutSelection : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void dragsSelectFromCornerToCorner_data();
-    void dragsSelectFromCornerToCorner();
-    void zonesAreWhereTheUserSeesThem_data();
-    void zonesAreWhereTheUserSeesThem();
-    void dragsChangeWhatTheirZoneSays_data();
-    void dragsChangeWhatTheirZoneSays();
-    void buttonsStayOnTheDesktop_data();
-    void buttonsStayOnTheDesktop();
-    void onlyWhatChangedIsDrawnAnew();
+    void dragsSelectFromCornerToCorner_data()
+    {
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QPoint>("to");
+        QTest::addColumn<QRect>("rect");
+        QTest::addColumn<bool>("valid");
+        const QRect whole = corners(100, 100, 300, 200);
+        QTest::newRow("down") << QPoint(100, 100) << QPoint(300, 200) << whole << true;
+        QTest::newRow("up") << QPoint(300, 200) << QPoint(100, 100) << whole << true;
+        QTest::newRow("smallest") << QPoint(9, 9) << QPoint(12, 6) << corners(9, 6, 12, 9) << true;
+        QTest::newRow("narrow") << QPoint(9, 9) << QPoint(11, 99) << corners(9, 9, 11, 99) << false;
+        QTest::newRow("click") << QPoint(9, 9) << QPoint(9, 9) << corners(9, 9, 9, 9) << false;
+    }
+
+    void dragsSelectFromCornerToCorner()
+    {
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, to);
+        const CutSelection made = selection(from, to);
+        QTEST(made.rect(), "rect");
+        QTEST(made.isValid(), "valid");
+        QCOMPARE(made.snapButton().isNull(), !made.isValid());
+    }
+
+    void zonesAreWhereTheUserSeesThem_data()
+    {
+        QTest::addColumn<QPoint>("point");
+        QTest::addColumn<CutZone>("zone");
+        QTest::addColumn<Qt::CursorShape>("cursor");
+        const auto row = [](const char *name, int x, int y, CutZone zone, Qt::CursorShape cursor) {
+            QTest::newRow(name) << QPoint(x, y) << zone << cursor;
+        };
+        // Of a selection from (100, 100) to (300, 200): handles of 5 x 5, which take 2 pixels more.
+        row("top left", 97, 97, CutZone::TopLeft, Qt::SizeFDiagCursor);
+        row("top left, its end", 105, 105, CutZone::TopLeft, Qt::SizeFDiagCursor);
+        row("within top left", 106, 105, CutZone::Inside, Qt::SizeAllCursor);
+        row("top", 199, 97, CutZone::Top, Qt::SizeVerCursor);
+        row("top right", 300, 100, CutZone::TopRight, Qt::SizeBDiagCursor);
+        row("right", 304, 149, CutZone::Right, Qt::SizeHorCursor);
+        row("bottom right", 304, 204, CutZone::BottomRight, Qt::SizeFDiagCursor);
+        row("bottom", 199, 200, CutZone::Bottom, Qt::SizeVerCursor);
+        row("bottom left", 100, 200, CutZone::BottomLeft, Qt::SizeBDiagCursor);
+        row("left", 100, 149, CutZone::Left, Qt::SizeHorCursor);
+        row("edge between the handles", 130, 100, CutZone::Inside, Qt::SizeAllCursor);
+        row("snap", 226, 163, CutZone::SnapButton, Qt::PointingHandCursor);
+        row("between the buttons", 259, 163, CutZone::Inside, Qt::SizeAllCursor);
+        row("close", 294, 194, CutZone::CloseButton, Qt::PointingHandCursor);
+    }
+
+    void zonesAreWhereTheUserSeesThem()
+    {
+        QFETCH(QPoint, point);
+        const CutZone zone = selection({100, 100}, {300, 200}).zoneAt(point);
+        QTEST(zone, "zone");
+        QTEST(cursorShape(zone), "cursor");
+        QCOMPARE(selection({1, 1}, {1, 1}).zoneAt(point), CutZone::Outside);
+    }
+
+    void dragsChangeWhatTheirZoneSays_data()
+    {
+        QTest::addColumn<QPoint>("press");
+        QTest::addColumn<CutZone>("zone");
+        QTest::addColumn<QRect>("rect"); // after a drag to (50, 400)
+        const auto row = [](const char *name, int x, int y, CutZone zone, const QRect &rect) {
+            QTest::newRow(name) << QPoint(x, y) << zone << rect;
+        };
+        row("outside", 20, 390, CutZone::Outside, corners(20, 390, 50, 400));
+        row("inside", 110, 140, CutZone::Inside, corners(40, 360, 240, 460));
+        row("snap", 240, 170, CutZone::SnapButton, corners(100, 100, 300, 200));
+        row("close", 280, 170, CutZone::CloseButton, corners(100, 100, 300, 200));
+        row("top left", 100, 100, CutZone::TopLeft, corners(50, 200, 300, 400));
+        row("top", 200, 100, CutZone::Top, corners(100, 200, 300, 400));
+        row("top right", 300, 100, CutZone::TopRight, corners(50, 200, 100, 400));
+        row("right", 300, 150, CutZone::Right, corners(50, 100, 100, 200));
+        row("bottom right", 300, 200, CutZone::BottomRight, corners(50, 100, 100, 400));
+        row("bottom", 200, 200, CutZone::Bottom, corners(100, 100, 300, 400));
+        row("bottom left", 100, 200, CutZone::BottomLeft, corners(50, 100, 300, 400));
+        row("left", 100, 150, CutZone::Left, corners(50, 100, 300, 200));
+    }
+
+    void dragsChangeWhatTheirZoneSays()
+    {
+        QFETCH(QPoint, press);
+        CutSelection made = selection({100, 100}, {300, 200});
+        made.press(press);
+        QTEST(made.drag(), "zone");
+        const bool hasButtons =
+                made.drag() == CutZone::SnapButton || made.drag() == CutZone::CloseButton;
+        made.moveTo({9, 9}); // steps on the way do not add up
+        made.moveTo({50, 400});
+        QTEST(made.rect(), "rect");
+        QVERIFY(made.isValid());
+        QCOMPARE(made.snapButton().isNull(), !hasButtons);
+        made.release();
+        QTEST(made.rect(), "rect");
+        QVERIFY(!made.closeButton().isNull());
+        made.restorePrevious();
+        QVERIFY(made.isValid());
+        QCOMPARE(made.rect(), corners(100, 100, 300, 200));
+    }
+
+    void buttonsStayOnTheDesktop_data()
+    {
+        QTest::addColumn<QRect>("area");
+        QTest::addColumn<QPoint>("snap");
+        QTest::newRow("in the corner") << corners(100, 100, 300, 200) << QPoint(226, 163);
+        QTest::newRow("left") << corners(-90, 100, 10, 200) << QPoint(0, 163);
+        QTest::newRow("top") << corners(100, -90, 300, 20) << QPoint(226, 0);
+        QTest::newRow("bottom") << corners(100, 400, 300, 520) << QPoint(226, 448);
+        QTest::newRow("right") << corners(500, 100, 700, 200) << QPoint(571, 163);
+    }
+
+    void buttonsStayOnTheDesktop()
+    {
+        QFETCH(QRect, area);
+        QFETCH(QPoint, snap);
+        const CutSelection made = selection(area.topLeft(), area.bottomRight());
+        QCOMPARE(made.snapButton(), QRect(snap, kButton));
+        QCOMPARE(made.closeButton(), QRect(snap + QPoint(37, 0), kButton));
+    }
+
+    void onlyWhatChangedIsDrawnAnew()
+    {
+        CutSelection made = selection({100, 100}, {300, 200});
+        made.press({300, 200});
+        const CutSelection before = made;
+        made.moveTo({320, 210});
+        const QRegion changed = made.changedSince(before);
+        for (const QPoint &point :
+             {QPoint(95, 95), QPoint(301, 150), QPoint(295, 150), QPoint(330, 220)})
+            QVERIFY(changed.contains(point));
+        for (const QPoint &point : {QPoint(150, 150), QPoint(89, 150), QPoint(331, 150)})
+            QVERIFY(!changed.contains(point));
+        made.moveTo({101, 101}); // too small: the frame goes
+        QVERIFY(made.changedSince(before).contains({200, 150}));
+    }
 };
-
-void tst_CutSelection::dragsSelectFromCornerToCorner_data()
-{
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QRect>("rect");
-    QTest::addColumn<bool>("valid");
-    const QRect whole = corners(100, 100, 300, 200);
-    QTest::newRow("down") << QPoint(100, 100) << QPoint(300, 200) << whole << true;
-    QTest::newRow("up") << QPoint(300, 200) << QPoint(100, 100) << whole << true;
-    QTest::newRow("across") << QPoint(300, 100) << QPoint(100, 200) << whole << true;
-    QTest::newRow("smallest") << QPoint(9, 9) << QPoint(12, 6) << corners(9, 6, 12, 9) << true;
-    QTest::newRow("narrow") << QPoint(9, 9) << QPoint(11, 99) << corners(9, 9, 11, 99) << false;
-    QTest::newRow("low") << QPoint(9, 9) << QPoint(99, 7) << corners(9, 7, 99, 9) << false;
-    QTest::newRow("click") << QPoint(9, 9) << QPoint(9, 9) << corners(9, 9, 9, 9) << false;
-}
-
-void tst_CutSelection::dragsSelectFromCornerToCorner()
-{
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, to);
-    const CutSelection made = selection(from, to);
-    QTEST(made.rect(), "rect");
-    QTEST(made.isValid(), "valid");
-    QCOMPARE(made.snapButton().isNull(), !made.isValid());
-}
-
-void tst_CutSelection::zonesAreWhereTheUserSeesThem_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<CutZone>("zone");
-    QTest::addColumn<Qt::CursorShape>("cursor");
-    const auto row = [](const char *name, int x, int y, CutZone zone, Qt::CursorShape cursor) {
-        QTest::newRow(name) << QPoint(x, y) << zone << cursor;
-    };
-    // Of a selection from (100, 100) to (300, 200): handles of 5 x 5, which take 2 pixels more.
-    row("top left", 97, 97, CutZone::TopLeft, Qt::SizeFDiagCursor);
-    row("top left, its end", 105, 105, CutZone::TopLeft, Qt::SizeFDiagCursor);
-    row("past top left", 96, 99, CutZone::Outside, Qt::CrossCursor);
-    row("within top left", 106, 105, CutZone::Inside, Qt::SizeAllCursor);
-    row("top", 199, 97, CutZone::Top, Qt::SizeVerCursor);
-    row("top right", 300, 100, CutZone::TopRight, Qt::SizeBDiagCursor);
-    row("right", 304, 149, CutZone::Right, Qt::SizeHorCursor);
-    row("bottom right", 304, 204, CutZone::BottomRight, Qt::SizeFDiagCursor);
-    row("bottom", 199, 200, CutZone::Bottom, Qt::SizeVerCursor);
-    row("bottom left", 100, 200, CutZone::BottomLeft, Qt::SizeBDiagCursor);
-    row("left", 100, 149, CutZone::Left, Qt::SizeHorCursor);
-    row("edge between the handles", 130, 100, CutZone::Inside, Qt::SizeAllCursor);
-    row("above the edge", 130, 99, CutZone::Outside, Qt::CrossCursor);
-    row("snap", 226, 163, CutZone::SnapButton, Qt::PointingHandCursor);
-    row("between the buttons", 259, 163, CutZone::Inside, Qt::SizeAllCursor);
-    row("close", 294, 194, CutZone::CloseButton, Qt::PointingHandCursor);
-}
-
-void tst_CutSelection::zonesAreWhereTheUserSeesThem()
-{
-    QFETCH(QPoint, point);
-    const CutZone zone = selection({100, 100}, {300, 200}).zoneAt(point);
-    QTEST(zone, "zone");
-    QTEST(cursorShape(zone), "cursor");
-    QCOMPARE(selection({1, 1}, {1, 1}).zoneAt(point), CutZone::Outside);
-}
-
-void tst_CutSelection::dragsChangeWhatTheirZoneSays_data()
-{
-    QTest::addColumn<QPoint>("press");
-    QTest::addColumn<CutZone>("zone");
-    QTest::addColumn<QRect>("rect"); // after a drag to (50, 400)
-    const auto row = [](const char *name, int x, int y, CutZone zone, const QRect &rect) {
-        QTest::newRow(name) << QPoint(x, y) << zone << rect;
-    };
-    row("outside", 20, 390, CutZone::Outside, corners(20, 390, 50, 400));
-    row("inside", 110, 140, CutZone::Inside, corners(40, 360, 240, 460));
-    row("snap", 240, 170, CutZone::SnapButton, corners(100, 100, 300, 200));
-    row("close", 280, 170, CutZone::CloseButton, corners(100, 100, 300, 200));
-    row("top left", 100, 100, CutZone::TopLeft, corners(50, 200, 300, 400));
-    row("top", 200, 100, CutZone::Top, corners(100, 200, 300, 400));
-    row("top right", 300, 100, CutZone::TopRight, corners(50, 200, 100, 400));
-    row("right", 300, 150, CutZone::Right, corners(50, 100, 100, 200));
-    row("bottom right", 300, 200, CutZone::BottomRight, corners(50, 100, 100, 400));
-    row("bottom", 200, 200, CutZone::Bottom, corners(100, 100, 300, 400));
-    row("bottom left", 100, 200, CutZone::BottomLeft, corners(50, 100, 300, 400));
-    row("left", 100, 150, CutZone::Left, corners(50, 100, 300, 200));
-}
-
-void tst_CutSelection::dragsChangeWhatTheirZoneSays()
-{
-    QFETCH(QPoint, press);
-    CutSelection made = selection({100, 100}, {300, 200});
-    made.press(press);
-    QTEST(made.drag(), "zone");
-    const bool hasButtons =
-            made.drag() == CutZone::SnapButton || made.drag() == CutZone::CloseButton;
-    made.moveTo({9, 9}); // steps on the way do not add up
-    made.moveTo({50, 400});
-    QTEST(made.rect(), "rect");
-    QVERIFY(made.isValid());
-    QCOMPARE(made.snapButton().isNull(), !hasButtons);
-    made.release();
-    QTEST(made.rect(), "rect");
-    QVERIFY(!made.closeButton().isNull());
-    made.restorePrevious();
-    QVERIFY(made.isValid());
-    QCOMPARE(made.rect(), corners(100, 100, 300, 200));
-}
-
-void tst_CutSelection::buttonsStayOnTheDesktop_data()
-{
-    QTest::addColumn<QRect>("area");
-    QTest::addColumn<QPoint>("snap");
-    QTest::newRow("in the corner") << corners(100, 100, 300, 200) << QPoint(226, 163);
-    QTest::newRow("left") << corners(-90, 100, 10, 200) << QPoint(0, 163);
-    QTest::newRow("top") << corners(100, -90, 300, 20) << QPoint(226, 0);
-    QTest::newRow("bottom") << corners(100, 400, 300, 520) << QPoint(226, 448);
-    QTest::newRow("right") << corners(500, 100, 700, 200) << QPoint(571, 163);
-}
-
-void tst_CutSelection::buttonsStayOnTheDesktop()
-{
-    QFETCH(QRect, area);
-    QFETCH(QPoint, snap);
-    const CutSelection made = selection(area.topLeft(), area.bottomRight());
-    QCOMPARE(made.snapButton(), QRect(snap, kButton));
-    QCOMPARE(made.closeButton(), QRect(snap + QPoint(37, 0), kButton));
-}
-
-void tst_CutSelection::onlyWhatChangedIsDrawnAnew()
-{
-    CutSelection made = selection({100, 100}, {300, 200});
-    made.press({300, 200});
-    const CutSelection before = made;
-    made.moveTo({320, 210});
-    const QRegion changed = made.changedSince(before);
-    for (const QPoint &point :
-         {QPoint(95, 95), QPoint(301, 150), QPoint(295, 150), QPoint(330, 220)})
-        QVERIFY(changed.contains(point));
-    for (const QPoint &point : {QPoint(150, 150), QPoint(89, 150), QPoint(331, 150)})
-        QVERIFY(!changed.contains(point));
-    made.moveTo({101, 101}); // too small: the frame goes
-    QVERIFY(made.changedSince(before).contains({200, 150}));
-}
 
 OMBRIN_TEST_MAIN(tst_CutSelection)
 #include "tst_cutselection.moc"

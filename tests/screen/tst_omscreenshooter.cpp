@@ -2,6 +2,7 @@
 #include "screen/ScreenGrabber.h"
 #include "skin/SkinPixmap.h"
 #include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmImageMaskedButton.h>
 #include <ombrin/OmScreenShooter.h>
@@ -17,6 +18,7 @@
 
 using ombrin::OmImageMaskedButton;
 using ombrin::OmImageMaskedWidget;
+using ombrin::test::sendMouseMove;
 using Cutter = OmScreenShooter_FullscreenCutter;
 
 namespace {
@@ -59,17 +61,10 @@ int number()
     return found;
 }
 
-void move(QWidget *widget, const QPoint &point, Qt::MouseButtons buttons = Qt::NoButton)
-{
-    QMouseEvent event(QEvent::MouseMove, point, widget->mapToGlobal(point), Qt::NoButton, buttons,
-                      Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-
 void drag(QWidget *widget, const QPoint &from, const QPoint &to)
 {
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
-    move(widget, to, Qt::LeftButton);
+    sendMouseMove(widget, to, Qt::LeftButton);
     QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 
@@ -97,17 +92,309 @@ private Q_SLOTS:
                                             + QStringLiteral("/skins/ombrin.res")));
     }
 
-    void simplePictureIsOfTheWholeDesktop();
-    void requestShowsWhatItSays_data();
-    void requestShowsWhatItSays();
-    void countdownCountsSeconds();
-    void everyRequestReportsOnce_data();
-    void everyRequestReportsOnce();
-    void receiversMayBeMissing();
-    void cutterEndsAsTheUserSays_data();
-    void cutterEndsAsTheUserSays();
-    void cutterPaintsSelectionOverTheFrozenDesktop();
-    void hintTellsWhatToDo();
+    void simplePictureIsOfTheWholeDesktop()
+    {
+        const QScreen *screen = QGuiApplication::primaryScreen();
+        const QPixmap picture = OmScreenShooter::shootSimple();
+        QCOMPARE(picture.toImage(), pattern(QGuiApplication::primaryScreen()).toImage());
+        QCOMPARE(picture.devicePixelRatio(), screen->devicePixelRatio());
+        ombrin::setScreenGrab([](QScreen *) { return QPixmap(); });
+        QVERIFY(OmScreenShooter::shootSimple().isNull());
+    }
+
+    void requestShowsWhatItSays_data()
+    {
+        QTest::addColumn<unsigned int>("delay");
+        QTest::addColumn<bool>("button");
+        QTest::addColumn<int>("number"); // of the countdown's picture; 0 for none
+        QTest::newRow("at once") << 0U << false << 0;
+        QTest::newRow("button alone") << 0U << true << 0;
+        QTest::newRow("half a second") << 500U << false << 1;
+        QTest::newRow("three seconds") << 3000U << true << 3;
+        QTest::newRow("twelve seconds") << 12000U << true << 10;
+        QTest::newRow("for ever") << std::numeric_limits<unsigned int>::max() << true << 10;
+    }
+
+    void requestShowsWhatItSays()
+    {
+        QFETCH(unsigned int, delay);
+        QFETCH(bool, button);
+        shoot(false, delay, button);
+        const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
+        const QPoint middle(desktop.left() + desktop.width() / 2,
+                            desktop.top() + desktop.height() / 2);
+        QTEST(number(), "number");
+        if (const OmImageMaskedWidget *image = countdown()) {
+            QCOMPARE(image->geometry(), QRect(middle - QPoint(64, 128 + 5), QSize(128, 128)));
+            QCOMPARE(qRound(image->windowOpacity() * 100), 75);
+        }
+        auto *now = shown<OmImageMaskedButton>();
+        QCOMPARE(now != nullptr, button);
+        if (now) {
+            QCOMPARE(now->geometry(), QRect(middle + QPoint(-32, 5), QSize(64, 64)));
+            QVERIFY(now->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+            QTest::mouseClick(now, Qt::LeftButton);
+            QVERIFY(!shown<OmImageMaskedWidget>()); // nothing of it is in the picture
+        }
+        QVERIFY(m_reports.isEmpty());
+        QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
+        QCOMPARE(m_reports, QStringList(QStringLiteral("shot")));
+        QCOMPARE(m_picture.toImage(), OmScreenShooter::shootSimple().toImage());
+    }
+
+    void countdownCountsSeconds()
+    {
+        shoot(false, 2000);
+        QCOMPARE(number(), 2);
+        QVERIFY(waitFor([] { return number() < 2; }));
+        QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
+        QVERIFY(!countdown());
+    }
+
+    void everyRequestReportsOnce_data()
+    {
+        QTest::addColumn<bool>("cuts");
+        QTest::addColumn<bool>("waitsForButton");
+        QTest::addColumn<Act>("act"); // once the button or the cutter is there, which may be null
+        QTest::addColumn<QString>("report");
+        const auto row = [](const char *name, bool cuts, bool waits, const Act &act,
+                            const char *report) {
+            QTest::newRow(name) << cuts << waits << act << QString::fromLatin1(report);
+        };
+        const auto nothing = [](Cutter *) {};
+        const auto forbid = [](Cutter *) {
+            ombrin::setScreenGrab([](QScreen *) { return QPixmap(); });
+        };
+        const auto quit = [](Cutter *) { QMetaObject::invokeMethod(qApp, "aboutToQuit"); };
+        const auto closeAll = [](Cutter *) { QApplication::closeAllWindows(); };
+        const auto click = [](Cutter *) {
+            QTest::mouseClick(shown<OmImageMaskedButton>(), Qt::LeftButton);
+        };
+        row("shot", false, false, nothing, "shot");
+        row("forbidden", false, false, forbid, "failed");
+        row("application quits", false, false, quit, "failed");
+        row("all windows closed, button", false, true, closeAll, "failed");
+        row(
+                "button deleted", true, true,
+                [](Cutter *) { shown<OmImageMaskedButton>()->deleteLater(); }, "failed");
+        row(
+                "button clicked twice", false, true,
+                [](Cutter *) {
+                    auto *button = shown<OmImageMaskedButton>();
+                    Q_EMIT button->signalOnClicked();
+                    Q_EMIT button->signalOnClicked();
+                },
+                "shot");
+        row(
+                "button clicked, application quits", false, true,
+                [click, quit](Cutter *) {
+                    click(nullptr);
+                    quit(nullptr);
+                },
+                "failed");
+    }
+
+    void everyRequestReportsOnce()
+    {
+        QFETCH(bool, cuts);
+        QFETCH(bool, waitsForButton);
+        QFETCH(Act, act);
+        shoot(cuts, 0, waitsForButton);
+        act(nullptr);
+        QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
+        QTest::qWait(400);
+        QTEST(m_reports.join(QLatin1Char(' ')), "report");
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    void receiversMayBeMissing()
+    {
+        expectWarning(QStringLiteral("No such slot"));
+        auto receiver = std::make_unique<QObject>();
+        OmScreenShooter::shootDelayed(0, false, receiver.get(), SLOT(deleteLater()), nullptr,
+                                      nullptr);
+        OmScreenShooter::shootDelayed(0, false, this, nullptr, this, SLOT(nothing()));
+        OmScreenShooter::shootDelayed(0, false, nullptr, SLOT(shot(QPixmap)), this, SLOT(failed()));
+        receiver.reset();
+        QTest::qWait(400);
+        QCOMPARE(m_reports, QStringList());
+    }
+
+    void cutterEndsAsTheUserSays_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QSize>("size"); // of the picture; none: failed
+        QTest::addColumn<QPoint>("corner");
+        const auto row = [](const char *name, const Act &act, const QSize &size = QSize(),
+                            const QPoint &corner = kFrom) {
+            QTest::newRow(name) << act << size << corner;
+        };
+        const auto key = [](Qt::Key pressed) {
+            return [pressed](Cutter *cutter) { QTest::keyClick(cutter, pressed); };
+        };
+        const auto click = [](const QPoint &point) {
+            return [point](Cutter *cutter) {
+                QTest::mouseClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
+            };
+        };
+        const auto doubleClick = [](const QPoint &point) {
+            return [point](Cutter *cutter) {
+                QTest::mouseClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
+                QTest::mouseDClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
+                QTest::mouseRelease(cutter, Qt::LeftButton, Qt::NoModifier, point);
+            };
+        };
+        const auto dragged = [](const QPoint &from, const QPoint &to, const Act &then) {
+            return [=](Cutter *cutter) {
+                drag(cutter, from, to);
+                then(cutter);
+            };
+        };
+        const QSize whole(201, 101);
+        const Act enter = key(Qt::Key_Enter);
+        row("snap button", click({240, 170}), whole);
+        row("enter", enter, whole);
+        row("double click inside", doubleClick({150, 150}), whole);
+        row("moved", dragged({150, 150}, {170, 180}, enter), whole, {120, 130});
+        row("moved over the edge", dragged({150, 150}, {10, 150}, enter), {161, 101}, {0, 100});
+        row("while dragging",
+            [](Cutter *cutter) {
+                QTest::mousePress(cutter, Qt::LeftButton, Qt::NoModifier, kTo);
+                sendMouseMove(cutter, {50, 60}, Qt::LeftButton);
+                QTest::keyClick(cutter, Qt::Key_Enter);
+            },
+            {51, 41}, {50, 60});
+        row("close button", click({280, 170}));
+        row("snap button, released elsewhere",
+            dragged({240, 170}, {150, 150}, key(Qt::Key_Escape)));
+        row("escape", key(Qt::Key_Escape));
+        row("double click outside", doubleClick({20, 20}));
+        row("other window", [](Cutter *) {
+            QDialog other;
+            other.show();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+        });
+        row("closed", [](Cutter *cutter) { cutter->close(); });
+        row("deleted", [](Cutter *cutter) { delete cutter; });
+        row("second request", [](Cutter *) {
+            OmScreenShooter::shootUserCutted(0, false, nullptr, nullptr, nullptr, nullptr);
+            const auto *first = shown<Cutter>();
+            QVERIFY(waitFor([first] { return shown<Cutter>() && shown<Cutter>() != first; }));
+            shown<Cutter>()->close();
+        });
+        row("screen removed", [](Cutter *) {
+            Q_EMIT QGuiApplication::primaryScreen()->virtualGeometryChanged(QRect());
+        });
+        row("application quits", [](Cutter *) { QMetaObject::invokeMethod(qApp, "aboutToQuit"); });
+    }
+
+    void cutterEndsAsTheUserSays()
+    {
+        QFETCH(Act, act);
+        QFETCH(QSize, size);
+        QFETCH(QPoint, corner);
+        Cutter *cutter = cut();
+        QVERIFY(cutter);
+        QCOMPARE(cutter->geometry(), QGuiApplication::primaryScreen()->virtualGeometry());
+        drag(cutter, kFrom, kTo);
+        act(cutter);
+        QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
+        QTest::qWait(20);
+        QCOMPARE(m_reports,
+                 QStringList(size.isValid() ? QStringLiteral("shot") : QStringLiteral("failed")));
+        if (size.isValid()) {
+            const qreal density = m_picture.devicePixelRatio();
+            QCOMPARE(m_picture.size(), size * density);
+            QCOMPARE(density, QGuiApplication::primaryScreen()->devicePixelRatio());
+            const QImage expected = OmScreenShooter::shootSimple().toImage().copy(
+                    QRect(corner * density, size * density));
+            QCOMPARE(m_picture.toImage().convertToFormat(QImage::Format_RGB32),
+                     expected.convertToFormat(QImage::Format_RGB32));
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    void cutterPaintsSelectionOverTheFrozenDesktop()
+    {
+        Cutter *cutter = cut();
+        QVERIFY(cutter);
+        const auto color = [cutter](const QImage &image, const QPoint &point) {
+            return image.pixelColor(point * cutter->devicePixelRatio());
+        };
+        // Frozen below, and dimmed by half to the grey 96.
+        const QImage below = pattern(cutter->screen()).toImage();
+        const auto isDimmed = [&](const QImage &image, const QPoint &point) {
+            const QColor before = color(below, point);
+            const QColor seen = color(image, point);
+            return std::abs(seen.red() - (before.red() + 96) / 2) <= 1
+                   && std::abs(seen.green() - (before.green() + 96) / 2) <= 1;
+        };
+        QImage image = cutter->grab().toImage();
+        QVERIFY(isDimmed(image, {50, 60}));
+        drag(cutter, kFrom, kTo);
+        image = cutter->grab().toImage();
+        for (const QPoint &point :
+             {QPoint(50, 60), QPoint(150, 96), QPoint(305, 130), QPoint(150, 205)})
+            QVERIFY(isDimmed(image, point));
+        for (const QPoint &point : {QPoint(110, 130), QPoint(100, 130), QPoint(300, 130)})
+            QCOMPARE(color(image, point), color(below, point));
+        for (const QPoint &handle :
+             {QPoint(99, 99), QPoint(103, 103), QPoint(199, 99), QPoint(298, 149)})
+            QCOMPARE(color(image, handle), QColor(Qt::black));
+
+        // The buttons: as they are, under the mouse, and pressed.
+        const QRect snap(226, 163, 32, 32);
+        const qreal density = cutter->devicePixelRatio();
+        const auto button = [&](const char *state) {
+            QPixmap expected = OmScreenShooter::shootSimple().copy(
+                    QRect(snap.topLeft() * density, snap.size() * density));
+            expected.setDevicePixelRatio(density);
+            QPainter painter(&expected);
+            painter.drawPixmap(
+                    0, 0,
+                    ombrin::skinPixmap(
+                            QStringLiteral(":/snapshot-snap%1-32.png").arg(QLatin1String(state))));
+            return expected.toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        const auto seen = [&] {
+            return cutter->grab(snap).toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        QCOMPARE(seen(), button(""));
+        sendMouseMove(cutter, snap.center());
+        QCOMPARE(cutter->cursor().shape(), Qt::PointingHandCursor);
+        QCOMPARE(seen(), button("-hover"));
+        QTest::mousePress(cutter, Qt::LeftButton, Qt::NoModifier, snap.center());
+        QCOMPARE(seen(), button("-pressed"));
+        sendMouseMove(cutter, {0, 0}, Qt::LeftButton);
+        QCOMPARE(seen(), button(""));
+        cutter->close();
+    }
+
+    void hintTellsWhatToDo()
+    {
+        Cutter *cutter = cut();
+        QVERIFY(cutter);
+        const QRect box(100, 20, 250, 200); // of the hint
+        const QImage before = cutter->grab(box).toImage();
+        drag(cutter, {10, 10}, {11, 11}); // not a selection
+        QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
+        QImage image = cutter->grab(box).toImage();
+        int white = 0;
+        int black = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                white += image.pixelColor(x, y) == QColor(Qt::white);
+                black += image.pixelColor(x, y) == QColor(Qt::black);
+            }
+        }
+        QVERIFY(white > 100 && black > 100);
+        drag(cutter, {2, 2}, {9, 9});
+        QCOMPARE(cutter->grab(box).toImage(), before);
+        QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
+        QCOMPARE(cutter->grab(box).toImage(), before); // it never comes back
+        cutter->close();
+    }
 
 protected:
     void setUp() override
@@ -135,319 +422,6 @@ private:
     QStringList m_reports;
     QPixmap m_picture;
 };
-
-void tst_OmScreenShooter::simplePictureIsOfTheWholeDesktop()
-{
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    const QPixmap picture = OmScreenShooter::shootSimple();
-    QCOMPARE(picture.toImage(), pattern(QGuiApplication::primaryScreen()).toImage());
-    QCOMPARE(picture.devicePixelRatio(), screen->devicePixelRatio());
-    ombrin::setScreenGrab([](QScreen *) { return QPixmap(); });
-    QVERIFY(OmScreenShooter::shootSimple().isNull());
-}
-
-void tst_OmScreenShooter::requestShowsWhatItSays_data()
-{
-    QTest::addColumn<unsigned int>("delay");
-    QTest::addColumn<bool>("button");
-    QTest::addColumn<int>("number"); // of the countdown's picture; 0 for none
-    QTest::newRow("at once") << 0U << false << 0;
-    QTest::newRow("button alone") << 0U << true << 0;
-    QTest::newRow("half a second") << 500U << false << 1;
-    QTest::newRow("three seconds") << 3000U << true << 3;
-    QTest::newRow("twelve seconds") << 12000U << true << 10;
-    QTest::newRow("for ever") << std::numeric_limits<unsigned int>::max() << true << 10;
-}
-
-void tst_OmScreenShooter::requestShowsWhatItSays()
-{
-    QFETCH(unsigned int, delay);
-    QFETCH(bool, button);
-    shoot(false, delay, button);
-    const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
-    const QPoint middle(desktop.left() + desktop.width() / 2, desktop.top() + desktop.height() / 2);
-    QTEST(number(), "number");
-    if (const OmImageMaskedWidget *image = countdown()) {
-        QCOMPARE(image->geometry(), QRect(middle - QPoint(64, 128 + 5), QSize(128, 128)));
-        QCOMPARE(qRound(image->windowOpacity() * 100), 75);
-    }
-    auto *now = shown<OmImageMaskedButton>();
-    QCOMPARE(now != nullptr, button);
-    if (now) {
-        QCOMPARE(now->geometry(), QRect(middle + QPoint(-32, 5), QSize(64, 64)));
-        QVERIFY(now->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-        QTest::mouseClick(now, Qt::LeftButton);
-        QVERIFY(!shown<OmImageMaskedWidget>()); // nothing of it is in the picture
-    }
-    QVERIFY(m_reports.isEmpty());
-    QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
-    QCOMPARE(m_reports, QStringList(QStringLiteral("shot")));
-    QCOMPARE(m_picture.toImage(), OmScreenShooter::shootSimple().toImage());
-}
-
-void tst_OmScreenShooter::countdownCountsSeconds()
-{
-    QVector<int> numbers;
-    shoot(false, 2000);
-    while (m_reports.isEmpty()) {
-        if (numbers.isEmpty() || numbers.last() != number())
-            numbers.append(number());
-        QTest::qWait(5);
-    }
-    QCOMPARE(numbers, QVector<int>({2, 1, 0}));
-}
-
-void tst_OmScreenShooter::everyRequestReportsOnce_data()
-{
-    QTest::addColumn<bool>("cuts");
-    QTest::addColumn<bool>("waitsForButton");
-    QTest::addColumn<Act>("act"); // once the button or the cutter is there, which may be null
-    QTest::addColumn<QString>("report");
-    const auto row = [](const char *name, bool cuts, bool waits, const Act &act,
-                        const char *report) {
-        QTest::newRow(name) << cuts << waits << act << QString::fromLatin1(report);
-    };
-    const auto nothing = [](Cutter *) {};
-    const auto forbid = [](Cutter *) {
-        ombrin::setScreenGrab([](QScreen *) { return QPixmap(); });
-    };
-    const auto quit = [](Cutter *) { QMetaObject::invokeMethod(qApp, "aboutToQuit"); };
-    const auto closeAll = [](Cutter *) { QApplication::closeAllWindows(); };
-    const auto click = [](Cutter *) {
-        QTest::mouseClick(shown<OmImageMaskedButton>(), Qt::LeftButton);
-    };
-    row("shot", false, false, nothing, "shot");
-    row("forbidden", false, false, forbid, "failed");
-    row("forbidden to cut", true, false, forbid, "failed");
-    row("application quits", false, false, quit, "failed");
-    row("application quits, button", true, true, quit, "failed");
-    row("all windows closed, button", false, true, closeAll, "failed");
-    row(
-            "button deleted", true, true,
-            [](Cutter *) { shown<OmImageMaskedButton>()->deleteLater(); }, "failed");
-    row(
-            "button clicked twice", false, true,
-            [](Cutter *) {
-                auto *button = shown<OmImageMaskedButton>();
-                Q_EMIT button->signalOnClicked();
-                Q_EMIT button->signalOnClicked();
-            },
-            "shot");
-    row(
-            "button clicked, application quits", false, true,
-            [click, quit](Cutter *) {
-                click(nullptr);
-                quit(nullptr);
-            },
-            "failed");
-}
-
-void tst_OmScreenShooter::everyRequestReportsOnce()
-{
-    QFETCH(bool, cuts);
-    QFETCH(bool, waitsForButton);
-    QFETCH(Act, act);
-    shoot(cuts, 0, waitsForButton);
-    act(nullptr);
-    QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
-    QTest::qWait(400);
-    QTEST(m_reports.join(QLatin1Char(' ')), "report");
-    QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void tst_OmScreenShooter::receiversMayBeMissing()
-{
-    expectWarning(QStringLiteral("No such slot"));
-    auto receiver = std::make_unique<QObject>();
-    OmScreenShooter::shootDelayed(0, false, receiver.get(), SLOT(deleteLater()), nullptr, nullptr);
-    OmScreenShooter::shootDelayed(0, false, this, nullptr, this, SLOT(nothing()));
-    OmScreenShooter::shootDelayed(0, false, nullptr, SLOT(shot(QPixmap)), this, SLOT(failed()));
-    receiver.reset();
-    QTest::qWait(400);
-    QCOMPARE(m_reports, QStringList());
-}
-
-void tst_OmScreenShooter::cutterEndsAsTheUserSays_data()
-{
-    QTest::addColumn<Act>("act");
-    QTest::addColumn<QSize>("size"); // of the picture; none: failed
-    QTest::addColumn<QPoint>("corner");
-    const auto row = [](const char *name, const Act &act, const QSize &size = QSize(),
-                        const QPoint &corner = kFrom) {
-        QTest::newRow(name) << act << size << corner;
-    };
-    const auto key = [](Qt::Key pressed) {
-        return [pressed](Cutter *cutter) { QTest::keyClick(cutter, pressed); };
-    };
-    const auto click = [](const QPoint &point) {
-        return [point](Cutter *cutter) {
-            QTest::mouseClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
-        };
-    };
-    const auto doubleClick = [](const QPoint &point) {
-        return [point](Cutter *cutter) {
-            QTest::mouseClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
-            QTest::mouseDClick(cutter, Qt::LeftButton, Qt::NoModifier, point);
-            QTest::mouseRelease(cutter, Qt::LeftButton, Qt::NoModifier, point);
-        };
-    };
-    const auto dragged = [](const QPoint &from, const QPoint &to, const Act &then) {
-        return [=](Cutter *cutter) {
-            drag(cutter, from, to);
-            then(cutter);
-        };
-    };
-    const QSize whole(201, 101);
-    const Act enter = key(Qt::Key_Enter);
-    row("snap button", click({240, 170}), whole);
-    row("return", key(Qt::Key_Return), whole);
-    row("enter", enter, whole);
-    row("double click inside", doubleClick({150, 150}), whole);
-    row("moved", dragged({150, 150}, {170, 180}, enter), whole, {120, 130});
-    row("right handle", dragged({300, 150}, {350, 10}, enter), {251, 101});
-    row("top left handle", dragged({100, 100}, {90, 80}, enter), {211, 121}, {90, 80});
-    row("moved over the edge", dragged({150, 150}, {10, 150}, enter), {161, 101}, {0, 100});
-    row("while dragging",
-        [](Cutter *cutter) {
-            QTest::mousePress(cutter, Qt::LeftButton, Qt::NoModifier, kTo);
-            move(cutter, {50, 60}, Qt::LeftButton);
-            QTest::keyClick(cutter, Qt::Key_Enter);
-        },
-        {51, 41}, {50, 60});
-    row("too small", dragged({10, 10}, {12, 99}, enter));
-    row("close button", click({280, 170}));
-    row("snap button, released elsewhere", dragged({240, 170}, {150, 150}, key(Qt::Key_Escape)));
-    row("escape", key(Qt::Key_Escape));
-    row("double click outside", doubleClick({20, 20}));
-    row("other window", [](Cutter *) {
-        QDialog other;
-        other.show();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
-    });
-    row("closed", [](Cutter *cutter) { cutter->close(); });
-    row("deleted", [](Cutter *cutter) { delete cutter; });
-    row("second request", [](Cutter *) {
-        OmScreenShooter::shootUserCutted(0, false, nullptr, nullptr, nullptr, nullptr);
-        const auto *first = shown<Cutter>();
-        QVERIFY(waitFor([first] { return shown<Cutter>() && shown<Cutter>() != first; }));
-        shown<Cutter>()->close();
-    });
-    row("screen removed",
-        [](Cutter *) { Q_EMIT QGuiApplication::primaryScreen()->virtualGeometryChanged(QRect()); });
-    row("application quits", [](Cutter *) { QMetaObject::invokeMethod(qApp, "aboutToQuit"); });
-}
-
-void tst_OmScreenShooter::cutterEndsAsTheUserSays()
-{
-    QFETCH(Act, act);
-    QFETCH(QSize, size);
-    QFETCH(QPoint, corner);
-    Cutter *cutter = cut();
-    QVERIFY(cutter);
-    QCOMPARE(cutter->geometry(), QGuiApplication::primaryScreen()->virtualGeometry());
-    drag(cutter, kFrom, kTo);
-    act(cutter);
-    QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
-    QTest::qWait(20);
-    QCOMPARE(m_reports,
-             QStringList(size.isValid() ? QStringLiteral("shot") : QStringLiteral("failed")));
-    if (size.isValid()) {
-        const qreal density = m_picture.devicePixelRatio();
-        QCOMPARE(m_picture.size(), size * density);
-        QCOMPARE(density, QGuiApplication::primaryScreen()->devicePixelRatio());
-        const QImage expected = OmScreenShooter::shootSimple().toImage().copy(
-                QRect(corner * density, size * density));
-        QCOMPARE(m_picture.toImage().convertToFormat(QImage::Format_RGB32),
-                 expected.convertToFormat(QImage::Format_RGB32));
-    }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void tst_OmScreenShooter::cutterPaintsSelectionOverTheFrozenDesktop()
-{
-    Cutter *cutter = cut();
-    QVERIFY(cutter);
-    const auto color = [cutter](const QImage &image, const QPoint &point) {
-        return image.pixelColor(point * cutter->devicePixelRatio());
-    };
-    // Frozen below, and dimmed by half to the grey 96.
-    const auto isDimmed = [&](const QImage &image, const QPoint &point) {
-        const QColor below = color(pattern(cutter->screen()).toImage(), point);
-        const QColor seen = color(image, point);
-        return std::abs(seen.red() - (below.red() + 96) / 2) <= 1
-               && std::abs(seen.green() - (below.green() + 96) / 2) <= 1;
-    };
-    QImage image = cutter->grab().toImage();
-    QVERIFY(isDimmed(image, {50, 60}));
-    drag(cutter, kFrom, kTo);
-    image = cutter->grab().toImage();
-    const QImage below = pattern(cutter->screen()).toImage();
-    for (const QPoint &point :
-         {QPoint(50, 60), QPoint(150, 96), QPoint(305, 130), QPoint(150, 205)})
-        QVERIFY(isDimmed(image, point));
-    for (const QPoint &point : {QPoint(110, 130), QPoint(100, 130), QPoint(300, 130)})
-        QCOMPARE(color(image, point), color(below, point));
-    for (const QPoint &handle :
-         {QPoint(99, 99), QPoint(103, 103), QPoint(199, 99), QPoint(298, 149)})
-        QCOMPARE(color(image, handle), QColor(Qt::black));
-    int dashes = 0;
-    for (int x = 110; x < 190; ++x)
-        dashes += color(image, {x, 101}) == QColor(Qt::black);
-    QVERIFY(dashes > 40 && dashes < 80);
-
-    // The buttons: as they are, under the mouse, and pressed.
-    const QRect snap(226, 163, 32, 32);
-    const qreal density = cutter->devicePixelRatio();
-    const auto button = [&](const char *state) {
-        QPixmap expected = OmScreenShooter::shootSimple().copy(
-                QRect(snap.topLeft() * density, snap.size() * density));
-        expected.setDevicePixelRatio(density);
-        QPainter painter(&expected);
-        painter.drawPixmap(
-                0, 0,
-                ombrin::skinPixmap(
-                        QStringLiteral(":/snapshot-snap%1-32.png").arg(QLatin1String(state))));
-        return expected.toImage().convertToFormat(QImage::Format_RGB32);
-    };
-    const auto seen = [&] {
-        return cutter->grab(snap).toImage().convertToFormat(QImage::Format_RGB32);
-    };
-    QCOMPARE(seen(), button(""));
-    move(cutter, snap.center());
-    QCOMPARE(cutter->cursor().shape(), Qt::PointingHandCursor);
-    QCOMPARE(seen(), button("-hover"));
-    QTest::mousePress(cutter, Qt::LeftButton, Qt::NoModifier, snap.center());
-    QCOMPARE(seen(), button("-pressed"));
-    move(cutter, {0, 0}, Qt::LeftButton);
-    QCOMPARE(seen(), button(""));
-    cutter->close();
-}
-
-void tst_OmScreenShooter::hintTellsWhatToDo()
-{
-    Cutter *cutter = cut();
-    QVERIFY(cutter);
-    const QRect box(100, 20, 250, 200); // of the hint
-    const QImage before = cutter->grab(box).toImage();
-    drag(cutter, {10, 10}, {11, 11}); // not a selection
-    QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
-    QImage image = cutter->grab(box).toImage();
-    int white = 0;
-    int black = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            white += image.pixelColor(x, y) == QColor(Qt::white);
-            black += image.pixelColor(x, y) == QColor(Qt::black);
-        }
-    }
-    QVERIFY(white > 100 && black > 100);
-    drag(cutter, {2, 2}, {9, 9});
-    QCOMPARE(cutter->grab(box).toImage(), before);
-    QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
-    QCOMPARE(cutter->grab(box).toImage(), before); // it never comes back
-    cutter->close();
-}
 
 OMBRIN_TEST_MAIN(tst_OmScreenShooter)
 #include "tst_omscreenshooter.moc"

@@ -37,13 +37,82 @@ public Q_SLOTS:
 private Q_SLOTS:
     void initTestCase() { ombrin::OmSkin::init(false); }
 
-    void ownWindowsAreNotInThePicture();
-    void areaIsCutByMouse_data();
-    void areaIsCutByMouse();
-    void handlesAreDragged();
-    void keyboardAndFocusAreTheCutters_data();
-    void keyboardAndFocusAreTheCutters();
-    void hintComesAfterFiveSeconds();
+    void ownWindowsAreNotInThePicture()
+    {
+        OmScreenShooter::shootDelayed(60000, true, this, SLOT(shot(QPixmap)), this, SLOT(failed()));
+        auto *button = shown<ombrin::OmImageMaskedButton>();
+        QVERIFY(button && QTest::qWaitForWindowExposed(button, 20000));
+        // Both stand over the window, and are seen.
+        const QPoint middle = button->geometry().center();
+        const QPixmap before = OmScreenShooter::shootSimple();
+        QVERIFY(before.toImage().pixelColor(middle) != QColor(Qt::red));
+        clickAt(middle);
+        QVERIFY(waitForReport());
+        QCOMPARE(m_picture.size(), QGuiApplication::primaryScreen()->size());
+        for (const QPoint &point :
+             {middle, middle - QPoint(0, 100), QPoint(300, 300), QPoint(899, 699)})
+            QCOMPARE(pixel(point.x(), point.y()), QColor(Qt::red));
+        QVERIFY(pixel(299, 300) != QColor(Qt::red));
+    }
+
+    void areaIsCutByMouse_data()
+    {
+        QTest::addColumn<bool>("moves");
+        QTest::addColumn<int>("clicks"); // on the snap button, or twice inside
+        QTest::newRow("snap button") << false << 1;
+        QTest::newRow("moved, snap button") << true << 1;
+        QTest::newRow("double click") << false << 2;
+    }
+
+    void areaIsCutByMouse()
+    {
+        QFETCH(bool, moves);
+        QFETCH(int, clicks);
+        QVERIFY(startCutting());
+        QPoint corner(200, 250);
+        dragBy(corner, QPoint(200, 100));
+        if (moves) {
+            dragBy(corner + QPoint(50, 50), QPoint(20, 10));
+            corner += QPoint(20, 10);
+        }
+        clickAt(corner + (clicks == 1 ? QPoint(200 - 74 + 10, 100 - 37 + 10) : QPoint(60, 50)), 1,
+                clicks);
+        QVERIFY(waitForReport());
+        QCOMPARE(m_picture.size(), QSize(201, 101));
+        const QPoint first = QPoint(300, 300) - corner; // of the window's pixels
+        QCOMPARE(pixel(first.x(), first.y()), QColor(Qt::red));
+        QVERIFY(pixel(first.x() - 1, first.y()) != QColor(Qt::red));
+        QVERIFY(pixel(first.x(), first.y() - 1) != QColor(Qt::red));
+        QCOMPARE(pixel(200, 100), QColor(Qt::red));
+    }
+
+    void keyboardAndFocusAreTheCutters_data()
+    {
+        QTest::addColumn<bool>("selects");
+        QTest::addColumn<QString>("key"); // none: another window is activated
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("enter") << true << QStringLiteral("KP_Enter") << QSize(101, 51);
+        QTest::newRow("return, nothing selected")
+                << false << QStringLiteral("Return") << QSize(0, 0);
+        QTest::newRow("escape") << true << QStringLiteral("Escape") << QSize(0, 0);
+        QTest::newRow("other window") << true << QString() << QSize(0, 0);
+    }
+
+    void keyboardAndFocusAreTheCutters()
+    {
+        QFETCH(bool, selects);
+        QFETCH(QString, key);
+        QVERIFY(startCutting());
+        QCOMPARE(shown<Cutter>()->geometry(), QGuiApplication::primaryScreen()->geometry());
+        if (selects)
+            dragBy(QPoint(400, 400), QPoint(100, 50));
+        if (key.isEmpty())
+            m_window->activateWindow();
+        else
+            ::key(qPrintable(key));
+        QVERIFY(waitForReport());
+        QTEST(m_picture.size(), "size");
+    }
 
 protected:
     void setUp() override
@@ -54,8 +123,10 @@ protected:
         m_window->setGeometry(300, 300, 600, 400);
         m_window->setPalette(QPalette(Qt::red));
         m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        QTest::qWait(100);
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get(), 20000));
+        QVERIFY(waitFor([] { // until it is drawn
+            return OmScreenShooter::shootSimple().toImage().pixelColor(899, 699) == QColor(Qt::red);
+        }));
     }
     void tearDown() override { m_window.reset(); }
 
@@ -75,117 +146,6 @@ private:
     QPixmap m_picture;
     std::unique_ptr<QWidget> m_window;
 };
-
-void tst_OmScreenShooterX11::ownWindowsAreNotInThePicture()
-{
-    OmScreenShooter::shootDelayed(60000, true, this, SLOT(shot(QPixmap)), this, SLOT(failed()));
-    auto *button = shown<ombrin::OmImageMaskedButton>();
-    QVERIFY(button && QTest::qWaitForWindowExposed(button));
-    // Both stand over the window, and are seen.
-    const QPoint middle = button->geometry().center();
-    const QPixmap before = OmScreenShooter::shootSimple();
-    QVERIFY(before.toImage().pixelColor(middle) != QColor(Qt::red));
-    clickAt(middle);
-    QVERIFY(waitForReport());
-    QCOMPARE(m_picture.size(), QGuiApplication::primaryScreen()->size());
-    for (const QPoint &point :
-         {middle, middle - QPoint(0, 100), QPoint(300, 300), QPoint(899, 699)})
-        QCOMPARE(pixel(point.x(), point.y()), QColor(Qt::red));
-    QVERIFY(pixel(299, 300) != QColor(Qt::red));
-}
-
-void tst_OmScreenShooterX11::areaIsCutByMouse_data()
-{
-    QTest::addColumn<bool>("moves");
-    QTest::addColumn<int>("clicks"); // on the snap button, or twice inside
-    QTest::newRow("snap button") << false << 1;
-    QTest::newRow("moved, snap button") << true << 1;
-    QTest::newRow("double click") << false << 2;
-}
-
-void tst_OmScreenShooterX11::areaIsCutByMouse()
-{
-    QFETCH(bool, moves);
-    QFETCH(int, clicks);
-    QVERIFY(startCutting());
-    QPoint corner(200, 250);
-    dragBy(corner, QPoint(200, 100));
-    if (moves) {
-        dragBy(corner + QPoint(50, 50), QPoint(20, 10));
-        corner += QPoint(20, 10);
-    }
-    clickAt(corner + (clicks == 1 ? QPoint(200 - 74 + 10, 100 - 37 + 10) : QPoint(60, 50)), 1,
-            clicks);
-    QVERIFY(waitForReport());
-    QCOMPARE(m_picture.size(), QSize(201, 101));
-    const QPoint first = QPoint(300, 300) - corner; // of the window's pixels
-    QCOMPARE(pixel(first.x(), first.y()), QColor(Qt::red));
-    QVERIFY(pixel(first.x() - 1, first.y()) != QColor(Qt::red));
-    QVERIFY(pixel(first.x(), first.y() - 1) != QColor(Qt::red));
-    QCOMPARE(pixel(200, 100), QColor(Qt::red));
-}
-
-void tst_OmScreenShooterX11::handlesAreDragged()
-{
-    QVERIFY(startCutting());
-    QRect area(QPoint(400, 400), QPoint(600, 500));
-    dragBy(area.topLeft(), area.bottomRight() - area.topLeft());
-    // Each handle is dragged outwards by 20 and 10 pixels.
-    for (const QPoint &side : {QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1), QPoint(1, 0),
-                               QPoint(1, 1), QPoint(0, 1), QPoint(-1, 1), QPoint(-1, 0)}) {
-        const auto edge = [](int which, int low, int high) {
-            return which < 0 ? low : which > 0 ? high : (low + high) / 2;
-        };
-        const QPoint handle(edge(side.x(), area.left(), area.right()),
-                            edge(side.y(), area.top(), area.bottom()));
-        const QPoint by(20 * side.x(), 10 * side.y());
-        dragBy(handle, by);
-        area.adjust(std::min(by.x(), 0), std::min(by.y(), 0), std::max(by.x(), 0),
-                    std::max(by.y(), 0));
-    }
-    key("Return");
-    QVERIFY(waitForReport());
-    QCOMPARE(m_picture.size(), area.size());
-}
-
-void tst_OmScreenShooterX11::keyboardAndFocusAreTheCutters_data()
-{
-    QTest::addColumn<bool>("selects");
-    QTest::addColumn<QString>("key"); // none: another window is activated
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("enter") << true << QStringLiteral("KP_Enter") << QSize(101, 51);
-    QTest::newRow("return, nothing selected") << false << QStringLiteral("Return") << QSize(0, 0);
-    QTest::newRow("escape") << true << QStringLiteral("Escape") << QSize(0, 0);
-    QTest::newRow("other window") << true << QString() << QSize(0, 0);
-}
-
-void tst_OmScreenShooterX11::keyboardAndFocusAreTheCutters()
-{
-    QFETCH(bool, selects);
-    QFETCH(QString, key);
-    QVERIFY(startCutting());
-    QCOMPARE(shown<Cutter>()->geometry(), QGuiApplication::primaryScreen()->geometry());
-    if (selects)
-        dragBy(QPoint(400, 400), QPoint(100, 50));
-    if (key.isEmpty())
-        m_window->activateWindow();
-    else
-        ::key(qPrintable(key));
-    QVERIFY(waitForReport());
-    QTEST(m_picture.size(), "size");
-}
-
-void tst_OmScreenShooterX11::hintComesAfterFiveSeconds()
-{
-    QVERIFY(startCutting());
-    const QImage before = shown<Cutter>()->grab().toImage();
-    QVERIFY(waitFor([&before] { return shown<Cutter>()->grab().toImage() != before; }, 8000));
-    dragBy(QPoint(700, 800), QPoint(50, 50));
-    QCOMPARE(shown<Cutter>()->grab(QRect(20, 20, 500, 500)).toImage(),
-             before.copy(QRect(20, 20, 500, 500)));
-    key("Escape");
-    QVERIFY(waitForReport());
-}
 
 OMBRIN_TEST_MAIN(tst_OmScreenShooterX11)
 #include "tst_omscreenshooter_x11.moc"

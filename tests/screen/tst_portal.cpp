@@ -99,54 +99,51 @@ private Q_SLOTS:
     }
     void cleanupTestCase() { ombrin::setScreenGrab(nullptr); }
 
-    void pictureComesFromThePortal_data();
-    void pictureComesFromThePortal();
+    void pictureComesFromThePortal_data()
+    {
+        QTest::addColumn<int>("mood"); // -1: there is no portal
+        QTest::addColumn<bool>("succeeds");
+        QTest::newRow("granted") << int(Portal::Grants) << true;
+        QTest::newRow("denied") << int(Portal::Denies) << false;
+        QTest::newRow("no picture") << int(Portal::SendsNoPicture) << false;
+        QTest::newRow("refused") << int(Portal::Refuses) << false;
+        QTest::newRow("vanishes") << int(Portal::Vanishes) << false;
+        QTest::newRow("no portal") << -1 << false;
+    }
+
+    void pictureComesFromThePortal()
+    {
+        QFETCH(int, mood);
+        QFETCH(bool, succeeds);
+        QVERIFY(OmScreenShooter::shootSimple().isNull());
+        const QTemporaryDir folder;
+        const QSize size = QGuiApplication::primaryScreen()->virtualGeometry().size() * 2;
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        QVERIFY(image.save(folder.filePath(QStringLiteral("shot.png"))));
+        std::unique_ptr<Portal> portal;
+        if (mood >= 0)
+            portal = std::make_unique<Portal>(Portal::Mood(mood),
+                                              folder.filePath(QStringLiteral("shot.png")));
+
+        m_reports = 0;
+        m_picture = QPixmap();
+        OmScreenShooter::shootDelayed(0, false, this, SLOT(shot(QPixmap)), this, SLOT(failed()));
+        QVERIFY(waitFor([this] { return m_reports > 0; }));
+        QTest::qWait(50);
+        QCOMPARE(m_reports, 1);
+        QCOMPARE(!m_picture.isNull(), succeeds);
+        if (succeeds) {
+            QCOMPARE(m_picture.size(), size);
+            QCOMPARE(m_picture.devicePixelRatio(), 2.0); // more pixels than the desktop has
+            QCOMPARE(m_picture.toImage().pixelColor(9, 9), QColor(Qt::darkGreen));
+        }
+    }
 
 private:
     int m_reports = 0;
     QPixmap m_picture;
 };
-
-void tst_Portal::pictureComesFromThePortal_data()
-{
-    QTest::addColumn<int>("mood"); // -1: there is no portal
-    QTest::addColumn<bool>("succeeds");
-    QTest::newRow("granted") << int(Portal::Grants) << true;
-    QTest::newRow("denied") << int(Portal::Denies) << false;
-    QTest::newRow("no picture") << int(Portal::SendsNoPicture) << false;
-    QTest::newRow("refused") << int(Portal::Refuses) << false;
-    QTest::newRow("vanishes") << int(Portal::Vanishes) << false;
-    QTest::newRow("no portal") << -1 << false;
-}
-
-void tst_Portal::pictureComesFromThePortal()
-{
-    QFETCH(int, mood);
-    QFETCH(bool, succeeds);
-    QVERIFY(OmScreenShooter::shootSimple().isNull());
-    const QTemporaryDir folder;
-    const QSize size = QGuiApplication::primaryScreen()->virtualGeometry().size() * 2;
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    QVERIFY(image.save(folder.filePath(QStringLiteral("shot.png"))));
-    std::unique_ptr<Portal> portal;
-    if (mood >= 0)
-        portal = std::make_unique<Portal>(Portal::Mood(mood),
-                                          folder.filePath(QStringLiteral("shot.png")));
-
-    m_reports = 0;
-    m_picture = QPixmap();
-    OmScreenShooter::shootDelayed(0, false, this, SLOT(shot(QPixmap)), this, SLOT(failed()));
-    QVERIFY(waitFor([this] { return m_reports > 0; }));
-    QTest::qWait(50);
-    QCOMPARE(m_reports, 1);
-    QCOMPARE(!m_picture.isNull(), succeeds);
-    if (succeeds) {
-        QCOMPARE(m_picture.size(), size);
-        QCOMPARE(m_picture.devicePixelRatio(), 2.0); // more pixels than the desktop has
-        QCOMPARE(m_picture.toImage().pixelColor(9, 9), QColor(Qt::darkGreen));
-    }
-}
 
 int main(int argc, char *argv[])
 {

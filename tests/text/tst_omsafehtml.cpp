@@ -36,6 +36,7 @@ const Message kMessages[] = {
         {"I <3 you, a<b and c < d & e", "I &lt;3 you, a&lt;b and c &lt; d &amp; e"},
         {"<b title=\"a>b\">x</b>", "<b>x</b>"},
         {"<b title=\"a>x", "<b>x</b>"},
+        {"<b x = 'y'>&#x; &a-b;<foo>c</foo>", "<b>&amp;#x; &amp;a-b;c</b>"},
         {"<li>a", "<br>a"},
         {"<a href='http://a.de'>x<a href='http://b.de'>y</a>", "<a href=\"http://a.de\">x</a><a href=\"http://b.de\">y</a>"},
         // what strangers try
@@ -115,21 +116,16 @@ private Q_SLOTS:
 
         QTest::newRow("nested tables") << repeated("<table><tr><td>", 18);
         QTest::newRow("nested tags") << repeated("<b>", 10000) + QStringLiteral("x");
-        QTest::newRow("nested blocks") << repeated("<div><blockquote>", 10000);
         QTest::newRow("nested lists") << repeated("<ul><li>", 10000);
         QTest::newRow("word") << repeated("a", 200000);
-        QTest::newRow("word of hard blanks") << repeated("&nbsp;", 20000);
         QTest::newRow("word of entities") << repeated("&auml;", 20000);
         QTest::newRow("word of tags") << repeated("<i>a</i>", 10000);
         QTest::newRow("scripts") << repeated("a\u05d0", 30000);
         QTest::newRow("marks") << QStringLiteral("a") + repeated("\u0301\u200d", 30000);
         QTest::newRow("lines") << repeated("<br>", 20000);
         QTest::newRow("paragraphs") << repeated("<p>x", 20000);
-        QTest::newRow("items") << QStringLiteral("<ul>") + repeated("<li>x", 20000);
         QTest::newRow("tags without end") << repeated("<b a='", 10000);
-        QTest::newRow("quoted ends") << repeated("<b a='>' ", 10000) + QLatin1Char('"');
         QTest::newRow("ampersands") << repeated("<b a='&&&&&&&&'>&&", 5000);
-        QTest::newRow("comments") << repeated("<!-", 20000);
         QTest::newRow("scripts without end") << repeated("<script>", 10000);
     }
     void costsAreBounded()
@@ -144,30 +140,6 @@ private Q_SLOTS:
         QVERIFY(longestUnbroken(safe) <= 400);
         if (html.contains(QStringLiteral("\u0301")))
             QVERIFY(safe.size() <= 9);
-    }
-
-    void noGarbageGetsThrough()
-    {
-        const char *const parts[] = {
-                "<",    ">",         "</",     "a",           " href=",      "\"",          "'",
-                "b",    "img",       " src=",  "/etc/passwd", "http://x.de", "javascript:", "table",
-                "&",    "#",         ";",      "script",      "style",       "=",           "!--",
-                "-->",  "\n",        "p",      "/",           "ul",          "li",          "x",
-                "span", "color:red", "\u202e", "lt",          "60"};
-        QRandomGenerator random(20261123);
-        for (int round = 0; round < 3000; ++round) {
-            QString html;
-            for (int part = random.bounded(40); part >= 0; --part)
-                html += QString::fromUtf8(parts[random.bounded(int(std::size(parts)))]);
-            const QString safe = OmSafeHtml::fromHtml(html);
-            QVERIFY2(deepestNesting(safe) >= 0, qPrintable(html));
-            static const QRegularExpression form(QStringLiteral(
-                    "^(?:[^<>\"&]|\"(?![^<]*>)|&[a-z0-9]+;|<(?:/?[a-z][a-z0-9]*"
-                    "|a href=\"http://[^<>\"]*\"|span style=\"[a-z0-9:;#-]*\")>)*$"));
-            QVERIFY2(form.match(safe).hasMatch(), qPrintable(html + QLatin1Char('\n') + safe));
-            for (const char *gone : {"<img", "<table", "<script", "\u202e"})
-                QVERIFY2(!safe.contains(QString::fromUtf8(gone)), qPrintable(html));
-        }
     }
 };
 

@@ -37,8 +37,7 @@ private Q_SLOTS:
         browser->setPlainText(QStringLiteral("secret"));
         window.setGeometry(100, 100, 500, 150);
         window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        QTest::qWait(200); // until the window manager has placed it
+        QVERIFY(QTest::qWaitForWindowActive(&window, 20000));
 
         QApplication::clipboard()->setText(QStringLiteral("old"), QClipboard::Selection);
         QTextCursor cursor(browser->document());
@@ -47,11 +46,12 @@ private Q_SLOTS:
                 browser->viewport()->mapToGlobal(browser->cursorRect(cursor).center());
         clickAt(middle, 1, 2);
         QCOMPARE(browser->textCursor().selectedText(), QStringLiteral("secret"));
-        QTRY_COMPARE(QApplication::clipboard()->text(QClipboard::Selection), text);
+        QTRY_COMPARE_WITH_TIMEOUT(QApplication::clipboard()->text(QClipboard::Selection), text,
+                                  20000);
 
         QTest::qWait(QApplication::doubleClickInterval() + 100); // not a third click
         dragBy(middle, target->mapToGlobal(target->rect().center()) - middle);
-        QTRY_COMPARE(target->toPlainText(), text);
+        QTRY_COMPARE_WITH_TIMEOUT(target->toPlainText(), text, 20000);
         QCOMPARE(browser->toPlainText(), QStringLiteral("secret"));
     }
 };

@@ -7,9 +7,6 @@
 #include <QtGui/QScreen>
 #include <QtWidgets/QComboBox>
 
-#include <atomic>
-#include <thread>
-
 using namespace ombrin::vhutilities;
 
 namespace {
@@ -124,50 +121,6 @@ private Q_SLOTS:
         const QString end = QStringLiteral(".com");
         QVERIFY(IsPossibleEMailAddress(QStringLiteral("x@") + repeated("a", 255) + end, true));
         QVERIFY(!IsPossibleEMailAddress(QStringLiteral("x@") + repeated("a", 256) + end, true));
-    }
-
-    void takesTextsOfAnyLength_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("isNumber");
-        QTest::addColumn<bool>("isAddress");
-
-        constexpr int kLength = 100 * 1024;
-        QTest::newRow("digits") << repeated("1", kLength) << true << false;
-        QTest::newRow("letters") << repeated("a", kLength) << false << false;
-        QTest::newRow("blanks") << QStringLiteral("(123)") + repeated(" ", kLength) << true
-                                << false;
-        QTest::newRow("hyphens") << repeated("12-", kLength) << true << false;
-        QTest::newRow("labels") << repeated("aa.", kLength) << false << false;
-        QTest::newRow("host") << repeated("aa.", 3 * 34000) + QStringLiteral("com") << false
-                              << true;
-        QTest::newRow("ats") << repeated("a@", kLength) << false << false;
-        QTest::newRow("escapes") << repeated("%aa", kLength) << false << false;
-    }
-    void takesTextsOfAnyLength()
-    {
-        QFETCH(QString, text);
-        QTEST(IsPossiblePhoneNumber(text), "isNumber");
-        QTEST(IsPossibleEMailAddress(text, false), "isAddress");
-        QVERIFY(!IsPossibleCreditCardNumber(text));
-    }
-
-    void recognisesInSeveralThreadsAtOnce()
-    {
-        std::atomic<int> wrong{0};
-        std::vector<std::thread> threads;
-        for (int thread = 0; thread < 4; ++thread) {
-            threads.emplace_back([&wrong] {
-                for (int round = 0; round < 100; ++round) {
-                    wrong += IsPossiblePhoneNumber(QStringLiteral("555-123-4567")) ? 0 : 1;
-                    wrong += IsPossiblePhoneNumber(QStringLiteral("12-34")) ? 1 : 0;
-                    wrong += IsPossibleEMailAddress(QStringLiteral("a@bc.de"), true) ? 0 : 1;
-                }
-            });
-        }
-        for (std::thread &thread : threads)
-            thread.join();
-        QCOMPARE(wrong.load(), 0);
     }
 
     void matchesWholeTextsWithAnyPattern()

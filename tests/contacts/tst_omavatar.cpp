@@ -90,7 +90,13 @@ private Q_SLOTS:
         QVERIFY(avatar.testAttribute(Qt::WA_DeleteOnClose));
         QCOMPARE(avatar.size(), size);
         const QLabel *const label = labelOf(avatar);
-        QCOMPARE(label->geometry(), QRect(QPoint(1, 1), size - QSize(2, 2)));
+        const QRect picture(QPoint(1, 1), size - QSize(2, 2));
+        QCOMPARE(label->geometry(), picture);
+        const QImage image = avatar.grab().toImage();
+        for (int x = 0; x < image.width(); ++x) {
+            for (const int y : {0, 1, size.height() - 2, size.height() - 1})
+                QCOMPARE(image.pixelColor(x, y) == QColor(Qt::red), picture.contains(x, y));
+        }
         QCOMPARE(label->frameShape(), QFrame::Box);
         QCOMPARE(label->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(avatar.layout()->contentsMargins(), QMargins());
@@ -99,19 +105,6 @@ private Q_SLOTS:
         avatar.show();
         QCOMPARE(avatar.size(), size);
         QCOMPARE(label->geometry(), QRect(QPoint(0, 0), size));
-    }
-
-    void framesThePictureUnscaled()
-    {
-        OmAvatar avatar(picture(QSize(60, 40)));
-        const QImage image = avatar.grab().toImage();
-        QCOMPARE(image.size(), QSize(62, 42));
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const bool isPicture = QRect(1, 1, 60, 40).contains(x, y);
-                QCOMPARE(image.pixelColor(x, y) == QColor(Qt::red), isPicture);
-            }
-        }
     }
 
     // Else the paints of a fade pile up there.
@@ -158,22 +151,26 @@ private Q_SLOTS:
         QVERIFY(waitFor([&] { return avatar.isNull(); }));
     }
 
-    void fadingInLeavesItOpen()
-    {
-        const QPointer<OmAvatar> avatar = shownAvatar();
-        QVERIFY(QMetaObject::invokeMethod(avatar, "slotFadeDone", Q_ARG(bool, false)));
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(avatar && avatar->isVisible());
-        avatar->close();
-        QVERIFY(waitFor([&] { return avatar.isNull(); }));
-    }
-
     void hostMayDeleteItAsItIsClicked()
     {
         const QPointer<OmAvatar> avatar = shownAvatar();
         connect(avatar, &OmAvatar::clicked, this, [&avatar] { delete avatar; });
         QTest::mouseRelease(avatar, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
         QVERIFY(!avatar);
+    }
+
+    void damagedFilesAreHarmless()
+    {
+        expectWarning(QStringLiteral(".*")); // the decoders' own
+        for (const QByteArray &contents :
+             {gif_writer::animation(QSize(30, 20), QSize(30, 20)), encoded("jpg"), encoded("png"),
+              QByteArray("This is no picture."), QByteArray()}) {
+            const File truncated(contents.left(contents.size() / 2));
+            OmAvatar avatar(truncated.fileName());
+            QVERIFY(avatar.width() >= 2 && avatar.width() <= 202);
+            QVERIFY(!avatar.grab().isNull());
+            QCoreApplication::processEvents();
+        }
     }
 
     void showsPictureFiles()
@@ -210,41 +207,6 @@ private Q_SLOTS:
         QVERIFY(waitFor([&] { return movie->currentImage().pixelColor(5, 5) != first; }));
         avatar.reset();
         QVERIFY(!movie);
-    }
-
-    void damagedFilesAreHarmless_data()
-    {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::newRow("gif") << gif_writer::animation(QSize(30, 20), QSize(30, 20));
-        QTest::newRow("jpeg") << encoded("jpg");
-        QTest::newRow("png") << encoded("png");
-        QTest::newRow("bmp") << encoded("bmp");
-    }
-
-    void damagedFilesAreHarmless()
-    {
-        QFETCH(QByteArray, contents);
-        expectWarning(QStringLiteral(".*")); // the decoders' own
-        for (int parts = 0; parts < 16; ++parts) {
-            const File truncated(contents.left(contents.size() * parts / 16));
-            QByteArray bytes = contents;
-            for (int at = 20 + parts; at < bytes.size(); at += 97)
-                bytes[at] = static_cast<char>(~bytes.at(at));
-            const File garbled(bytes);
-            for (const File *file : {&truncated, &garbled}) {
-                OmAvatar avatar(file->fileName());
-                QVERIFY(avatar.width() >= 2 && avatar.width() <= 4098);
-                QCOMPARE(avatar.grab().isNull(), false);
-                QTest::qWait(1);
-            }
-        }
-    }
-
-    void whatIsNoPictureGivesAnEmptyFrame()
-    {
-        QCOMPARE(OmAvatar(QStringLiteral("/nowhere/to/be.found")).size(), QSize(2, 2));
-        QCOMPARE(OmAvatar(QDir::tempPath()).size(), QSize(2, 2));
-        QCOMPARE(OmAvatar(QString()).size(), QSize(2, 2));
     }
 };
 

@@ -197,13 +197,10 @@ private Q_SLOTS:
         card.setBig(true);
         triggerAll(toolBar(&card));
         verifyAll();
-        QCOMPARE(openMenu(&card, triggerAll), !expected.isEmpty());
-        verifyAll();
 
         // Another client counts from the next time on that the card becomes big.
         card.setGeneralApp(application(5));
         card.setBig(true);
-        QCOMPARE(ids(toolBar(&card)->actions()).join(QLatin1Char(' ')), expected);
         card.setBig(false);
         card.setBig(true);
         QCOMPARE(ids(toolBar(&card)->actions()), {QStringLiteral("auth")});
@@ -479,10 +476,6 @@ private Q_SLOTS:
         row("avatarClicked", &OmContactCard::avatarClicked, [](OmContactCard *card) {
             release(card->findChild<OmAvatarSmall *>(), Qt::LeftButton, QPoint(5, 5));
         });
-        row("clicked", &OmContactCard::clicked,
-            [](OmContactCard *card) { release(card, Qt::LeftButton, QPoint(90, 5)); });
-        row("statusChanged", &OmContactCard::statusChanged,
-            [](OmContactCard *card) { card->setStatus(Om::Away); });
         row("newAvatar, files", qOverload<const QStringList &>(&OmContactCard::newAvatar),
             [](OmContactCard *card) {
                 QMimeData data;
@@ -490,15 +483,15 @@ private Q_SLOTS:
                 card->setOwn(true);
                 drop(card, &data);
             });
+        row("clicked", &OmContactCard::clicked,
+            [](OmContactCard *card) { release(card, Qt::LeftButton, QPoint(90, 5)); });
+        row("statusChanged", &OmContactCard::statusChanged,
+            [](OmContactCard *card) { card->setStatus(Om::Away); });
         QTest::newRow("menu is open") << Use(
                 [](OmContactCard *card) { openMenu(card, [card](QMenu *) { delete card; }); });
         QTest::newRow("dialog is open") << Use([](OmContactCard *card) {
             const FileDialogUser user([card](QFileDialog *) { delete card; });
             QMetaObject::invokeMethod(card, "slotSaveUserImage");
-        });
-        QTest::newRow("closed") << Use([](OmContactCard *card) {
-            card->close();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         });
     }
 
@@ -535,16 +528,11 @@ private Q_SLOTS:
 
     void slotsKeepTheirOrder()
     {
-        const QMetaObject &meta = OmContactCard::staticMetaObject;
-        QStringList names;
-        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
-            names.append(QString::fromLatin1(meta.method(index).methodSignature()));
-        QCOMPARE(names.join(QLatin1Char(' ')),
-                 QStringLiteral(
-                         "actionId(QString) aliasChanged(QString) avatarClicked() clicked() "
-                         "isTyping(bool) isTalking(bool) newAvatar(QStringList) newAvatar() "
-                         "statusChanged(Om::ContactStatus) slotAction(QAction*) "
-                         "slotContextMenu(QPoint) slotSaveUserImageTimer() slotSaveUserImage()"));
+        QCOMPARE(methodsOf(OmContactCard::staticMetaObject),
+                 words("actionId(QString) aliasChanged(QString) avatarClicked() clicked() "
+                       "isTyping(bool) isTalking(bool) newAvatar(QStringList) newAvatar() "
+                       "statusChanged(Om::ContactStatus) slotAction(QAction*) "
+                       "slotContextMenu(QPoint) slotSaveUserImageTimer() slotSaveUserImage()"));
     }
 
 private:

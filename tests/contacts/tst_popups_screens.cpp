@@ -40,10 +40,21 @@ private Q_SLOTS:
         QFETCH(QString, place);
         runBeside(QStringLiteral("xrandr"), {QStringLiteral("--output"), QStringLiteral("DUMMY1"),
                                              place, QStringLiteral("DUMMY0")});
-        QTest::qWait(500);
-
         const QList<QScreen *> screens = QGuiApplication::screens();
         QCOMPARE(screens.size(), 2);
+        const auto area = [&screens](const char *name) {
+            const bool isAhead = screens.constFirst()->name() == QLatin1String(name);
+            return (isAhead ? screens.constFirst() : screens.constLast())->geometry();
+        };
+        const auto isInPlace = [&] {
+            const QRect first = area("DUMMY0");
+            const QRect second = area("DUMMY1");
+            return place == QLatin1String("--right-of")  ? second.left() > first.right()
+                   : place == QLatin1String("--left-of") ? second.right() < first.left()
+                   : place == QLatin1String("--above")   ? second.bottom() < first.top()
+                                                         : second.top() > first.bottom();
+        };
+        QVERIFY(waitFor(isInPlace));
         for (const QScreen *screen : screens) {
             const QRect area = screen->geometry();
             const QPoint far = area.bottomRight() - QPoint(100, 100);
@@ -55,14 +66,14 @@ private Q_SLOTS:
                 OmInfoPopup icon(&window);
                 icon.move(60, 60);
                 window.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&window));
+                QVERIFY(QTest::qWaitForWindowExposed(&window, 20000));
 
                 QPixmap picture(200, 300);
                 picture.fill(Qt::red);
                 small.setAvatar(picture, false);
                 QVERIFY(QMetaObject::invokeMethod(&small, "slotAvatar"));
                 const QPointer<OmAvatar> avatar = small.findChild<OmAvatar *>();
-                QVERIFY(QTest::qWaitForWindowExposed(avatar));
+                QVERIFY(QTest::qWaitForWindowExposed(avatar, 20000));
                 QCOMPARE(avatar->size(), QSize(202, 302));
                 checkIsOn(avatar, screen);
                 const QPoint anchor = position + QPoint(8, 8);
@@ -73,7 +84,7 @@ private Q_SLOTS:
 
                 sendEnter(&icon);
                 QWidget *const popup = QApplication::activePopupWidget();
-                QVERIFY(popup && QTest::qWaitForWindowExposed(popup));
+                QVERIFY(popup && QTest::qWaitForWindowExposed(popup, 20000));
                 checkIsOn(popup, screen);
             }
         }

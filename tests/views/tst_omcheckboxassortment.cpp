@@ -205,18 +205,6 @@ private Q_SLOTS:
         OmCheckBoxAssortmentItem *b = add("B");
         QVERIFY(!a->isVisible() && !b->isVisible());
     }
-
-    void thousandsOfItemsAreUsable()
-    {
-        for (int i = 0; i < 10000; ++i)
-            add("item", i % 2 == 0);
-        QCOMPARE(rows()->count(), 10000);
-        m_view->show();
-        m_view->items().at(9999)->setValue(true);
-        QVERIFY(checkBox(9999)->isChecked());
-        m_view->items().clear();
-        QCOMPARE(rows()->count(), 0);
-    }
 };
 
 OMBRIN_TEST_MAIN(tst_OmCheckBoxAssortment)

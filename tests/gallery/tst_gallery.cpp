@@ -94,47 +94,6 @@ private Q_SLOTS:
         }
     }
 
-    void densePicturesAreSharp()
-    {
-        const QTemporaryDir folder;
-        const Outcome outcome = runGallery({QStringLiteral("--page"), QStringLiteral("window"),
-                                            QStringLiteral("--screenshots"), folder.path()});
-        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 4);
-
-        // A picture that was only blown up repeats each pixel of its rows.
-        const QImage dense(folder.filePath(QStringLiteral("window-active@2x.png")));
-        const QRect parts[] = {
-                {0, 0, 2 * 86, 2 * 30},                  // mark and border of the frame
-                {2 * 88, 2 * 2, 2 * 60, 2 * 25},         // title
-                {2 * (960 - 79), 2 * 5, 2 * 74, 2 * 20}, // title buttons
-        };
-        for (const QRect &part : parts) {
-            int unequalPairs = 0;
-            for (int y = part.top(); y <= part.bottom(); ++y) {
-                for (int x = part.left(); x < part.right(); x += 2)
-                    unequalPairs += dense.pixel(x, y) != dense.pixel(x + 1, y) ? 1 : 0;
-            }
-            QVERIFY(unequalPairs > 50);
-        }
-    }
-
-    void picturesAreTheSameEachTime()
-    {
-        const QTemporaryDir first;
-        const QTemporaryDir second;
-        const QString page = QStringLiteral("style-primitives");
-        for (const QTemporaryDir *folder : {&first, &second}) {
-            const Outcome outcome = runGallery({QStringLiteral("--page"), page,
-                                                QStringLiteral("--screenshots"), folder->path()});
-            QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
-        }
-        const QStringList files = QDir(first.path()).entryList(QDir::Files);
-        QCOMPARE(files.size(), 4);
-        for (const QString &file : files)
-            QCOMPARE(QImage(first.filePath(file)), QImage(second.filePath(file)));
-    }
-
     void unwritableFolderIsReported()
     {
         const QTemporaryDir temporary;

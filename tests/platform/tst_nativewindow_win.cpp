@@ -9,7 +9,6 @@ using NativeWindow::Handle;
 namespace {
 
 constexpr LONG systemBoxes = 0xB0000;
-constexpr LONG maximizeBox = 0x10000;
 
 class Window : public ombrin::test::PlainWindow
 {
@@ -64,59 +63,24 @@ private Q_SLOTS:
         QCOMPARE(window.geometry(), QRect(100, 100, 300, 200));
     }
 
-    void maximizeBoxComesAndGoes()
-    {
-        Window window;
-        NativeWindow::addSystemBoxes(window.handle());
-        window.showAndWait();
-        const LONG with = window.style();
-        NativeWindow::setMaximizeBox(window.handle(), false);
-        QCOMPARE(window.style(), with & ~maximizeBox);
-        NativeWindow::setMaximizeBox(window.handle(), true);
-        QCOMPARE(window.style(), with);
-    }
-
-    void staysAboveOthersUntilLetGo()
-    {
-        Window window;
-        Window other;
-        window.showAndWait();
-        QVERIFY(!window.isTopmost());
-        NativeWindow::setStayOnTop(window.handle(), true);
-        QVERIFY(window.isTopmost());
-        other.showAndWait();
-        QCOMPARE(upper(window.native(), other.native()), window.native());
-        QVERIFY(other.isActiveWindow());
-
-        NativeWindow::setStayOnTop(window.handle(), false);
-        QVERIFY(!window.isTopmost());
-        SetWindowPos(other.native(), HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
-        QCOMPARE(upper(window.native(), other.native()), other.native());
-    }
-
-    void broughtToFrontWithoutStayingThere_data()
-    {
-        QTest::addColumn<bool>("wasOnTop");
-        QTest::newRow("plain") << false;
-        QTest::newRow("kept on top before") << true;
-    }
     void broughtToFrontWithoutStayingThere()
     {
-        QFETCH(bool, wasOnTop);
-        Window clock;
-        clock.showAndWait();
-        NativeWindow::setStayOnTop(clock.handle(), true);
-        Window window;
-        window.showAndWait();
-        NativeWindow::setStayOnTop(window.handle(), wasOnTop);
-        Window other;
-        other.showAndWait();
+        for (const bool wasOnTop : {false, true}) {
+            Window clock;
+            clock.showAndWait();
+            NativeWindow::setStayOnTop(clock.handle(), true);
+            Window window;
+            window.showAndWait();
+            NativeWindow::setStayOnTop(window.handle(), wasOnTop);
+            Window other;
+            other.showAndWait();
 
-        NativeWindow::bringToFront(window.handle());
-        QVERIFY(!window.isTopmost());
-        QCOMPARE(upper(window.native(), other.native()), window.native());
-        QCOMPARE(upper(window.native(), clock.native()), clock.native());
-        QCOMPARE(window.geometry(), QRect(100, 100, 300, 200));
+            NativeWindow::bringToFront(window.handle());
+            QVERIFY(!window.isTopmost());
+            QCOMPARE(upper(window.native(), other.native()), window.native());
+            QCOMPARE(upper(window.native(), clock.native()), clock.native());
+            QCOMPARE(window.geometry(), QRect(100, 100, 300, 200));
+        }
     }
 
     void flashesCaptionAndTaskBarButtonThreeTimes()

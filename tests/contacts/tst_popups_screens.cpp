@@ -42,13 +42,13 @@ private Q_SLOTS:
                                              place, QStringLiteral("DUMMY0")});
         const QList<QScreen *> screens = QGuiApplication::screens();
         QCOMPARE(screens.size(), 2);
-        const auto area = [&screens](const char *name) {
+        const auto geometryOf = [&screens](const char *name) {
             const bool isAhead = screens.constFirst()->name() == QLatin1String(name);
             return (isAhead ? screens.constFirst() : screens.constLast())->geometry();
         };
         const auto isInPlace = [&] {
-            const QRect first = area("DUMMY0");
-            const QRect second = area("DUMMY1");
+            const QRect first = geometryOf("DUMMY0");
+            const QRect second = geometryOf("DUMMY1");
             return place == QLatin1String("--right-of")  ? second.left() > first.right()
                    : place == QLatin1String("--left-of") ? second.right() < first.left()
                    : place == QLatin1String("--above")   ? second.bottom() < first.top()

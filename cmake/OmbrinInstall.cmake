@@ -111,7 +111,7 @@ function(_ombrin_pkg_config_file name library description requires)
 endfunction()
 
 function(_ombrin_install_pkg_config)
-  string(REGEX REPLACE "[A-Z]" "Qt${OMBRIN_QT}\\0" gui_modules "${OMBRIN_GUI_QT_MODULES}")
+  string(REGEX REPLACE "([A-Z][A-Za-z0-9]+)" "Qt${OMBRIN_QT}\\1" gui_modules "${OMBRIN_GUI_QT_MODULES}")
   _ombrin_pkg_config_file(ombrin-core omcore
     "Settings, folders, spelling and lists for messaging clients" "Qt${OMBRIN_QT}Core")
   _ombrin_pkg_config_file(ombrin-gui ombringui

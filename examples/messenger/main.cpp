@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/Languages.h"
 #include "common/ScreenshotJob.h"
+#include "common/SkinPictures.h"
 #include "common/WindowCamera.h"
 #include "model/ContactBook.h"
 #include "model/Session.h"
@@ -138,6 +139,7 @@ int run(int argc, char *argv[])
     if (commandLine.task == CommandLine::Task::TakeOneDensity)
         example::pinLook();
     ombrin::OmSkin::init(true);
+    QApplication::setWindowIcon(example::skinIcon(QStringLiteral("chat-32")));
     const Languages languages(commandLine.language);
     return commandLine.task == CommandLine::Task::TakeOneDensity ? takeOneDensity(commandLine)
                                                                  : chat(commandLine);

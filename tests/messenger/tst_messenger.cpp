@@ -294,8 +294,6 @@ private Q_SLOTS:
         QVERIFY(user.heardFrom(QStringLiteral("guide"))
                         .first()
                         .contains(QLatin1String("Ada Berg")));
-        client.mainWindow()->hide();
-        User other((QString()));
         QVERIFY(isContactId(user.session().account().id));
     }
 

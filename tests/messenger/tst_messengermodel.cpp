@@ -328,9 +328,9 @@ private Q_SLOTS:
             for (int x = 0; x < noise.width(); ++x)
                 noise.setPixel(x, y, QRandomGenerator::global()->generate());
         }
-        const QByteArray small = pictureToData(noise, 100000);
-        QVERIFY(!small.isEmpty() && small.size() <= 100000);
-        QVERIFY(!pictureFromData(small).isNull());
+        const QByteArray fitting = pictureToData(noise, 100000);
+        QVERIFY(!fitting.isEmpty() && fitting.size() <= 100000);
+        QVERIFY(!pictureFromData(fitting).isNull());
         QCOMPARE(portraitFrom(large, 320).size(), QSize(10, 10));
     }
 

@@ -23,6 +23,7 @@ packages_test=(
 )
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-tools-dev qt6-l10n-tools)
 packages_clang=(clang)
+packages_package=(dpkg-dev file qttools5-dev qttools5-dev-tools)
 packages_fuzz=(clang libclang-rt-dev)
 packages_windows=(g++-mingw-w64-x86-64-posix wine wine64 xvfb x11-utils xz-utils)
 packages_benchmark=(libbenchmark-dev hunspell-fr)

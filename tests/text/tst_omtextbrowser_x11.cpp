@@ -42,10 +42,14 @@ private Q_SLOTS:
         QApplication::clipboard()->setText(QStringLiteral("old"), QClipboard::Selection);
         QTextCursor cursor(browser->document());
         cursor.setPosition(3);
-        const QPoint middle =
-                browser->viewport()->mapToGlobal(browser->cursorRect(cursor).center());
-        clickAt(middle, 1, 2);
-        QCOMPARE(browser->textCursor().selectedText(), QStringLiteral("secret"));
+        QPoint middle;
+        QVERIFY(waitFor([&] { // the window manager may still be placing the window
+            middle = browser->viewport()->mapToGlobal(browser->cursorRect(cursor).center());
+            clickAt(middle, 1, 2);
+            return QTest::qWaitFor(
+                    [&] { return browser->textCursor().selectedText() == QLatin1String("secret"); },
+                    1000);
+        }));
         QTRY_COMPARE_WITH_TIMEOUT(QApplication::clipboard()->text(QClipboard::Selection), text,
                                   20000);
 

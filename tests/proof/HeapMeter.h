@@ -2,10 +2,12 @@
 
 #include <QtCore/QtGlobal>
 
+#include <cstddef>
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's run-time library, whose headers g++ does not bring.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace ombrin::test {

@@ -32,6 +32,19 @@ constexpr int kLongestStay = 60; // events that a pop-up or modal window gets be
 constexpr int kEventsPerTick = 4;
 constexpr int kWaitMs = 25;
 
+// Who types a date over one of Qt's calendars has a little window open for a moment, and Qt leaks
+// when the calendar goes before.
+void endDateEditing()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (!widget->inherits("QCalendarView"))
+            continue;
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &escape);
+    }
+}
+
 // Without a display Qt has no touch screen of its own.
 auto *touchScreen()
 {
@@ -97,6 +110,7 @@ void Monkey::play(const std::function<QWidget *()> &create, int count)
     m_left = count;
     tick();
     m_loop.exec();
+    endDateEditing();
     delete m_window;
     for (const QPointer<QWidget> &dialog : std::as_const(m_refusing))
         delete dialog;
@@ -199,6 +213,7 @@ bool Monkey::leaveWhatIsOpenForLong()
 
 void Monkey::closeOpened()
 {
+    endDateEditing();
     if (QWidget *const popup = QApplication::activePopupWidget()) {
         popup->close();
         return;
@@ -359,10 +374,16 @@ void Monkey::compose()
     if (!widget)
         return;
     const QString text = QStringLiteral("\u306b\u307b\u3093").left(number(4));
-    QInputMethodEvent event(text, {});
-    if (chance(40))
-        event.setCommitString(text);
-    QCoreApplication::sendEvent(widget, &event);
+    QInputMethodEvent composing(text, {});
+    const QPointer<QWidget> guard = widget;
+    QCoreApplication::sendEvent(widget, &composing);
+    if (!guard)
+        return;
+    // An input method ends what it has begun before anything else is typed.
+    QInputMethodEvent done;
+    if (chance(70))
+        done.setCommitString(text);
+    QCoreApplication::sendEvent(widget, &done);
 }
 
 void Monkey::touch()

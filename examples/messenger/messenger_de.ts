@@ -201,8 +201,8 @@
         <translation>Mira Sandberg</translation>
     </message>
     <message>
-        <source>Packing for the weekend</source>
-        <translation>Packe fürs Wochenende</translation>
+        <source>Off to the lake</source>
+        <translation>Ab an den See</translation>
     </message>
 </context>
 <context>

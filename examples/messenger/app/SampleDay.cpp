@@ -58,7 +58,7 @@ void livePartOfDay(Session *session, const ProfileFolder &folder)
 {
     Account account = Account::create(sampleName(), QStringLiteral("chat.example.org"));
     account.id = QStringLiteral("mira");
-    account.remark = SampleDay::tr("Packing for the weekend");
+    account.remark = SampleDay::tr("Off to the lake");
     session->setAccount(account);
     const QString portraits =
             QFileInfo(session->roster().contact(QStringLiteral("anna")).picture).path();

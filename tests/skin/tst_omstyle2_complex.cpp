@@ -299,7 +299,7 @@ private Q_SLOTS:
         QCOMPARE(rect(list, &plainBox), below);
     }
 
-    // Plastique's ground is dark whatever the palette; Fusion's is the palette's.
+    // Plastique writes on a dark ground of its own, Fusion in white.
     void titlesWithinAWindowAreLegible()
     {
         auto bar = makeOption<QStyleOptionTitleBar>(QRect(0, 0, 64, 24),
@@ -313,8 +313,8 @@ private Q_SLOTS:
             bar.palette.setColor(QPalette::HighlightedText, text);
             pictures.append(drawn(QStyle::CC_TitleBar, bar));
         }
-        const bool isPlastique = m_style.baseStyle()->inherits("QPlastiqueStyle");
-        QCOMPARE(pictures.first() == pictures.last(), isPlastique);
+        QCOMPARE(pictures.first(), pictures.last());
+        QVERIFY(pictures.first() != blank(kGround));
     }
 
     void missingPicturesLeaveTheirPlaces()

@@ -86,9 +86,9 @@ bool printRow(const std::string &name, double ratio, double target)
     const bool met = target <= 0 || ratio <= target;
     if (target > 0)
         std::printf("| %-58s | %8.3f | %8.3f | %s |\n", name.c_str(), ratio, target,
-                    met ? "met   " : "MISSED");
+                    met ? "met    " : "not met");
     else
-        std::printf("| %-58s | %8.3f | %8s | %s |\n", name.c_str(), ratio, "", "      ");
+        std::printf("| %-58s | %8.3f | %8s | %s |\n", name.c_str(), ratio, "", "       ");
     return met;
 }
 

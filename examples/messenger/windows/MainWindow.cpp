@@ -85,9 +85,9 @@ void MainWindow::createMenus()
 
     QMenu *contact = menuBar()->addMenu(tr("&Contact"));
     addContactAction(contact, tr("&Chat"), QStringLiteral("chat"),
-                     QKeySequence(Qt::CTRL | Qt::Key_Return));
+                     QKeySequence(QStringLiteral("Ctrl+Return")));
     addContactAction(contact, tr("&Profile"), QStringLiteral("profile"),
-                     QKeySequence(Qt::CTRL | Qt::Key_I));
+                     QKeySequence(QStringLiteral("Ctrl+I")));
     contact->addSeparator();
     addContactAction(contact, tr("&Block"), QStringLiteral("block"));
     addContactAction(contact, tr("&Unblock"), QStringLiteral("unblock"));

@@ -351,9 +351,10 @@ void Monkey::typeText()
     static const QString kLetters = QStringLiteral("abz HELO.,!?<>&@0123\u00e4\u00df\u05d0\u4e2d");
     // Who types a date over one of Qt's calendars has a little window open for a moment, and Qt
     // leaks when the calendar goes before.
-    const QWidget *const focus = QApplication::focusWidget();
-    if (focus && focus->inherits("QCalendarView"))
-        return;
+    for (const QWidget *focus : {QApplication::focusWidget(), window()->focusWidget()}) {
+        if (focus && focus->inherits("QCalendarView"))
+            return;
+    }
     const QChar letter = kLetters.at(number(static_cast<int>(kLetters.size())));
     sendKey(letter.toUpper().unicode(), Qt::NoModifier, QString(letter));
 }

@@ -31,8 +31,13 @@ void whenOpen(const std::function<void(Dialog *)> &action)
         const QWidgetList widgets = QApplication::topLevelWidgets();
         for (QWidget *widget : widgets) {
             auto *dialog = qobject_cast<Dialog *>(widget);
-            if (!dialog || !dialog->isVisible() || !dialog->isActiveWindow())
+            if (!dialog || !dialog->isVisible())
                 continue;
+            if (!dialog->isActiveWindow()) {
+                // Where the active window has just been destroyed, Windows makes none active.
+                dialog->activateWindow();
+                continue;
+            }
             timer->stop();
             timer->deleteLater();
             QTimer::singleShot(60000, dialog, [dialog] {

@@ -1,5 +1,7 @@
 #include "contacts/PictureFile.h"
 
+#include "widgets/PictureExtent.h"
+
 #include <QtCore/QFileInfo>
 #include <QtGui/QImageReader>
 
@@ -12,7 +14,7 @@ PictureFile PictureFile::inspect(const QString &fileName)
     if (!QFileInfo(fileName).isFile())
         return file;
     QImageReader reader(fileName);
-    const QSize size = reader.size();
+    const QSize size = pictureExtent(&reader);
     file.isReadable =
             !size.isEmpty() && size.boundedTo({kMaxPictureExtent, kMaxPictureExtent}) == size;
     file.isAnimation = file.isReadable && reader.supportsAnimation();

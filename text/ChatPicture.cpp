@@ -1,5 +1,7 @@
 #include "text/ChatPicture.h"
 
+#include "widgets/PictureExtent.h"
+
 #include <ombrin/OmDir.h>
 
 #include <QtCore/QBuffer>
@@ -25,7 +27,7 @@ QImage decoded(QIODevice *device)
     reader.setDecideFormatFromContent(true);
     if (!isBitmapFormat(reader.format()))
         return QImage();
-    const QSize size = reader.size();
+    const QSize size = pictureExtent(&reader);
     const QSize limit(kMaxChatPictureExtent, kMaxChatPictureExtent);
     if (size.isEmpty() || size.boundedTo(limit) != size)
         return QImage();

@@ -173,6 +173,17 @@ private Q_SLOTS:
         }
     }
 
+    // Qt reads the size off the frames, but takes memory for the screen.
+    void picturesThatClaimAnEnormousScreenAreNotDecoded()
+    {
+        QByteArray gif = gif_writer::animation(QSize(30, 20), QSize(30, 20));
+        for (const int highByte : {7, 9})
+            gif[highByte] = char(0xf8);
+        const File file(gif);
+        const OmAvatar avatar(file.fileName());
+        QCOMPARE(avatar.size(), QSize(2, 2));
+    }
+
     void showsPictureFiles()
     {
         const File file(encoded("png"));

@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
+#include <QtCore/QtEndian>
 #include <QtGui/QImageReader>
 
 #include <algorithm>
@@ -35,12 +36,23 @@ QByteArray encoded(const QImage &picture, const char *format, int quality)
     return picture.save(&buffer, format, quality) ? data : QByteArray();
 }
 
+// What a GIF file says of its screen, for which its decoder takes memory; the reader may say less.
+QSize screenOfGif(QIODevice *device)
+{
+    const QByteArray header = device->peek(10);
+    if (header.size() < 10 || !header.startsWith("GIF8"))
+        return QSize(0, 0);
+    return {qFromLittleEndian<quint16>(header.constData() + 6),
+            qFromLittleEndian<quint16>(header.constData() + 8)};
+}
+
 } // namespace
 
 QImage readPicture(QIODevice *device)
 {
     if (!device || device->size() > kLargestFile)
         return QImage();
+    const QSize screen = screenOfGif(device);
     QImageReader reader(device);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
@@ -48,7 +60,8 @@ QImage readPicture(QIODevice *device)
         return QImage();
     // Asked for before anything is decoded: a small file can hold an enormous picture.
     const QSize size = reader.size();
-    if (size.isEmpty() || size.boundedTo(kLargestExtent) != size)
+    if (size.isEmpty() || screen.boundedTo(kLargestExtent) != screen
+        || size.boundedTo(kLargestExtent) != size)
         return QImage();
     return reader.read();
 }

@@ -27,7 +27,7 @@ void whenOpen(const std::function<void(Dialog *)> &action)
 {
     auto *timer = new QTimer(qApp);
     timer->setInterval(10);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action, waited = 0]() mutable {
         const QWidgetList widgets = QApplication::topLevelWidgets();
         for (QWidget *widget : widgets) {
             auto *dialog = qobject_cast<Dialog *>(widget);
@@ -35,7 +35,8 @@ void whenOpen(const std::function<void(Dialog *)> &action)
                 continue;
             if (!dialog->isActiveWindow()) {
                 // Where the active window has just been destroyed, Windows makes none active.
-                dialog->activateWindow();
+                if (++waited % 50 == 0)
+                    dialog->activateWindow();
                 continue;
             }
             timer->stop();

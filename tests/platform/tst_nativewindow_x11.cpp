@@ -133,9 +133,8 @@ private Q_SLOTS:
         // Hidden and shown again the window is still reached. The window manager forgets the state
         // of a window it lets go, even one that the window asked for meanwhile.
         window.hide();
-        QVERIFY(waitFor([&window] {
-            return !rootWindows("_NET_CLIENT_LIST").contains(window.handle());
-        }));
+        QVERIFY(waitFor(
+                [&window] { return !rootWindows("_NET_CLIENT_LIST").contains(window.handle()); }));
         window.showAndWait();
         QVERIFY(waitFor([&window] { return isKeptAbove(window.handle()); }));
         NativeWindow::setStayOnTop(window.handle(), false);

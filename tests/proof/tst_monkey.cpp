@@ -85,7 +85,8 @@ protected:
         // Qt 6, when what was touched is gone before the finger leaves it.
         expectWarning(QStringLiteral("^skipping QEventPoint.* no target window$"));
         // Qt's own item views, when an editor loses the focus while it goes.
-        expectWarning(QStringLiteral("^QAbstractItemView::\\w+ called with an editor that does not"));
+        expectWarning(
+                QStringLiteral("^QAbstractItemView::\\w+ called with an editor that does not"));
     }
 
 private Q_SLOTS:

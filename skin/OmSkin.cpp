@@ -3,6 +3,7 @@
 #include <ombrin/OmStyle2.h>
 
 #include "platform/InstalledFiles.h"
+#include "skin/PaletteFile.h"
 #include "skin/ResourceFile.h"
 
 #include <QtCore/QDir>
@@ -141,7 +142,9 @@ QString OmSkin::folder()
 QPalette OmSkin::palette()
 {
     QPalette palette;
-    const QSettings settings(fileIn(folder(), kPaletteFile), QSettings::IniFormat);
+    const QString file = fileIn(folder(), kPaletteFile);
+    const QSettings settings(isPlainPaletteFile(file) ? file : QStringLiteral(":/no.palette"),
+                             QSettings::IniFormat);
     for (const GroupName &group : kGroups) {
         for (const RoleName &role : kRoles) {
             loadPaletteEntry(group.group, QLatin1String(group.name), role.role,

@@ -140,13 +140,12 @@ private Q_SLOTS:
     void coloursAreReadAsQColorReadsThem()
     {
         const char *const examples[][3] = {
-                {"Window", "#f80", "#ff8800"},          {"Base", "ForestGreen", "#228b22"},
-                {"Text", "\"#123456\"", "#123456"},     {"Mid", "#111222333", "#112233"},
-                {"Dark", "#111122223333", "#112233"},   {"Link", "", "invalid"},
-                {"Light", "no colour", "invalid"},      {"Shadow", "1,2,3", "invalid"},
-                {"Highlight", "@Invalid()", "invalid"},
+                {"Window", "#f80", "#ff8800"},        {"Base", "ForestGreen", "#228b22"},
+                {"Text", "\"#123456\"", "#123456"},   {"Mid", "#111222333", "#112233"},
+                {"Dark", "#111122223333", "#112233"}, {"Link", "", "invalid"},
+                {"Light", "no colour", "invalid"},    {"Shadow", "1,2,3", "invalid"},
         };
-        QByteArray file("[Active]\n");
+        QByteArray file("; \"me@example.org\n[Active] ; C:\\x\n");
         for (const auto &[role, text, color] : examples)
             file += QByteArray(role) + '=' + text + '\n';
         write("default/Global_Palette.ini", file);
@@ -156,6 +155,16 @@ private Q_SLOTS:
         for (const auto &[role, text, color] : examples)
             QCOMPARE(palette.value(QStringLiteral("Active/") + QLatin1String(role)).toString(),
                      QLatin1String(color));
+    }
+
+    // QSettings would make one of any type, here a polygon, and some of them crash Qt.
+    void objectsInThePaletteAreNeverMade()
+    {
+        const QByteArray object = "Variant(\\0\\0\\0\\x47\\xff\\xff\\xff\\xff)\n";
+        for (const char *beginning : {"Window=@", "Window=\\x40", "Window=\"\n;\",@"}) {
+            write("default/Global_Palette.ini", paletteFile({0}) + beginning + object);
+            compareColours(runAndSeeLast({QStringLiteral("init=true")}), {});
+        }
     }
 
     void brokenSkinsStopNothing_data()

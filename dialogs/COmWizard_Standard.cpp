@@ -1,6 +1,7 @@
 #include <ombrin/COmWizard_Standard.h>
 
 #include "dialogs/EnterKeyWatcher.h"
+#include "dialogs/EventWatcher.h"
 #include "dialogs/WizardButtons.h"
 #include "dialogs/WizardWidgets.h"
 
@@ -44,6 +45,15 @@ QLabel *textLabel(QWidget *parent)
     auto *label = new QLabel(parent);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
+}
+
+// Makes room for one line of title and three of description; in large fonts the header is higher.
+void fitHeader(QWidget *header, QLabel *title, QLabel *description)
+{
+    title->setFixedHeight(title->fontMetrics().height());
+    description->setFixedHeight(kDescriptionLines * description->fontMetrics().height());
+    header->layout()->activate();
+    header->setFixedHeight(header->layout()->minimumSize().height());
 }
 
 } // namespace
@@ -131,14 +141,11 @@ void COmWizard_Standard::createHeader()
 {
     m_pictureLabel = new QLabel(m_header);
     m_titleLabel = textLabel(m_header);
-    QFont bold = m_titleLabel->font();
+    QFont bold; // in everything else the label goes on following the dialog
     bold.setWeight(QFont::Bold);
     m_titleLabel->setFont(bold);
-    m_titleLabel->setFixedHeight(QFontMetrics(bold).height());
     m_descriptionLabel = textLabel(m_header);
     m_descriptionLabel->setWordWrap(true);
-    m_descriptionLabel->setFixedHeight(kDescriptionLines
-                                       * m_descriptionLabel->fontMetrics().height());
 
     auto *description = plainLayout(new QHBoxLayout, QLayout::SetMinimumSize);
     description->addSpacing(kDescriptionIndent);
@@ -159,7 +166,15 @@ void COmWizard_Standard::createHeader()
     row->addSpacing(kTextGap);
     row->addWidget(m_pictureLabel);
     row->addSpacing(kGap);
-    m_header->setFixedHeight(row->minimumSize().height()); // more in large fonts
+
+    const auto fit = [header = m_header, title = m_titleLabel, description = m_descriptionLabel] {
+        fitHeader(header, title, description);
+    };
+    fit();
+    new ombrin::EventWatcher(m_descriptionLabel, [fit](const QEvent *event) {
+        if (event->type() == QEvent::FontChange)
+            fit();
+    });
 }
 
 void COmWizard_Standard::connectButtons()

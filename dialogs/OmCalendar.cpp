@@ -33,7 +33,11 @@ OmCalendar::OmCalendar(QWidget *parent)
 
     m_calendar = new QCalendarWidget(this);
     connect(m_calendar, &QCalendarWidget::clicked, this, &QDialog::accept);
-    connect(m_calendar, &QCalendarWidget::activated, this, &QDialog::accept); // from the keyboard
+    // From the keyboard; where a single click activates, also after clicked().
+    connect(m_calendar, &QCalendarWidget::activated, this, [this] {
+        if (isVisible())
+            accept();
+    });
     m_calendar->setFirstDayOfWeek(firstDayOfWeek());
     column->addWidget(m_calendar);
     resize(kInitialSize);

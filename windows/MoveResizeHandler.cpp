@@ -79,6 +79,7 @@ void MoveResizeHandler::windowEvent(QEvent *event)
             m_state = State::Idle;
         break;
     case QEvent::Hide:
+    case QEvent::WindowBlocked: // by a dialog, which gets the release
         m_state = State::Idle;
         break;
     case QEvent::Leave:

@@ -161,9 +161,12 @@ void OmWindow::slotAlwaysOnTopTimer()
 
 void OmWindow::slotAlwaysOnTop()
 {
-    m_frame->toggleAlwaysOnTop();
+    const QPointer<OmWindow> guard(this); // a slot of the action's signals may destroy the window
+    m_frame->setAlwaysOnTop(!m_frame->isAlwaysOnTop());
     if (m_alwaysOnTopAction)
         m_alwaysOnTopAction->setChecked(m_frame->isAlwaysOnTop());
+    if (guard)
+        m_frame->applyAlwaysOnTop();
 }
 
 void OmWindow::slotOp100Timer()

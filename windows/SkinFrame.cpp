@@ -98,9 +98,8 @@ void SkinFrame::handleNativeEvent(const QByteArray &eventType, void *message) co
     }
 }
 
-void SkinFrame::toggleAlwaysOnTop()
+void SkinFrame::applyAlwaysOnTop() const
 {
-    m_alwaysOnTop = !m_alwaysOnTop;
     NativeWindow::setStayOnTop(NativeWindow::handleOf(m_window), m_alwaysOnTop);
 }
 
@@ -112,7 +111,17 @@ void SkinFrame::setFixed(bool fixed)
     NativeWindow::setMaximizeBox(NativeWindow::handleOf(m_window), !fixed);
     if (m_handler)
         m_handler->setActive(MoveResizeHandler::Action::Resize, !fixed);
+    restrainSizeGrip();
     m_titleBar.setMaximizingEnabled(!fixed);
+}
+
+// The grip in a status bar resizes past the handler. One that the host had hidden stays hidden.
+void SkinFrame::restrainSizeGrip()
+{
+    if (!m_statusBar || (m_fixed ? !m_statusBar->isSizeGripEnabled() : !m_hidesSizeGrip))
+        return;
+    m_statusBar->setSizeGripEnabled(!m_fixed);
+    m_hidesSizeGrip = m_fixed;
 }
 
 // Content
@@ -175,6 +184,7 @@ OmStatusBar *SkinFrame::statusBar()
         return nullptr;
     if (!m_statusBar) {
         m_statusBar = new OmStatusBar(m_window);
+        restrainSizeGrip();
         if (QLayout *layout = m_window->layout())
             layout->addWidget(m_statusBar);
     }

@@ -56,8 +56,10 @@ public:
     void setTitle(const QString &title);
     QString title() const { return m_title; }
 
-    void toggleAlwaysOnTop();
+    /// Takes effect with applyAlwaysOnTop().
+    void setAlwaysOnTop(bool on) { m_alwaysOnTop = on; }
     bool isAlwaysOnTop() const { return m_alwaysOnTop; }
+    void applyAlwaysOnTop() const;
 
     /// What the window does before its base class gets \a event.
     void handleEvent(QEvent *event);
@@ -77,12 +79,14 @@ private:
     void restoreNativeStyle();
     void followScreen();
     void insertMenuBar();
+    void restrainSizeGrip();
 
     QWidget *m_window;
     bool m_active = true;
     bool m_fixed = false;
     bool m_alwaysOnTop = false;
     bool m_useLayout = true;
+    bool m_hidesSizeGrip = false;
     QString m_title;
     TitleBar m_titleBar;
     FramePainter m_painter;

@@ -5,6 +5,7 @@
 #include <ombrin/OmCalendar.h>
 #include <ombrin/OmInputDialog.h>
 #include <ombrin/OmMessageBox.h>
+#include <ombrin/OmStyle2.h>
 
 #include <QtCore/QProcess>
 #include <QtWidgets/QCalendarWidget>
@@ -192,6 +193,19 @@ private Q_SLOTS:
                 QCOMPARE(ok, !answer.toString().isNull());
             QVERIFY(QApplication::topLevelWidgets().isEmpty());
         }
+    }
+
+    void dayIsChosenOnce()
+    {
+        ombrin::OmStyle2 style; // in which a single click activates, too
+        OmCalendar calendar;
+        calendar.findChild<QTableView *>()->setStyle(&style);
+        const QSignalSpy finished(&calendar, &QDialog::finished);
+        calendar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&calendar));
+        day("23"_q)(&calendar);
+        QVERIFY(!calendar.isVisible());
+        QCOMPARE(finished.count(), 1);
     }
 
     void dialogsLookAsDescribed_data()

@@ -72,12 +72,14 @@ private Q_SLOTS:
         mission.picture = picture({48, 60}, density);
         COmWizard_Standard wizard;
         wizard.setLayoutDirection(direction);
-        if (!hasPictures) { // nor does the size of the font matter
-            QFont small = wizard.font();
-            small.setPixelSize(8);
-            wizard.setFont(small);
+        QFont font = wizard.font();
+        if (!hasPictures) { // nor does the size of the font matter, which may change
+            font.setPixelSize(40);
+            wizard.setFont(font);
+            font.setPixelSize(8);
         }
         wizard.Set_Mission(&mission);
+        wizard.setFont(font);
         wizard.FixSize(true, QSize(600, 420));
         if (!hasPictures) { // they leave nothing behind
             mission.sidebar = mission.picture = QPixmap();

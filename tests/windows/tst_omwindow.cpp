@@ -335,6 +335,18 @@ private Q_SLOTS:
             QVERIFY(titleButton(window, Maximize)->isEnabled());
             QVERIFY(titleButton(window, Restore)->isEnabled());
             QCOMPARE(widthAfterDrag(), 51);
+
+            // Nor does the grip in the status bar resize; one that the host hid stays hidden.
+            for (const bool hasGrip : {false, true}) {
+                window.statusBar()->setSizeGripEnabled(hasGrip);
+                window.setFixed(true);
+                QVERIFY(!window.statusBar()->isSizeGripEnabled());
+                window.setFixed(false);
+                QCOMPARE(window.statusBar()->isSizeGripEnabled(), hasGrip);
+            }
+            delete window.statusBar();
+            window.setFixed(true);
+            QVERIFY(!window.statusBar()->isSizeGripEnabled());
         });
     }
 
@@ -427,6 +439,15 @@ private Q_SLOTS:
             window.setGeometry(start);
             dragInside(*content, QPoint(100, 100), QPoint(108, 109));
             QCOMPARE(window.geometry(), start.translated(8, 9));
+
+            // A press whose release goes to a dialog is over.
+            window.setGeometry(start);
+            QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, QPoint(200, 10));
+            QDialog question(&window);
+            question.open();
+            question.reject();
+            sendMouseMove(&window, QPoint(260, 60), Qt::LeftButton);
+            QCOMPARE(window.geometry(), start);
 
             window.showMaximized();
             settle();
@@ -542,6 +563,13 @@ private Q_SLOTS:
         QVERIFY(window.isAlwaysOnTop()); // until the menu has closed
         QTRY_VERIFY_WITH_TIMEOUT(!window.isAlwaysOnTop(), 20000);
         QVERIFY(!action->isChecked());
+        const auto isKeptOnTop = [&window] {
+            return window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
+        };
+        connect(action.get(), &QAction::toggled, &window, [&](bool on) {
+            QCOMPARE(window.isAlwaysOnTop(), on);
+            QVERIFY(!on || !isKeptOnTop()); // that comes next
+        });
         invoke("slotAlwaysOnTopTimer");
         QTRY_VERIFY_WITH_TIMEOUT(window.isAlwaysOnTop(), 20000);
         QVERIFY(action->isChecked());
@@ -592,6 +620,14 @@ private Q_SLOTS:
         connect(titleButton(*window, Minimize), &OmImageButton::clicked, window,
                 [&window] { delete window; });
         QTest::mouseClick(titleButton(*window, Minimize), Qt::LeftButton);
+        QVERIFY(!window);
+
+        window = new OmWindow;
+        window->show();
+        QAction action;
+        window->setAlwaysOnTopAction(&action);
+        connect(&action, &QAction::toggled, window, [&window] { delete window; });
+        QVERIFY(QMetaObject::invokeMethod(window, "slotAlwaysOnTop"));
         QVERIFY(!window);
     }
 

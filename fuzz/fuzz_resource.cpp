@@ -9,6 +9,7 @@
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QResource>
+#include <QtCore/QtEndian>
 #include <QtGui/QPixmapCache>
 
 namespace {
@@ -33,16 +34,34 @@ void readAll(const QString &root)
     }
 }
 
+// Whether Qt registers the file. One that it refuses stays mapped for ever.
+bool isKnownToQt(const QByteArray &file)
+{
+    constexpr int kOffsets[] = {8, 12, 16};
+    constexpr int kHeaderSize = 24;
+    if (file.size() < kHeaderSize)
+        return false;
+    const auto number = [&file](int at) { return qFromBigEndian<quint32>(file.constData() + at); };
+    for (const int offset : kOffsets) {
+        if (number(offset) >= static_cast<quint32>(file.size()))
+            return false;
+    }
+    const quint32 format = number(4);
+    const quint32 packing = number(20);
+    return format == 1 || format == 2 || (format == 3 && packing == 0);
+}
+
 void run(ombrin::fuzz::Input input)
 {
     const QString name = fileName();
+    const QByteArray file = input.rest();
     // Written anew: a file that Qt has mapped must not change.
     QFile::remove(name);
-    ombrin::fuzz::writeFile(name, input.rest());
+    ombrin::fuzz::writeFile(name, file);
     if (!ombrin::isIntactResourceFile(name))
         return;
     const QString root = QStringLiteral("/fuzz");
-    if (!QResource::registerResource(name, root))
+    if (!isKnownToQt(file) || !QResource::registerResource(name, root))
         return;
     readAll(QLatin1Char(':') + root);
     QPixmapCache::clear();

@@ -15,8 +15,7 @@ PictureFile PictureFile::inspect(const QString &fileName)
         return file;
     QImageReader reader(fileName);
     const QSize size = pictureExtent(&reader);
-    file.isReadable =
-            !size.isEmpty() && size.boundedTo({kMaxPictureExtent, kMaxPictureExtent}) == size;
+    file.isReadable = isSafeExtent(size);
     file.isAnimation = file.isReadable && reader.supportsAnimation();
     if (file.isAnimation && reader.imageCount() > 0)
         file.animationBytes = qint64(reader.imageCount()) * size.width() * size.height() * 4;

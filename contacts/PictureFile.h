@@ -6,9 +6,6 @@
 
 namespace ombrin {
 
-/// Widest and highest picture of a user, in pixels, that is decoded.
-constexpr int kMaxPictureExtent = 4096;
-
 /// What a look at the header of a picture file tells. Files come from other people: decode none
 /// that is not readable.
 struct OMBRIN_AUTOTEST_EXPORT PictureFile

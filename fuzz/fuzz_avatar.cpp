@@ -4,6 +4,7 @@
 #include "FuzzTarget.h"
 
 #include "contacts/PictureFile.h"
+#include "widgets/PictureExtent.h"
 
 #include <ombrin/OmAvatar.h>
 #include <ombrin/OmAvatarSmall.h>

@@ -4,6 +4,7 @@
 
 #include "text/ChatPicture.h"
 #include "text/LinkToolTip.h"
+#include "widgets/PictureExtent.h"
 
 #include <ombrin/OmTextBrowser.h>
 
@@ -28,8 +29,8 @@ void hoverLink(OmTextBrowser *browser, const QByteArray &link)
 
 void checkSize(const QImage &picture)
 {
-    FUZZ_CHECK(picture.width() <= ombrin::kMaxChatPictureExtent);
-    FUZZ_CHECK(picture.height() <= ombrin::kMaxChatPictureExtent);
+    FUZZ_CHECK(picture.width() <= ombrin::kMaxPictureExtent);
+    FUZZ_CHECK(picture.height() <= ombrin::kMaxPictureExtent);
 }
 
 // Nothing is to be read but what lies in the folder of this process, or in resources.

@@ -27,9 +27,7 @@ QImage decoded(QIODevice *device)
     reader.setDecideFormatFromContent(true);
     if (!isBitmapFormat(reader.format()))
         return QImage();
-    const QSize size = pictureExtent(&reader);
-    const QSize limit(kMaxChatPictureExtent, kMaxChatPictureExtent);
-    if (size.isEmpty() || size.boundedTo(limit) != size)
+    if (!isSafeExtent(pictureExtent(&reader)))
         return QImage();
     reader.setAutoTransform(true);
     return reader.read();

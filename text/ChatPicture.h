@@ -8,9 +8,8 @@
 
 namespace ombrin {
 
-/// Largest picture that is read, and widest and highest that is decoded.
+/// Largest picture that is read.
 constexpr qint64 kMaxChatPictureBytes = 16 * 1024 * 1024;
-constexpr int kMaxChatPictureExtent = 4096;
 
 /// The ordinary file or resource that \a source, which may come from other people, names on this
 /// machine; empty for anything else, which is then not to be touched: remote files, folders, pipes,

@@ -68,6 +68,16 @@ void OmLineEdit::focusOutEvent(QFocusEvent *event)
     QLineEdit::focusOutEvent(event);
 }
 
+void OmLineEdit::dropEvent(QDropEvent *event)
+{
+    const bool showedMessage = showsMessage();
+    if (showedMessage)
+        QLineEdit::setText(QString()); // else the text would land in its middle
+    QLineEdit::dropEvent(event);
+    if (showedMessage)
+        updateFocusMessage(); // there may have been nothing to drop
+}
+
 bool OmLineEdit::showsMessage() const
 {
     return QLineEdit::text() == m_noFocusMessage.left(maxLength());

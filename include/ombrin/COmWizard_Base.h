@@ -21,8 +21,9 @@ class WizardButtons;
 ///     showNewAccount();
 /// \endcode
 ///
-/// The wizard does not own its mission. When the mission is destroyed the wizard keeps showing what
-/// it shows, without its page, and its buttons do nothing; Escape still closes it.
+/// The wizard does not own its mission. When a mission is destroyed it leaves its page, and the
+/// wizard shows no page, a title of its own and none of the mission's texts and pictures any more.
+/// Its buttons do nothing then; Escape still closes it.
 ///
 /// A wizard is a top-level window, centred on the primary screen whenever it is shown. Its texts,
 /// and with them the mission's, are asked for again when the application's language changes.

@@ -18,6 +18,9 @@ namespace ombrin {
 /// begin on Monday where the name of the system's locale contains "de", as "de_DE" and "de_AT" do,
 /// and on Sunday everywhere else.
 ///
+/// In slots of the dialog's signals a calendar is deleted with deleteLater() only: it is still at
+/// work when it tells of a click.
+///
 /// \ingroup dialogs
 class OMBRIN_GUI_EXPORT OmCalendar : public OmDialog2
 {

@@ -19,8 +19,8 @@ namespace ombrin {
 /// The message is put into the line edit as its text, in grey; it goes when the line edit gets the
 /// focus and comes back when it is left empty. text() and the property of that name never give it
 /// away, but QLineEdit::text() and textChanged() see it. A user who types exactly the message has
-/// typed nothing. Where the line edit's maximum length cuts the message off, what is left of it
-/// counts as the message.
+/// typed nothing, and text that is dropped on the message takes its place. Where the line edit's
+/// maximum length cuts the message off, what is left of it counts as the message.
 ///
 /// The text colour is set as a style sheet, which replaces a style sheet of the host. All other
 /// text has the text colour of the parent widget's palette, or that of the application's line edits
@@ -59,6 +59,7 @@ public:
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     bool showsMessage() const;

@@ -2,6 +2,8 @@
 
 #include <ombrin/OmLineEdit.h>
 
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCompleter>
@@ -66,6 +68,20 @@ struct Form
             edit->setText(text);
         else if (step.startsWith(QLatin1String("message:")))
             edit->setNoFocusMessage(text);
+        else if (step.startsWith(QLatin1String("drop:")))
+            drop(text);
+    }
+
+    // In the middle of what the line edit shows.
+    void drop(const QString &text)
+    {
+        QMimeData data;
+        data.setText(text);
+        const QPoint place(QFontMetrics(edit->font()).horizontalAdvance(shownText(*edit)) / 2, 5);
+        const auto send = [&](auto &&event) { QCoreApplication::sendEvent(edit, &event); };
+        send(QDragEnterEvent(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
+        send(QDragMoveEvent(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
+        send(QDropEvent(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
     }
 
     QWidget window;
@@ -101,6 +117,8 @@ private Q_SLOTS:
         row("focus type:Hint leave focus", "_ Hint Hint* _"); // which is typing nothing
         row("setText:Ada update focus", "Ada Ada Ada");
         row("setText: update", "_ Hint*");
+        row("drop:Ada update focus", "Ada Ada Ada"); // instead of it, not into it
+        row("drop: focus", "Hint* _");
         row("focus update", "_ _");
         row("focus undo", "_ _");
         row("focus type:Ada message:Somebody", "_ Ada Somebody"); // whose colour stays

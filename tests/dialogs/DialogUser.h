@@ -1,24 +1,16 @@
 #pragma once
 
+#include "support/TestCase.h"
+
 #include <ombrin/OmImageButton.h>
 
-#include <QtCore/QPointer>
-#include <QtCore/QTimer>
-#include <QtCore/QTranslator>
 #include <QtGui/QWindow>
-#include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
 
 #include <functional>
 
 /// A user who answers dialogs while they run their own event loop.
 namespace dialog_user {
-
-inline QString operator""_q(const char *text, std::size_t length)
-{
-    return QString::fromUtf8(text, static_cast<int>(length));
-}
 
 /// As soon as a \a Dialog is open and active, calls \a action with it, once. A dialog that stays
 /// open afterwards fails the test, by the warning, instead of running for ever.
@@ -104,29 +96,5 @@ inline ombrin::OmImageButton *closeButton(const QWidget *dialog)
     return dialog->findChildren<ombrin::OmImageButton *>(QString(), Qt::FindDirectChildrenOnly)
             .value(3);
 }
-
-/// A language in which every text bears its context and its translator's comment.
-class TaggedLanguage : public QTranslator
-{
-public:
-    TaggedLanguage()
-    {
-        QCoreApplication::installTranslator(this);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-    }
-    ~TaggedLanguage() override
-    {
-        QCoreApplication::removeTranslator(this);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-    }
-
-    QString translate(const char *context, const char *text, const char *comment,
-                      int) const override
-    {
-        return "%1|%2|%3"_q.arg(QLatin1String(context), QLatin1String(text),
-                                QLatin1String(comment));
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace dialog_user

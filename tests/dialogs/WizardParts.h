@@ -7,13 +7,10 @@
 #include <ombrin/COmWizard_Standard.h>
 #include <ombrin/OmWizard_Standard2.h>
 
-#include <memory>
 #include <optional>
 
 /// Pages and missions that tell what is done to them and do what they are told.
 namespace wizard_parts {
-
-using dialog_user::operator""_q;
 
 /// Hears of everything. What it does then may destroy whoever told it.
 struct Log : public QObject

@@ -1,4 +1,5 @@
 #include "dialogs/DialogUser.h"
+#include "support/TaggedLanguage.h"
 #include "support/TestCase.h"
 #include "windows/FlatSkin.h"
 
@@ -7,7 +8,6 @@
 #include <ombrin/OmMessageBox.h>
 #include <ombrin/OmStyle2.h>
 
-#include <QtCore/QProcess>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
@@ -17,10 +17,7 @@
 #include <cstdio>
 
 using namespace dialog_user;
-using ombrin::OmCalendar;
-using ombrin::OmDialog2;
-using ombrin::OmInputDialog;
-using ombrin::OmMessageBox;
+using namespace ombrin;
 
 namespace {
 
@@ -104,13 +101,11 @@ class tst_SmallDialogs : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void answersAreReturned_data()
     {
-        QTest::addColumn<Call>("call");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<QVariant>("answer");
+        const auto row = columns<Call, Act, QVariant>("call", "act", "answer");
         const Act close = [](OmDialog2 *dialog) { click(closeButton(dialog)); };
         const Act destroy = [](OmDialog2 *dialog) { delete dialog; };
         const Act destroyParent = [](OmDialog2 *dialog) { delete dialog->parentWidget(); };
@@ -118,10 +113,6 @@ private Q_SLOTS:
         const Call information = message(&OmMessageBox::information);
         const Call question = message(&OmMessageBox::question);
         const QDate pi(2011, 3, 14);
-        const auto row = [](const char *name, const Call &call, const Act &act,
-                            const QVariant &answer) {
-            QTest::newRow(name) << call << act << answer;
-        };
         row("information: ok", information, press("&Ok"), 0);
         row("question: yes", question, press("&Yes"), 1);
         row("question: no", question, press("&No"), 0);
@@ -210,9 +201,8 @@ private Q_SLOTS:
 
     void dialogsLookAsDescribed_data()
     {
-        QTest::addColumn<Call>("call");
-        QTest::addColumn<QString>("captions"); // the default button first
-        QTest::addColumn<QString>("title");
+        // captions: the default button first
+        columns<Call, QString, QString>("call", "captions", "title");
         const auto row = [](const char *name, const Call &call, const char *captions,
                             const char *title = "Title") {
             QTest::newRow(name) << call << captions << title;
@@ -301,7 +291,7 @@ private Q_SLOTS:
             const QString prefix =
                     QLatin1String(dialog->metaObject()->className()) + QLatin1Char('|');
             {
-                const TaggedLanguage language;
+                const ombrin::test::TaggedLanguage language;
                 if (qobject_cast<OmCalendar *>(dialog))
                     QCOMPARE(dialog->windowTitleOnly(), prefix + "Choose a Date|"_q);
                 else if (qobject_cast<OmMessageBox *>(dialog))

@@ -48,16 +48,15 @@ class tst_WizardLayout : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void standardHasItsPiecesInPlace_data()
     {
-        QTest::addColumn<bool>("hasPictures");
-        QTest::addColumn<qreal>("density");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::newRow("no pictures, small font") << false << 1.0 << Qt::LeftToRight;
-        QTest::newRow("pictures") << true << 1.0 << Qt::LeftToRight;
-        QTest::newRow("dense pictures, right to left") << true << 2.0 << Qt::RightToLeft;
+        const auto row =
+                columns<bool, qreal, Qt::LayoutDirection>("hasPictures", "density", "direction");
+        row("no pictures, small font", false, 1.0, Qt::LeftToRight);
+        row("pictures", true, 1.0, Qt::LeftToRight);
+        row("dense pictures, right to left", true, 2.0, Qt::RightToLeft);
     }
 
     void standardHasItsPiecesInPlace()
@@ -166,12 +165,11 @@ private Q_SLOTS:
 
     void compactTakesTheSizeOfItsPage_data()
     {
-        QTest::addColumn<QSize>("sidebar");
-        QTest::addColumn<QSize>("page");
-        QTest::addColumn<QSize>("size"); // without the frame's margins
-        QTest::newRow("sidebar") << QSize(100, 300) << QSize(400, 250) << QSize(530, 358);
-        QTest::newRow("low sidebar") << QSize(100, 30) << QSize(400, 250) << QSize(530, 308);
-        QTest::newRow("no sidebar") << QSize() << QSize(400, 250) << QSize(420, 308);
+        // size: without the frame's margins
+        const auto row = columns<QSize, QSize, QSize>("sidebar", "page", "size");
+        row("sidebar", {100, 300}, {400, 250}, {530, 358});
+        row("low sidebar", {100, 30}, {400, 250}, {530, 308});
+        row("no sidebar", {}, {400, 250}, {420, 308});
     }
 
     void compactTakesTheSizeOfItsPage()

@@ -107,13 +107,11 @@ class tst_WizardLifetimes : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void anythingMayHappenAtAnyTime_data()
     {
-        QTest::addColumn<bool>("compact");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<bool>("kills");
+        columns<bool, Act, bool>("compact", "act", "kills");
         const auto row = [](const char *name, bool kills, const Act &act) {
             for (const bool compact : {false, true})
                 QTest::addRow("%s, %s", name, compact ? "compact" : "standard")

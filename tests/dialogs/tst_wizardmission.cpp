@@ -1,4 +1,5 @@
 #include "dialogs/WizardParts.h"
+#include "support/TaggedLanguage.h"
 #include "support/TestCase.h"
 #include "windows/FlatSkin.h"
 
@@ -64,7 +65,7 @@ class tst_WizardMission : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void pageChangesComeInOrder()
     {
@@ -164,12 +165,7 @@ private Q_SLOTS:
 
     void cancellingAsksTheUser_data()
     {
-        QTest::addColumn<std::function<void(OmMessageBox *)>>("act");
-        QTest::addColumn<bool>("confirmed");
-        const auto row = [](const char *name, bool confirmed,
-                            std::function<void(OmMessageBox *)> act) {
-            QTest::newRow(name) << std::move(act) << confirmed;
-        };
+        const auto row = columns<bool, std::function<void(OmMessageBox *)>>("confirmed", "act");
         row("yes", true, [](OmMessageBox *box) { click(dialog_user::button(box, "&Yes")); });
         row("no", false, [](OmMessageBox *box) { click(dialog_user::button(box, "&No")); });
         row("closed", false, [](OmMessageBox *box) { click(dialog_user::closeButton(box)); });
@@ -189,7 +185,7 @@ private Q_SLOTS:
         whenOpen<OmMessageBox>(note);
         QTEST(mission.CancelWizard(), "confirmed");
         QCOMPARE(texts, "Question; Do you really want to cancel this wizard?"_q);
-        const dialog_user::TaggedLanguage language; // the texts are the mission's, with comments
+        const ombrin::test::TaggedLanguage language; // the texts are the mission's, with comments
         act = [](OmMessageBox *box) { box->reject(); };
         whenOpen<OmMessageBox>(note);
         QVERIFY(!mission.CancelWizard());

@@ -1,4 +1,5 @@
 #include "dialogs/WizardParts.h"
+#include "support/TaggedLanguage.h"
 #include "support/TestCase.h"
 #include "windows/FlatSkin.h"
 
@@ -67,7 +68,7 @@ class tst_Wizards : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void actionsAreShownEnabledAndRunAsTheMissionSays_data() { forBothWizards(); }
     void actionsAreShownEnabledAndRunAsTheMissionSays()
@@ -215,13 +216,8 @@ private Q_SLOTS:
 
     void keysDoWhatEachWizardSays_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<QStringList>("standard"); // on no page, the first and the last one
-        QTest::addColumn<QStringList>("compact");
-        const auto row = [](const char *name, Qt::Key key, const QStringList &standard,
-                            const QStringList &compact) {
-            QTest::newRow(name) << int(key) << standard << compact;
-        };
+        // standard: on no page, the first and the last one
+        const auto row = columns<int, QStringList, QStringList>("key", "standard", "compact");
         const QStringList nothing = {""_q, ""_q, ""_q};
         const QStringList goesOn = {""_q, "NextPage"_q, "ExecuteMission"_q};
         row("enter", Qt::Key_Enter, goesOn, goesOn);
@@ -393,7 +389,7 @@ private Q_SLOTS:
                 QLatin1String(compact ? "OmWizard_Standard2|" : "COmWizard_Standard|");
         const QString before = shownButtons(wizard.get());
         {
-            const dialog_user::TaggedLanguage language;
+            const ombrin::test::TaggedLanguage language;
             QCOMPARE(
                     wizard->windowTitleOnly(),
                     prefix + "Assistant|windowtitle of a wizard who hasn't get one by the mission"_q);

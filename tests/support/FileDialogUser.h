@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Text.h"
+
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -45,7 +47,7 @@ public:
 private:
     static QLineEdit *edit(const QFileDialog *dialog)
     {
-        return dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        return dialog->findChild<QLineEdit *>("fileNameEdit"_q);
     }
 
     QTimer m_timer;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/SpellingBackend.h"
+#include "support/Text.h"
 
 #include <ombrin/OmSpelling.h>
 
@@ -74,9 +75,8 @@ public:
     void add(const QString &name, const QList<QByteArray> &words,
              const QByteArray &encoding = QByteArrayLiteral("UTF-8")) const
     {
-        write(name + QStringLiteral(".aff"), "SET " + encoding + '\n');
-        write(name + QStringLiteral(".dic"),
-              QByteArray::number(words.size()) + '\n' + words.join('\n') + '\n');
+        write(name + ".aff"_q, "SET " + encoding + '\n');
+        write(name + ".dic"_q, QByteArray::number(words.size()) + '\n' + words.join('\n') + '\n');
     }
 
     /// Has dictionaries read as plain lists in builds without Hunspell.

@@ -1,8 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtCore/QMetaMethod>
-#include <QtCore/QMutex>
-#include <QtCore/QMutexLocker>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleFactory>
@@ -106,6 +103,12 @@ void TestCase::cleanup()
     QVERIFY2(leftovers.isEmpty(), qPrintable(leftovers.join(QLatin1Char('\n'))));
 }
 
+bool registerPictures(const char *file)
+{
+    return QResource::registerResource(QCoreApplication::applicationDirPath() + QLatin1Char('/')
+                                       + QLatin1String(file));
+}
+
 QStringList words(const char *text)
 {
     return QString::fromUtf8(text).split(QLatin1Char(' '));
@@ -121,18 +124,15 @@ QStringList methodsOf(const QMetaObject &metaObject)
 
 void prepareApplication()
 {
-    QApplication::setOrganizationName(QStringLiteral("ombrin"));
+    QApplication::setOrganizationName("ombrin"_q);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    QApplication::setStyle(QStyleFactory::create("fusion"_q));
     QApplication::setPalette(QApplication::style()->standardPalette());
-    QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
-    QApplication::setEffectEnabled(Qt::UI_FadeMenu, false);
-    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
-    QApplication::setEffectEnabled(Qt::UI_AnimateTooltip, false);
-    QApplication::setEffectEnabled(Qt::UI_FadeTooltip, false);
+    for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
+                              Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip})
+        QApplication::setEffectEnabled(effect, false);
 
-    const QString file =
-            QCoreApplication::applicationDirPath() + QStringLiteral("/testdata/DejaVuSans.ttf");
+    const QString file = QCoreApplication::applicationDirPath() + "/testdata/DejaVuSans.ttf"_q;
     const int id = QFontDatabase::addApplicationFont(file);
     const QStringList families = QFontDatabase::applicationFontFamilies(id);
     if (families.isEmpty())

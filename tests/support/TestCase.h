@@ -1,15 +1,32 @@
 #pragma once
 
-#include <QtCore/QObject>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QStringList>
-#include <QtCore/QVector>
-#include <QtTest/QtTest>
+#include "support/Text.h"
+
+#include <QtTest/QtTest> // and with it all of QtCore
 #include <QtWidgets/QApplication>
 
 #include <memory>
+#include <type_traits>
 
 namespace ombrin::test {
+
+/// A cell of a test's table: of a text, also as it stands in double quotes.
+class TextCell
+{
+public:
+    TextCell(const char *text)
+        : m_text(QString::fromUtf8(text))
+    {}
+    TextCell(const QString &text)
+        : m_text(text)
+    {}
+    operator const QString &() const { return m_text; }
+
+private:
+    QString m_text;
+};
+template <typename Type>
+using Cell = std::conditional_t<std::is_same_v<Type, QString>, TextCell, Type>;
 
 /// Base of every test class.
 ///
@@ -35,6 +52,18 @@ protected:
     virtual void setUp() {}
     virtual void tearDown() {}
 
+    /// Gives the table of a test the columns \a names and returns what adds rows to it:
+    ///     const auto row = columns<int, QString>("rating", "stars");
+    ///     row("half a star", 1, "heeee");
+    template <typename... Types, typename... Names>
+    static auto columns(Names... names)
+    {
+        (QTest::addColumn<Types>(names), ...);
+        return [](const char *name, const Cell<Types> &...cells) {
+            (QTest::newRow(name) << ... << static_cast<const Types &>(cells));
+        };
+    }
+
 private Q_SLOTS:
     void init();
     void cleanup();
@@ -46,6 +75,9 @@ private:
 /// Prepares the application every test runs in: pinned font, Fusion style, standard palette, no
 /// animated effects, settings and data folders in a place of their own.
 void prepareApplication();
+
+/// Registers a file of the skin's pictures, named from the folder of the test programs.
+bool registerPictures(const char *file);
 
 /// The words of \a text, which are separated by spaces.
 QStringList words(const char *text);

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "support/TestCase.h"
+
 #include <ombrin/OmQtCompat.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtGui/QAccessible>
 #include <QtGui/QImage>
 #include <QtGui/QMouseEvent>
-#include <QtWidgets/QWidget>
 
 /// What tests do to single widgets, on screen or not, and what they see of them.
 namespace ombrin::test {
@@ -34,6 +34,26 @@ inline void sendMouseMove(QWidget *widget, const QPoint &position,
     QMouseEvent event(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton,
                       buttons, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &event);
+}
+
+/// Drags with the left button from one point of \a widget to another.
+inline void dragInside(QWidget *widget, const QPoint &from, const QPoint &to)
+{
+    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
+    sendMouseMove(widget, to, Qt::LeftButton);
+    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+/// The visible window of the class \a Widget, or null.
+template <typename Widget>
+Widget *shown()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *found = qobject_cast<Widget *>(widget); found && found->isVisible())
+            return found;
+    }
+    return nullptr;
 }
 
 /// What \a widget and its children paint, without its background, at \a density.

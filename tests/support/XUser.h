@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Text.h"
+
 #include <QtCore/QEventLoop>
 #include <QtCore/QPoint>
 #include <QtCore/QProcess>
@@ -27,14 +29,13 @@ inline QString runBeside(const QString &program, const QStringList &arguments)
 /// Runs the commands of xdotool in \a script, which are separated by spaces.
 inline void xdo(const QString &script)
 {
-    runBeside(QStringLiteral("xdotool"), script.split(QLatin1Char(' ')));
+    runBeside("xdotool"_q, script.split(QLatin1Char(' ')));
     QTest::qWait(50);
 }
 
 inline void clickAt(const QPoint &position, int button = 1, int count = 1)
 {
-    xdo(QStringLiteral("mousemove %1 %2 sleep 0.05 click --repeat %3 --delay 40 %4")
-                .arg(position.x())
+    xdo("mousemove %1 %2 sleep 0.05 click --repeat %3 --delay 40 %4"_q.arg(position.x())
                 .arg(position.y())
                 .arg(count)
                 .arg(button));
@@ -43,11 +44,10 @@ inline void clickAt(const QPoint &position, int button = 1, int count = 1)
 /// Drags with the left button as a hand does, beginning slowly.
 inline void dragBy(const QPoint &from, const QPoint &delta)
 {
-    QString script = QStringLiteral("mousemove %1 %2 sleep 0.1 mousedown 1 sleep 0.05")
-                             .arg(from.x())
-                             .arg(from.y());
+    QString script =
+            "mousemove %1 %2 sleep 0.1 mousedown 1 sleep 0.05"_q.arg(from.x()).arg(from.y());
     const auto moveTo = [&script](const QPoint &to) {
-        script += QStringLiteral(" mousemove %1 %2 sleep 0.05").arg(to.x()).arg(to.y());
+        script += " mousemove %1 %2 sleep 0.05"_q.arg(to.x()).arg(to.y());
     };
     const bool isFlat = std::abs(delta.x()) >= std::abs(delta.y());
     const QPoint pixel =
@@ -57,7 +57,7 @@ inline void dragBy(const QPoint &from, const QPoint &delta)
     constexpr int kSteps = 4;
     for (int step = 1; step <= kSteps; ++step)
         moveTo(from + delta * step / kSteps);
-    xdo(script + QStringLiteral(" sleep 0.1 mouseup 1 sleep 0.1"));
+    xdo(script + " sleep 0.1 mouseup 1 sleep 0.1"_q);
 }
 
 } // namespace ombrin::test

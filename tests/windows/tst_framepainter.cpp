@@ -30,15 +30,14 @@ class tst_FramePainter : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void eachPieceFillsItsPlace_data()
     {
-        QTest::addColumn<bool>("active");
-        QTest::addColumn<int>("density");
-        QTest::newRow("active") << true << 1;
-        QTest::newRow("inactive, dense") << false << 2;
-        QTest::newRow("denser") << true << 3;
+        const auto row = columns<bool, int>("active", "density");
+        row("active", true, 1);
+        row("inactive, dense", false, 2);
+        row("denser", true, 3);
     }
 
     void eachPieceFillsItsPlace()
@@ -84,8 +83,7 @@ private Q_SLOTS:
                         const QRgb pixel = image.pixel(x, y);
                         const bool isPiece = qRed(pixel) == 0x40 && qBlue(pixel) == 0xc0;
                         if (!isPiece && !inside.contains(x, y))
-                            QFAIL(qPrintable(
-                                    QStringLiteral("%1, %2 at %3").arg(x).arg(y).arg(density)));
+                            QFAIL(qPrintable("%1, %2 at %3"_q.arg(x).arg(y).arg(density)));
                     }
                 }
             }
@@ -142,12 +140,12 @@ private Q_SLOTS:
         // Nothing remains of an earlier one.
         FramePainter painterOfBoth;
         QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
-        for (const QString &text : {title, QStringLiteral("Short")}) {
+        for (const QString &text : {title, "Short"_q}) {
             image.fill(Qt::gray);
             QPainter imagePainter(&image);
             painterOfBoth.paintTitle(&imagePainter, image.size(), true, text, font);
         }
-        QCOMPARE(image, paintTitle(QStringLiteral("Short"), true));
+        QCOMPARE(image, paintTitle("Short"_q, true));
     }
 };
 

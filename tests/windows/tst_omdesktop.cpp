@@ -14,11 +14,11 @@ class tst_OmDesktop : public ombrin::test::TestCase
 private Q_SLOTS:
     void centresInTheWorkAreaCountedFromTheOrigin_data()
     {
-        QTest::addColumn<QSize>("leftOver"); // of the work area around the widget
-        QTest::addColumn<QPoint>("position");
-        QTest::newRow("even") << QSize(500, 400) << QPoint(250, 200);
-        QTest::newRow("odd") << QSize(501, 401) << QPoint(250, 200);
-        QTest::newRow("larger than the work area") << QSize(-101, -51) << QPoint(-50, -25);
+        // leftOver: of the work area around the widget
+        const auto row = columns<QSize, QPoint>("leftOver", "position");
+        row("even", {500, 400}, {250, 200});
+        row("odd", {501, 401}, {250, 200});
+        row("larger than the work area", {-101, -51}, {-50, -25});
     }
     void centresInTheWorkAreaCountedFromTheOrigin()
     {
@@ -68,11 +68,11 @@ private Q_SLOTS:
     void textColorReplacesTheStyleSheet()
     {
         QWidget widget;
-        widget.setStyleSheet(QStringLiteral("font: bold"));
+        widget.setStyleSheet("font: bold"_q);
         OmDesktop::setTextColor(&widget, QColor(255, 0, 0));
-        QCOMPARE(widget.styleSheet(), QStringLiteral("color : #ff0000"));
+        QCOMPARE(widget.styleSheet(), "color : #ff0000"_q);
         OmDesktop::setTextColor(&widget, QColor(10, 171, 205, 30));
-        QCOMPARE(widget.styleSheet(), QStringLiteral("color : #0aabcd"));
+        QCOMPARE(widget.styleSheet(), "color : #0aabcd"_q);
     }
 
     void nothingBecomesANativeWindow()

@@ -1,3 +1,4 @@
+#include "support/TaggedLanguage.h"
 #include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 #include "windows/FlatSkin.h"
@@ -10,9 +11,6 @@
 #include <ombrin/OmWindow.h>
 
 #include <QAction>
-#include <QtCore/QDebug>
-#include <QtCore/QTimer>
-#include <QtCore/QTranslator>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QStatusTipEvent>
@@ -23,10 +21,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 using namespace ombrin::test;
-using ombrin::OmDialog2;
-using ombrin::OmImageButton;
-using ombrin::OmStatusBar;
-using ombrin::OmWindow;
+using namespace ombrin;
 
 namespace {
 
@@ -56,14 +51,6 @@ void settle()
     }
 }
 
-// With the left button.
-void dragInside(QWidget &window, const QPoint &from, const QPoint &to)
-{
-    QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, from);
-    sendMouseMove(&window, to, Qt::LeftButton);
-    QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, to);
-}
-
 QMenu *openMenu(QWidget &window, int y)
 {
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(150, y),
@@ -86,16 +73,6 @@ QStringList layoutNames(const QWidget &window)
     }
     return names;
 }
-
-class GermanTexts : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QLatin1String(context) + QLatin1Char('/') + QLatin1String(text);
-    }
-    bool isEmpty() const override { return false; }
-};
 
 template <typename Window, typename Check>
 void checkIn(Check check)
@@ -122,7 +99,7 @@ class tst_OmWindow : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void newWindowIsFramelessAndReady()
     {
@@ -133,7 +110,7 @@ private Q_SLOTS:
             QVERIFY(titleButton(window, Restore)->isHidden());
             QVERIFY(!titleButton(window, Maximize)->isHidden());
             QVERIFY(titleButton(window, Close)->pixmapUp().isNull()); // until the first activation
-            QCOMPARE(titleButton(window, Close)->toolTip(), QStringLiteral("Close"));
+            QCOMPARE(titleButton(window, Close)->toolTip(), "Close"_q);
             QCOMPARE(titleButton(window, Close)->size(), QSize(24, 20));
             window.setWidget(nullptr);
             QVERIFY(!window.widget() && !window.layout());
@@ -238,7 +215,7 @@ private Q_SLOTS:
                 window.resize(size);
                 QCOMPARE(content->geometry(), QRect(QPoint(5, 30), size - QSize(10, 35)));
             }
-            QStatusTipEvent tip(QStringLiteral("nowhere"));
+            QStatusTipEvent tip("nowhere"_q);
             QApplication::sendEvent(&window, &tip);
         });
     }
@@ -268,11 +245,11 @@ private Q_SLOTS:
             const auto titles = [&window] {
                 return QStringList{window.windowTitleOnly(), window.windowTitle()};
             };
-            window.setWindowTitle(QStringLiteral("Both"));
+            window.setWindowTitle("Both"_q);
             QCOMPARE(titles(), words("Both Both"));
-            window.setWindowTitleOnly(QStringLiteral("Drawn"));
+            window.setWindowTitleOnly("Drawn"_q);
             QCOMPARE(titles(), words("Drawn Both"));
-            static_cast<QWidget &>(window).setWindowTitle(QStringLiteral("Task"));
+            static_cast<QWidget &>(window).setWindowTitle("Task"_q);
             QCOMPARE(titles(), words("Drawn Task"));
 
             // The drawn one is bold and two pixels larger, black in an active window.
@@ -287,8 +264,7 @@ private Q_SLOTS:
             font.setWeight(QFont::Bold);
             painter.setFont(font);
             painter.setPen(Qt::black);
-            painter.drawText(QRect(88, 2, 221, 26), Qt::AlignLeft | Qt::AlignVCenter,
-                             QStringLiteral("Drawn"));
+            painter.drawText(QRect(88, 2, 221, 26), Qt::AlignLeft | Qt::AlignVCenter, "Drawn"_q);
             painter.end();
             QCOMPARE(grabbed, expected);
         });
@@ -327,7 +303,7 @@ private Q_SLOTS:
             QVERIFY(!titleButton(window, Restore)->isEnabled());
             const auto widthAfterDrag = [&window] {
                 const int before = window.width();
-                dragInside(window, QPoint(399, 150), QPoint(450, 150));
+                dragInside(&window, QPoint(399, 150), QPoint(450, 150));
                 return window.width() - before;
             };
             QCOMPARE(widthAfterDrag(), 0);
@@ -372,7 +348,7 @@ private Q_SLOTS:
             // A drag that starts on a button is none of the window's.
             show(window);
             const QPoint before = window.pos();
-            dragInside(*titleButton(window, Close), QPoint(5, 5), QPoint(-200, 90));
+            dragInside(titleButton(window, Close), QPoint(5, 5), QPoint(-200, 90));
             QCOMPARE(window.pos(), before);
             QVERIFY(window.isVisible());
         });
@@ -407,11 +383,11 @@ private Q_SLOTS:
     {
         checkBoth([](auto &window) {
             window.setWidget(new QLabel);
-            QStatusTipEvent tip(QStringLiteral("Opens a file"));
+            QStatusTipEvent tip("Opens a file"_q);
             QApplication::sendEvent(window.widget(), &tip);
             QVERIFY(window.statusBar()->currentMessage().isEmpty());
             QApplication::sendEvent(&window, &tip);
-            QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Opens a file"));
+            QCOMPARE(window.statusBar()->currentMessage(), "Opens a file"_q);
             QTRY_VERIFY_WITH_TIMEOUT(window.statusBar()->currentMessage().isEmpty(), 20000);
         });
     }
@@ -426,7 +402,7 @@ private Q_SLOTS:
             const QRect start(100, 80, 400, 300);
             const auto drag = [&](const QPoint &from, const QPoint &delta) {
                 window.setGeometry(start);
-                dragInside(window, from, from + delta);
+                dragInside(&window, from, from + delta);
                 return window.geometry();
             };
             QCOMPARE(drag({200, 10}, {30, -12}), start.translated(30, -12));
@@ -437,7 +413,7 @@ private Q_SLOTS:
 
             // Dragging plain content moves the window too.
             window.setGeometry(start);
-            dragInside(*content, QPoint(100, 100), QPoint(108, 109));
+            dragInside(content, QPoint(100, 100), QPoint(108, 109));
             QCOMPARE(window.geometry(), start.translated(8, 9));
 
             // A press whose release goes to a dialog is over.
@@ -452,7 +428,7 @@ private Q_SLOTS:
             window.showMaximized();
             settle();
             const QRect maximized = window.geometry();
-            dragInside(window, QPoint(200, 10), QPoint(260, 60));
+            dragInside(&window, QPoint(200, 10), QPoint(260, 60));
             QCOMPARE(window.geometry(), maximized);
         });
     }
@@ -517,19 +493,17 @@ private Q_SLOTS:
     {
         checkBoth([](auto &window) {
             show(window);
-            GermanTexts texts;
-            QCoreApplication::installTranslator(&texts);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-            const QString context = QLatin1String(window.metaObject()->className());
-            QCOMPARE(titleButton(window, Minimize)->toolTip(),
-                     context + QStringLiteral("/Minimize"));
-            QMenu *menu = openMenu(window, 5);
-            QVERIFY(menu);
-            QCOMPARE(menu->actions().constFirst()->text(), context + QStringLiteral("/Opacity"));
-            QCOMPARE(opacityEntries(*menu).constLast()->text(), context + QStringLiteral("/20%"));
-            QCoreApplication::removeTranslator(&texts);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-            QCOMPARE(titleButton(window, Close)->toolTip(), QStringLiteral("Close"));
+            QMenu *menu = nullptr;
+            {
+                const TaggedLanguage language;
+                const QString context = QLatin1String(window.metaObject()->className());
+                QCOMPARE(titleButton(window, Minimize)->toolTip(), context + "|Minimize|"_q);
+                menu = openMenu(window, 5);
+                QVERIFY(menu);
+                QCOMPARE(menu->actions().constFirst()->text(), context + "|Opacity|"_q);
+                QCOMPARE(opacityEntries(*menu).constLast()->text(), context + "|20%|"_q);
+            }
+            QCOMPARE(titleButton(window, Close)->toolTip(), "Close"_q);
             menu->close();
         });
     }
@@ -600,7 +574,7 @@ private Q_SLOTS:
         inner->setFixed(false);
         inner->setGeometry(20, 20, 300, 200);
         host.show();
-        dragInside(*inner, QPoint(100, 10), QPoint(140, 30));
+        dragInside(inner, QPoint(100, 10), QPoint(140, 30));
         QCOMPARE(inner->pos(), QPoint(60, 40));
     }
 

@@ -9,8 +9,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
-using ombrin::OmImageButton;
-using ombrin::OmWindow;
+using namespace ombrin;
 
 // Two screens, the second twice as dense as the first.
 class tst_OmWindowScreens : public ombrin::test::TestCase
@@ -44,7 +43,7 @@ private Q_SLOTS:
                        && button->pixmapUp().devicePixelRatio() == density;
             }));
             QCOMPARE(window.size(), QSize(400, 300));
-            const QImage picture = ombrin::skinImage(QStringLiteral(":/top_left_active"), density)
+            const QImage picture = ombrin::skinImage(":/top_left_active"_q, density)
                                            .convertToFormat(QImage::Format_RGB32);
             QCOMPARE(picture.size(), QSize(86, 30) * density);
             const QImage grabbed = window.grab().toImage().convertToFormat(QImage::Format_RGB32);

@@ -11,8 +11,7 @@
 #include <functional>
 #include <thread>
 
-using ombrin::OmDialog2;
-using ombrin::OmWindow;
+using namespace ombrin;
 
 namespace {
 
@@ -199,19 +198,15 @@ private Q_SLOTS:
 
     void mouseMovesAndResizes_data()
     {
-        QTest::addColumn<bool>("isFixed");
-        QTest::addColumn<QPoint>("from"); // in the window
-        QTest::addColumn<QPoint>("by");
-        QTest::addColumn<QRect>("expected");
+        // from: in the window
+        const auto row = columns<bool, QPoint, QPoint, QRect>("isFixed", "from", "by", "expected");
         const QPoint title(200, 15);
         const QPoint by(60, 40);
-        QTest::newRow("title") << false << title << by << QRect(260, 190, 400, 300);
-        QTest::newRow("title when fixed") << true << title << by << QRect(260, 190, 400, 300);
-        QTest::newRow("right edge") << false << QPoint(398, 150) << by << QRect(200, 150, 460, 300);
-        QTest::newRow("bottom right corner")
-                << false << QPoint(398, 298) << by << QRect(200, 150, 460, 340);
-        QTest::newRow("top left corner")
-                << false << QPoint(1, 1) << by << QRect(260, 190, 340, 260);
+        row("title", false, title, by, {260, 190, 400, 300});
+        row("title when fixed", true, title, by, {260, 190, 400, 300});
+        row("right edge", false, {398, 150}, by, {200, 150, 460, 300});
+        row("bottom right corner", false, {398, 298}, by, {200, 150, 460, 340});
+        row("top left corner", false, {1, 1}, by, {260, 190, 340, 260});
     }
     void mouseMovesAndResizes()
     {

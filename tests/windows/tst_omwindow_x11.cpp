@@ -9,8 +9,7 @@
 #include <QtGui/QWindow>
 
 using namespace ombrin::test;
-using ombrin::OmImageButton;
-using ombrin::OmWindow;
+using namespace ombrin;
 
 namespace {
 
@@ -50,11 +49,7 @@ bool isDragged(const QWidget &window, const QRect &geometry)
 
 QString name(const QRect &rect)
 {
-    return QStringLiteral("%1,%2 %3x%4")
-            .arg(rect.x())
-            .arg(rect.y())
-            .arg(rect.width())
-            .arg(rect.height());
+    return "%1,%2 %3x%4"_q.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
 }
 
 // A task bar at the bottom of the screen, 40 pixels high.
@@ -70,10 +65,8 @@ public:
         const QRect screen = QGuiApplication::primaryScreen()->geometry();
         setGeometry(0, screen.height() - kHeight, screen.width(), kHeight);
         show();
-        runBeside(QStringLiteral("xprop"),
-                  {QStringLiteral("-id"), QString::number(winId()), QStringLiteral("-f"),
-                   QStringLiteral("_NET_WM_STRUT"), QStringLiteral("32c"), QStringLiteral("-set"),
-                   QStringLiteral("_NET_WM_STRUT"), QStringLiteral("0, 0, 0, %1").arg(kHeight)});
+        runBeside("xprop"_q, {"-id"_q, QString::number(winId()), "-f"_q, "_NET_WM_STRUT"_q, "32c"_q,
+                              "-set"_q, "_NET_WM_STRUT"_q, "0, 0, 0, %1"_q.arg(kHeight)});
         QTest::qWait(200);
     }
 };
@@ -85,18 +78,13 @@ class tst_OmWindowX11 : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(flat_skin::registerSkin()); }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
     void mouseMovesAndResizesTheWindow_data()
     {
-        QTest::addColumn<bool>("fixed");
-        QTest::addColumn<QPoint>("from"); // in the window
-        QTest::addColumn<QPoint>("delta");
-        QTest::addColumn<QRect>("change"); // of left, top, width and height
-        const auto row = [](const char *title, bool fixed, QPoint from, QPoint delta,
-                            QRect change) {
-            QTest::newRow(title) << fixed << from << delta << change;
-        };
+        // from: in the window
+        // change: of left, top, width and height
+        const auto row = columns<bool, QPoint, QPoint, QRect>("fixed", "from", "delta", "change");
         row("title", false, {200, 15}, {60, 45}, {60, 45, 0, 0});
         row("left edge", false, {1, 150}, {-50, 20}, {-50, 0, 50, 0});
         row("top left corner", false, {2, 2}, {-30, -20}, {-30, -20, 30, 20});
@@ -117,10 +105,10 @@ private Q_SLOTS:
         showAt(window, kStart);
         dragBy(kStart.topLeft() + from, delta);
         QVERIFY2(isDragged(window, result),
-                 qPrintable(name(window.geometry()) + QStringLiteral(" not ") + name(result)));
+                 qPrintable(name(window.geometry()) + " not "_q + name(result)));
         // The drag is over: the window does not follow the mouse any more.
         const QRect dropped = window.geometry();
-        xdo(QStringLiteral("mousemove 50 50"));
+        xdo("mousemove 50 50"_q);
         QCOMPARE(window.geometry(), dropped);
     }
 
@@ -133,14 +121,11 @@ private Q_SLOTS:
             QVERIFY(QTest::qWaitForWindowExposed(&window, 20000));
             QTest::qWait(100);
             const QString seen =
-                    runBeside(QStringLiteral("xwininfo"),
-                              {QStringLiteral("-id"), QString::number(window.winId())});
+                    runBeside("xwininfo"_q, {"-id"_q, QString::number(window.winId())});
             const QPoint position = window.mapToGlobal(QPoint(0, 0));
-            QVERIFY2(seen.contains(QRegularExpression(
-                             QStringLiteral("upper-left X:\\s+%1\n").arg(position.x()))),
+            QVERIFY2(seen.contains(QRegularExpression("upper-left X:\\s+%1\n"_q.arg(position.x()))),
                      qPrintable(seen + name(window.geometry())));
-            QVERIFY(seen.contains(
-                    QRegularExpression(QStringLiteral("upper-left Y:\\s+%1\n").arg(position.y()))));
+            QVERIFY(seen.contains(QRegularExpression("upper-left Y:\\s+%1\n"_q.arg(position.y()))));
         }
     }
 

@@ -13,13 +13,7 @@ class tst_ResizeGeometry : public ombrin::test::TestCase
 private Q_SLOTS:
     void borderIsFourPixelsWideAndCornersHaveTwoEdges_data()
     {
-        QTest::addColumn<QPoint>("position");
-        QTest::addColumn<Qt::Edges>("edges");
-        QTest::addColumn<int>("cursor");
-        const auto row = [](const char *name, QPoint position, Qt::Edges edges,
-                            Qt::CursorShape cursor) {
-            QTest::newRow(name) << position << edges << static_cast<int>(cursor);
-        };
+        const auto row = columns<QPoint, Qt::Edges, Qt::CursorShape>("position", "edges", "cursor");
         row("inside", {200, 150}, {}, Qt::ArrowCursor);
         row("last of left", {3, 150}, Qt::LeftEdge, Qt::SizeHorCursor);
         row("beside left", {4, 150}, {}, Qt::ArrowCursor);
@@ -36,19 +30,13 @@ private Q_SLOTS:
     {
         QFETCH(QPoint, position);
         QFETCH(Qt::Edges, edges);
-        QFETCH(int, cursor);
         QCOMPARE(resize_geometry::edgesAt(position, QSize(400, 300), 4), edges);
-        QCOMPARE(static_cast<int>(resize_geometry::cursorAt(edges)), cursor);
+        QTEST(resize_geometry::cursorAt(edges), "cursor");
     }
 
     void draggedEdgeStopsAtTheLimitsAndTheOppositeOneStays_data()
     {
-        QTest::addColumn<Qt::Edges>("edges");
-        QTest::addColumn<QPoint>("delta");
-        QTest::addColumn<QRect>("result");
-        const auto row = [](const char *name, Qt::Edges edges, QPoint delta, QRect result) {
-            QTest::newRow(name) << edges << delta << result;
-        };
+        const auto row = columns<Qt::Edges, QPoint, QRect>("edges", "delta", "result");
         // From (100, 100) 400 x 300, between 174 x 35 and 600 x 500.
         row("right", Qt::RightEdge, {20, 5}, {100, 100, 420, 300});
         row("bottom", Qt::BottomEdge, {20, 5}, {100, 100, 400, 305});
@@ -63,10 +51,9 @@ private Q_SLOTS:
     {
         QFETCH(Qt::Edges, edges);
         QFETCH(QPoint, delta);
-        QFETCH(QRect, result);
-        QCOMPARE(resize_geometry::resized(QRect(100, 100, 400, 300), edges, delta, QSize(174, 35),
-                                          QSize(600, 500)),
-                 result);
+        QTEST(resize_geometry::resized(QRect(100, 100, 400, 300), edges, delta, QSize(174, 35),
+                                       QSize(600, 500)),
+              "result");
     }
 };
 

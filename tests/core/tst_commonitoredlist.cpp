@@ -2,8 +2,6 @@
 
 #include <ombrin/COmMonitoredList.h>
 
-#include <QtCore/QRandomGenerator>
-
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -182,7 +180,8 @@ qint64 apply(int operation, quint32 chance, L &list, L &other)
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void(Watched &)>)
+using Operation = std::function<void(Watched &)>;
+Q_DECLARE_METATYPE(Operation)
 
 class tst_COmMonitoredList : public ombrin::test::TestCase
 {
@@ -212,7 +211,7 @@ private Q_SLOTS:
                     theirs[list].clear();
                 }
             }
-            QVERIFY2(same, qPrintable(QStringLiteral("%1: %2").arg(step).arg(operation)));
+            QVERIFY2(same, qPrintable("%1: %2"_q.arg(step).arg(operation)));
         }
     }
 
@@ -237,14 +236,7 @@ private Q_SLOTS:
 
     void operationsTellTheirHooks_data()
     {
-        QTest::addColumn<std::function<void(Watched &)>>("operation");
-        QTest::addColumn<QString>("left");
-        QTest::addColumn<QString>("log");
-        const auto row = [](const char *name, const char *left, const char *log,
-                            const std::function<void(Watched &)> &operation) {
-            QTest::newRow(name) << operation << QString::fromLatin1(left)
-                                << QString::fromLatin1(log);
-        };
+        const auto row = columns<QString, QString, Operation>("left", "log", "operation");
         row("move and swap in place", "abc", "!", [](Watched &list) {
             list.move(2, 2);
             list.swap(1, 1);
@@ -387,7 +379,7 @@ private Q_SLOTS:
 
     void operationsTellTheirHooks()
     {
-        QFETCH(std::function<void(Watched &)>, operation);
+        QFETCH(Operation, operation);
         Watched list("abc");
         operation(list);
         QTEST(letters(list), "left");
@@ -404,9 +396,9 @@ private Q_SLOTS:
         QVERIFY(list.mid(1).isDetached());
         copy.append(element(5));
         list.removeAt(0);
-        QCOMPARE(letters(copy), QStringLiteral("abcdef"));
-        QCOMPARE(letters(list), QStringLiteral("bcde"));
-        QCOMPARE(list.log, QStringLiteral("-a/a"));
+        QCOMPARE(letters(copy), "abcdef"_q);
+        QCOMPARE(letters(list), "bcde"_q);
+        QCOMPARE(list.log, "-a/a"_q);
 
         list.setSharable(false);
         QVERIFY(List(list).isDetached() && list.isDetached());
@@ -426,9 +418,9 @@ private Q_SLOTS:
         const List copy(list);
         it = list.erase(it);
         QCOMPARE(list.IndexOfIterator(it), 1);
-        QCOMPARE(letters(list) + letters(copy), QStringLiteral("acdefabcdef"));
+        QCOMPARE(letters(list) + letters(copy), "acdefabcdef"_q);
         it = list.erase(it, it + 2);
-        QCOMPARE(letters(list), QStringLiteral("aef"));
+        QCOMPARE(letters(list), "aef"_q);
         QCOMPARE(list.IndexOfIterator(List::const_iterator(it)), 1);
         QCOMPARE(list.IndexOfIterator(list.end()), -1);
         QCOMPARE(list.IndexOfIterator(copy.begin()), -1);
@@ -442,7 +434,7 @@ private Q_SLOTS:
         QString seen;
         Q_FOREACH (const Element *item, list)
             seen += QString::number(item->number);
-        QCOMPARE(seen, QStringLiteral("20120"));
+        QCOMPARE(seen, "20120"_q);
         QCOMPARE(list.toSet(), (QSet<Element *>{element(0), element(1), element(2)}));
         QVERIFY(List::fromStdList(list.toStdList()) == list);
         const List::const_iterator second = list.begin() + 1;
@@ -495,7 +487,7 @@ private Q_SLOTS:
             list.swap(0, 3);
             first.join();
             second.join();
-            QCOMPARE(letters(list) + seen[0] + seen[1], QStringLiteral("dbcabcdabcda"));
+            QCOMPARE(letters(list) + seen[0] + seen[1], "dbcabcdabcda"_q);
         }
     }
 };

@@ -2,16 +2,7 @@
 #include "support/TestCase.h"
 
 using ombrin::OmSpelling;
-using ombrin::test::SpellingFolder;
-
-namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
+using namespace ombrin::test;
 
 class tst_Hunspell : public ombrin::test::TestCase
 {
@@ -24,15 +15,7 @@ protected:
 private Q_SLOTS:
     void everyEncodingIsUnderstood_data()
     {
-        QTest::addColumn<QByteArray>("encoding");
-        QTest::addColumn<QByteArray>("written");
-        QTest::addColumn<QString>("right");
-        QTest::addColumn<QString>("wrong");
-        const auto row = [](const char *encoding, const char *written, const char *right,
-                            const char *wrong) {
-            QTest::newRow(encoding)
-                    << QByteArray(encoding) << QByteArray(written) << text(right) << text(wrong);
-        };
+        const auto row = columns<QByteArray, QString, QString>("written", "right", "wrong");
         row("UTF-8", "gr\xC3\xBCn", "grün", "grüün");
         row("ISO8859-1", "na\xEFvet\xE9", "naïveté", "naïvetéé");
         row("ISO8859-2", "\xBElu\xBBou\xE8k\xFD", "žluťoučký", "žluťoučkký");
@@ -43,41 +26,38 @@ private Q_SLOTS:
     }
     void everyEncodingIsUnderstood()
     {
-        QFETCH(QByteArray, encoding);
         QFETCH(QByteArray, written);
         QFETCH(QString, right);
         QFETCH(QString, wrong);
-        m_folder->add(text("aa"), {written, "plain"}, encoding);
-        m_spelling->setDict(text("aa"));
+        m_folder->add("aa"_q, {written, "plain"}, QTest::currentDataTag());
+        m_spelling->setDict("aa"_q);
         QCOMPARE(m_spelling->checkWord(right), 1);
         QCOMPARE(m_spelling->checkWord(right.toUpper()), 1);
         QCOMPARE(m_spelling->checkWord(wrong), 0);
         QCOMPARE(m_spelling->suggestionList(wrong).value(0), right);
         // Letters that the encoding lacks are no reason to guess.
-        QCOMPARE(m_spelling->checkWord(text("plain\xE6\x97\xA5")), 0);
-        QCOMPARE(m_spelling->checkWord(text("\xF0\x9F\x98\x80")), 0);
+        QCOMPARE(m_spelling->checkWord("plain\xE6\x97\xA5"_q), 0);
+        QCOMPARE(m_spelling->checkWord("\xF0\x9F\x98\x80"_q), 0);
     }
 
 #ifdef OMBRIN_SYSTEM_DICTIONARIES
     void systemsDictionariesWork()
     {
-        struct Case
+        const struct
         {
-            const char *names, *right, *wrong, *suggested;
-        };
-        constexpr Case cases[] = {{"en_US", "london", "Londonn", "London"},
-                                  {"en_US", "don’t", "dont’", "don’t"},
-                                  {"de_DE", "donaudampfschifffahrt", "Strasse", "Straße"},
-                                  {"de_DE", "STRASSE", "Rechtschreibunk", "Rechtschreibung"},
-                                  {"en_US,de_DE", "Straße", "wheather", "weather"},
-                                  {"de_DE,en_US", "weather", "Rechtschreibunk", "Rechtschreibung"}};
-        for (const Case &test : cases) {
-            m_spelling->setDict(text(test.names));
-            QCOMPARE(m_spelling->dict(), text(test.names));
-            QCOMPARE(m_spelling->checkWord(text(test.right)), 1);
-            QCOMPARE(m_spelling->checkWord(text(test.wrong)), 0);
-            const QStringList suggestions = m_spelling->suggestionList(text(test.wrong));
-            QVERIFY2(suggestions.contains(text(test.suggested)), test.wrong);
+            QString names, right, wrong, suggested;
+        } cases[] = {{"en_US"_q, "london"_q, "Londonn"_q, "London"_q},
+                     {"en_US"_q, "don’t"_q, "dont’"_q, "don’t"_q},
+                     {"de_DE"_q, "donaudampfschifffahrt"_q, "Strasse"_q, "Straße"_q},
+                     {"de_DE"_q, "STRASSE"_q, "Rechtschreibunk"_q, "Rechtschreibung"_q},
+                     {"en_US,de_DE"_q, "Straße"_q, "wheather"_q, "weather"_q},
+                     {"de_DE,en_US"_q, "weather"_q, "Rechtschreibunk"_q, "Rechtschreibung"_q}};
+        for (const auto &[names, right, wrong, suggested] : cases) {
+            m_spelling->setDict(names);
+            QCOMPARE(m_spelling->dict(), names);
+            QCOMPARE(m_spelling->checkWord(right), 1);
+            QCOMPARE(m_spelling->checkWord(wrong), 0);
+            QVERIFY2(m_spelling->suggestionList(wrong).contains(suggested), qPrintable(wrong));
         }
     }
 #endif

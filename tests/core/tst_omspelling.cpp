@@ -3,18 +3,12 @@
 
 #include "core/PersonalWords.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QProcess>
-#include <QtTest/QSignalSpy>
-
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
 
-using ombrin::OmSpelling;
-using ombrin::PersonalWords;
-using ombrin::test::SpellingFolder;
-using ombrin::test::WordListBackend;
+using namespace ombrin;
+using namespace ombrin::test;
 
 namespace {
 
@@ -35,13 +29,7 @@ int addWords(const QString &folder, const QString &prefix)
 
 QString personalFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-           + QStringLiteral("/spelling");
-}
-
-QString word(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/spelling"_q;
 }
 
 } // namespace
@@ -55,11 +43,11 @@ protected:
     {
         SpellingFolder::useWordLists();
         m_folder = std::make_unique<SpellingFolder>();
-        m_folder->add(QStringLiteral("aa"), {"hello", "Berlin", "NATO", "it's", "hall", "Hemd"});
-        m_folder->add(QStringLiteral("bb"), {"hallo",
-                                             "stra\xC3\x9F"
-                                             "e",
-                                             "hall", "host"});
+        m_folder->add("aa"_q, {"hello", "Berlin", "NATO", "it's", "hall", "Hemd"});
+        m_folder->add("bb"_q, {"hallo",
+                               "stra\xC3\x9F"
+                               "e",
+                               "hall", "host"});
     }
     void tearDown() override { m_folder.reset(); }
 
@@ -68,19 +56,20 @@ private Q_SLOTS:
 
     void onlyInstalledDictionariesAreChosen()
     {
-        const QVector<QPair<const char *, const char *>> choices = {
-                {"aa", "aa"}, {" bb ,, aa,bb", "bb,aa"}, {"zz,aa", "aa"}, {"", ""}, {"../aa", ""},
-                {"AA", ""}};
-        for (const auto &choice : choices) {
-            m_spelling->setDict(word(choice.first));
-            QCOMPARE(m_spelling->dict(), word(choice.second));
+        const std::pair<QString, QString> choices[] = {
+                {"aa"_q, "aa"_q},    {" bb ,, aa,bb"_q, "bb,aa"_q},
+                {"zz,aa"_q, "aa"_q}, {""_q, ""_q},
+                {"../aa"_q, ""_q},   {"AA"_q, ""_q}};
+        for (const auto &[wanted, chosen] : choices) {
+            m_spelling->setDict(wanted);
+            QCOMPARE(m_spelling->dict(), chosen);
         }
     }
 
     void brokenDictionariesAreNotOffered()
     {
-        m_folder->write(word("lone.dic"), "1\nhello\n");
-        m_folder->write(word("other.aff"), "SET UTF-8\n");
+        m_folder->write("lone.dic"_q, "1\nhello\n");
+        m_folder->write("other.aff"_q, "SET UTF-8\n");
         const QVector<QByteArray> broken = {"",
                                             "hello\nworld\n",
                                             "-3\nhello\n",
@@ -90,19 +79,19 @@ private Q_SLOTS:
                                             "ELF\n",
                                             "\xEF\xBB\xBF"};
         for (int i = 0; i < broken.size(); ++i) {
-            m_folder->write(word("broken%1.aff").arg(i), "SET UTF-8\n");
-            m_folder->write(word("broken%1.dic").arg(i), broken.at(i));
+            m_folder->write("broken%1.aff"_q.arg(i), "SET UTF-8\n");
+            m_folder->write("broken%1.dic"_q.arg(i), broken.at(i));
         }
-        m_folder->write(word("folder.aff"), "");
-        QVERIFY(QDir(m_folder->filePath(QString())).mkdir(word("folder.dic")));
+        m_folder->write("folder.aff"_q, "");
+        QVERIFY(QDir(m_folder->filePath(QString())).mkdir("folder.dic"_q));
 #ifdef Q_OS_UNIX
-        m_folder->write(word("pipe.aff"), "");
-        QCOMPARE(mkfifo(QFile::encodeName(m_folder->filePath(word("pipe.dic"))), 0600), 0);
+        m_folder->write("pipe.aff"_q, "");
+        QCOMPARE(mkfifo(QFile::encodeName(m_folder->filePath("pipe.dic"_q)), 0600), 0);
 #endif
         const QStringList offered = m_spelling->availDicts();
-        QVERIFY(offered.contains(word("aa")) && offered.contains(word("bb")));
+        QVERIFY(offered.contains("aa"_q) && offered.contains("bb"_q));
         const QStringList strange =
-                offered.filter(QRegularExpression(word("^(lone|other|broken.*|folder|pipe)$")));
+                offered.filter(QRegularExpression("^(lone|other|broken.*|folder|pipe)$"_q));
         QVERIFY2(strange.isEmpty(), qPrintable(strange.join(QLatin1Char(' '))));
     }
 
@@ -111,28 +100,26 @@ private Q_SLOTS:
         ombrin::setSpellingBackendFactory({});
         QVERIFY(!m_spelling->isAvailable());
         QCOMPARE(m_spelling->availDicts(), QStringList());
-        m_spelling->setDict(word("aa"));
+        m_spelling->setDict("aa"_q);
         QCOMPARE(m_spelling->dict(), QString());
-        QCOMPARE(m_spelling->checkWord(word("helo")), 1);
-        QCOMPARE(m_spelling->suggestionList(word("helo")), QStringList());
-        QVERIFY(m_spelling->prepareSuggestions(word("helo")));
+        QCOMPARE(m_spelling->checkWord("helo"_q), 1);
+        QCOMPARE(m_spelling->suggestionList("helo"_q), QStringList());
+        QVERIFY(m_spelling->prepareSuggestions("helo"_q));
 
         // A backend that loads nothing is one whose files are broken further down.
         ombrin::setSpellingBackendFactory([](const ombrin::SpellingFiles &) {
             return std::unique_ptr<ombrin::SpellingBackend>();
         });
-        m_spelling->setDict(word("aa"));
-        QCOMPARE(m_spelling->checkWord(word("helo")), 1);
-        QCOMPARE(m_spelling->suggestionList(word("helo")), QStringList());
+        m_spelling->setDict("aa"_q);
+        QCOMPARE(m_spelling->checkWord("helo"_q), 1);
+        QCOMPARE(m_spelling->suggestionList("helo"_q), QStringList());
     }
 
     void wordIsJudged_data()
     {
-        QTest::addColumn<QString>("checked");
-        QTest::addColumn<bool>("inItsCase");
-        QTest::addColumn<bool>("inAnyCase");
-        const auto row = [](const char *checked, bool inItsCase, bool inAnyCase) {
-            QTest::newRow(checked) << word(checked) << inItsCase << inAnyCase;
+        const auto add = columns<QString, bool, bool>("checked", "inItsCase", "inAnyCase");
+        const auto row = [add](const char *checked, bool inItsCase, bool inAnyCase) {
+            add(checked, checked, inItsCase, inAnyCase);
         };
         row("hello", true, true);
         row("HELLO", false, true);
@@ -151,18 +138,18 @@ private Q_SLOTS:
         row("\xF0\x9F\x98\x80", false, false);
         row("\xF0\x90\x90\x80\xF0\x90\x90\xA8", false, false);
         row("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D", false, false);
-        QTest::newRow("empty") << QString() << true << true;
-        QTest::newRow("99 letters") << QString(99, QLatin1Char('h')) << false << false;
-        QTest::newRow("100 letters") << QString(100, QLatin1Char('h')) << true << true;
-        QTest::newRow("NUL") << QString(QChar(0)) << true << true;
-        QTest::newRow("NUL inside") << word("he") + QChar(0) + word("lo") << true << true;
-        QTest::newRow("line break") << word("he\nlo") << true << true;
-        QTest::newRow("half a pair") << QString(QChar(0xd801)) << false << false;
+        add("empty", "", true, true);
+        add("99 letters", QString(99, QLatin1Char('h')), false, false);
+        add("100 letters", QString(100, QLatin1Char('h')), true, true);
+        add("NUL", QString(QChar(0)), true, true);
+        add("NUL inside", "he\0lo"_q, true, true);
+        add("line break", "he\nlo", true, true);
+        add("half a pair", QString(QChar(0xd801)), false, false);
     }
     void wordIsJudged()
     {
         QFETCH(QString, checked);
-        m_spelling->setDict(word("aa,bb"));
+        m_spelling->setDict("aa,bb"_q);
         // The second answer comes from memory, which a changed rule empties.
         for (int i = 0; i < 2; ++i) {
             m_spelling->setRegardCase(true);
@@ -180,89 +167,83 @@ private Q_SLOTS:
 
     void verdictsFollowTheDictionary()
     {
-        const QVector<QPair<const char *, int>> choices = {
-                {"aa", 0}, {"zz", 1}, {"aa", 0}, {"bb,aa", 1}};
-        for (const auto &choice : choices) {
-            m_spelling->setDict(word(choice.first));
-            QCOMPARE(m_spelling->checkWord(word("hallo")), choice.second);
+        for (const auto &[dict, verdict] :
+             {std::pair("aa"_q, 0), {"zz"_q, 1}, {"aa"_q, 0}, {"bb,aa"_q, 1}}) {
+            m_spelling->setDict(dict);
+            QCOMPARE(m_spelling->checkWord("hallo"_q), verdict);
         }
     }
 
     void suggestionsTakeTurnsAndTheUsersChoiceComesFirst()
     {
-        m_spelling->setDict(word("aa,bb"));
-        const QString wrong = word("hxy");
+        m_spelling->setDict("aa,bb"_q);
+        const QString wrong = "hxy"_q;
         QCOMPARE(m_spelling->suggestionList(wrong),
-                 QStringList(
-                         {word("hello"), word("hallo"), word("hall"), word("Hemd"), word("host")}));
-        m_spelling->replaceWord(wrong, word("host"));
-        QCOMPARE(m_spelling->suggestionList(wrong).mid(0, 2),
-                 QStringList({word("host"), word("hello")}));
-        m_spelling->replaceWord(wrong, word("hugo & co"));
+                 QStringList({"hello"_q, "hallo"_q, "hall"_q, "Hemd"_q, "host"_q}));
+        m_spelling->replaceWord(wrong, "host"_q);
+        QCOMPARE(m_spelling->suggestionList(wrong).mid(0, 2), QStringList({"host"_q, "hello"_q}));
+        m_spelling->replaceWord(wrong, "hugo & co"_q);
         m_spelling->replaceWord(wrong, QString());
         QCOMPARE(m_spelling->suggestionList(wrong).mid(0, 2),
-                 QStringList({word("hugo & co"), word("hello")}));
+                 QStringList({"hugo & co"_q, "hello"_q}));
 
-        QCOMPARE(m_spelling->suggestionList(word("i\xE2\x80\x99")),
-                 QStringList(word("it\xE2\x80\x99s")));
+        QCOMPARE(m_spelling->suggestionList("i\xE2\x80\x99"_q), QStringList("it\xE2\x80\x99s"_q));
         for (const QString &strange : {QString(), QString(QChar(0)), QString(100, u'h')})
             QCOMPARE(m_spelling->suggestionList(strange), QStringList());
     }
 
     void suggestionsAreFoundInTheBackground()
     {
-        m_spelling->setDict(word("aa,bb"));
+        m_spelling->setDict("aa,bb"_q);
         QCoreApplication::processEvents(); // What earlier tests have left.
         QSignalSpy ready(m_spelling, &OmSpelling::suggestionsReady);
         WordListBackend::hold().lock();
-        QCOMPARE(m_spelling->checkWord(word("bxx")), 0);
-        QVERIFY(!m_spelling->prepareSuggestions(word("bxx"), 1));
+        QCOMPARE(m_spelling->checkWord("bxx"_q), 0);
+        QVERIFY(!m_spelling->prepareSuggestions("bxx"_q, 1));
         // Neither more work nor a thread that is busy holds up a check.
         for (int i = 0; i < 1000; ++i)
-            QCOMPARE(m_spelling->checkWord(word("nxx%1").arg(i)), 0);
-        QVERIFY(!m_spelling->prepareSuggestions(word("sxx")));
+            QCOMPARE(m_spelling->checkWord("nxx%1"_q.arg(i)), 0);
+        QVERIFY(!m_spelling->prepareSuggestions("sxx"_q));
         WordListBackend::hold().unlock();
 
         // What is asked for goes before what was begun in advance.
-        QTRY_VERIFY_WITH_TIMEOUT(ready.contains({word("sxx")}), 20000);
-        QVERIFY(ready.indexOf({word("sxx")}) <= 1);
-        QVERIFY(m_spelling->prepareSuggestions(word("bxx"), 5000));
-        QCOMPARE(m_spelling->suggestionList(word("bxx")), QStringList(word("Berlin")));
+        QTRY_VERIFY_WITH_TIMEOUT(ready.contains({"sxx"_q}), 20000);
+        QVERIFY(ready.indexOf({"sxx"_q}) <= 1);
+        QVERIFY(m_spelling->prepareSuggestions("bxx"_q, 5000));
+        QCOMPARE(m_spelling->suggestionList("bxx"_q), QStringList("Berlin"_q));
     }
 
     void addedWordIsCorrectAndSuggestedForGood()
     {
-        m_spelling->setDict(word("aa"));
-        const QString name = word("zwölf\xE2\x80\x99n");
+        m_spelling->setDict("aa"_q);
+        const QString name = "zwölf\xE2\x80\x99n"_q;
         QCOMPARE(m_spelling->checkWord(name), 0);
-        for (const QString &added : {name, QString(), word("x\ny"), QString(100, u'x')})
+        for (const QString &added : {name, QString(), "x\ny"_q, QString(100, u'x')})
             m_spelling->addToDictionary(added);
         QCOMPARE(m_spelling->checkWord(name), 1);
-        QCOMPARE(m_spelling->suggestionList(word("zw")), QStringList(word("zwölf'n")));
-        m_spelling->setDict(word("bb"));
+        QCOMPARE(m_spelling->suggestionList("zw"_q), QStringList("zwölf'n"_q));
+        m_spelling->setDict("bb"_q);
         QCOMPARE(m_spelling->checkWord(name), 1);
-        QCOMPARE(m_spelling->suggestionList(word("zw")), QStringList(word("zwölf'n")));
-        m_spelling->replaceWord(word("hxy"), word("hall"));
+        QCOMPARE(m_spelling->suggestionList("zw"_q), QStringList("zwölf'n"_q));
+        m_spelling->replaceWord("hxy"_q, "hall"_q);
         m_spelling->sync();
 
         const PersonalWords later(personalFolder());
         QVERIFY(later.contains(name, true));
-        QVERIFY(!later.contains(word("x"), true));
-        QCOMPARE(later.replacement(word("hxy")), word("hall"));
+        QVERIFY(!later.contains("x"_q, true));
+        QCOMPARE(later.replacement("hxy"_q), "hall"_q);
     }
 
     void personalWordIsKnownInItsCapitalisations()
     {
         QTemporaryDir folder;
         PersonalWords words(folder.path());
-        words.addWord(word("kilo"));
-        words.addWord(word("iPhone"));
-        for (const char *known : {"kilo", "Kilo", "KILO", "iPhone"})
-            QVERIFY(words.contains(word(known), true));
-        for (const char *unknown : {"kILO", "iphone", "IPHONE"}) {
-            QVERIFY(!words.contains(word(unknown), true));
-            QVERIFY(words.contains(word(unknown), false));
-        }
+        words.addWord("kilo"_q);
+        words.addWord("iPhone"_q);
+        for (const QString &known : {"kilo"_q, "Kilo"_q, "KILO"_q, "iPhone"_q})
+            QVERIFY(words.contains(known, true));
+        for (const QString &unknown : {"kILO"_q, "iphone"_q, "IPHONE"_q})
+            QVERIFY(!words.contains(unknown, true) && words.contains(unknown, false));
     }
 
     void twoProgramsAddWithoutLoss()
@@ -270,29 +251,29 @@ private Q_SLOTS:
         QTemporaryDir folder;
         QProcess other;
         other.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--add"), folder.path(), QStringLiteral("theirs")});
+                    {"--add"_q, folder.path(), "theirs"_q});
         QVERIFY(other.waitForStarted());
-        addWords(folder.path(), QStringLiteral("ours"));
+        addWords(folder.path(), "ours"_q);
         QVERIFY(other.waitForFinished(120'000));
 
         const PersonalWords words(folder.path());
         QCOMPARE(words.words().size(), 2 * kAdditions);
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(word("personal.txt")));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("personal.txt"_q));
     }
 
     void strangePersonalFilesAreLeftAlone()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("personal.txt"));
+        const QString path = folder.filePath("personal.txt"_q);
         const QByteArray strange = "\xEF\xBB\xBFgood\r\n\r\n\xFF\xFEz\nlast";
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(strange);
         file.close();
         PersonalWords words(folder.path());
-        QVERIFY(words.contains(word("good"), true) && words.contains(word("last"), true));
-        words.addWord(word("new"));
-        words.addWord(word("good"));
+        QVERIFY(words.contains("good"_q, true) && words.contains("last"_q, true));
+        words.addWord("new"_q);
+        words.addWord("good"_q);
         words.wordFile()->save();
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), QByteArray("\xFF\xFEz\nlast\nnew\ngood\n"));
@@ -300,16 +281,16 @@ private Q_SLOTS:
 
         // What cannot be read is not overwritten; the words last until the program ends.
         QVERIFY(file.remove());
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("personal.txt")));
+        QVERIFY(QDir(folder.path()).mkdir("personal.txt"_q));
         PersonalWords unreadable(folder.path());
         QCOMPARE(unreadable.words(), QStringList());
-        unreadable.addWord(word("kept"));
+        unreadable.addWord("kept"_q);
         unreadable.wordFile()->save();
-        QVERIFY(unreadable.contains(word("kept"), true));
+        QVERIFY(unreadable.contains("kept"_q, true));
         QVERIFY(QFileInfo(path).isDir());
-        QVERIFY(QDir(folder.path()).rmdir(QStringLiteral("personal.txt")));
+        QVERIFY(QDir(folder.path()).rmdir("personal.txt"_q));
         unreadable.wordFile()->save();
-        QVERIFY(PersonalWords(folder.path()).contains(word("kept"), true));
+        QVERIFY(PersonalWords(folder.path()).contains("kept"_q, true));
     }
 
 private:

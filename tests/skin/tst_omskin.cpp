@@ -4,10 +4,6 @@
 
 #include <ombrin/OmSkin.h>
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-
 namespace {
 
 constexpr const char *kGroups[] = {"Active", "Disabled", "Inactive"};
@@ -39,8 +35,7 @@ QByteArray paletteFile(const QVector<int> &groups)
 
 QString testData(const char *name)
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/testdata/")
-           + QLatin1String(name);
+    return QCoreApplication::applicationDirPath() + "/testdata/"_q + QLatin1String(name);
 }
 
 QByteArray contentsOf(const QString &path)
@@ -61,9 +56,9 @@ private Q_SLOTS:
     void initTestCase()
     {
 #ifdef Q_OS_WIN
-        const QString program = QStringLiteral("omskin_probe.exe");
+        const QString program = "omskin_probe.exe"_q;
 #else
-        const QString program = QStringLiteral("omskin_probe");
+        const QString program = "omskin_probe"_q;
 #endif
         QVERIFY(m_folder.isValid());
         m_probe = m_folder.filePath(program);
@@ -73,28 +68,25 @@ private Q_SLOTS:
 
     void firstInitInstallsEverything()
     {
-        const QString hostSheet = QStringLiteral("QLabel { color: blue }");
-        const QJsonArray report =
-                run({QStringLiteral("sheet=") + hostSheet, QStringLiteral("init=true")});
+        const QString hostSheet = "QLabel { color: blue }"_q;
+        const QJsonArray report = run({"sheet="_q + hostSheet, "init=true"_q});
         QCOMPARE(report.size(), 2);
         const QJsonObject before = report.first().toObject();
-        QCOMPARE(before.value(QStringLiteral("useSkin")), QJsonValue(true));
-        QCOMPARE(before.value(QStringLiteral("styles")), QJsonValue(QJsonArray()));
+        QCOMPARE(before.value("useSkin"_q), QJsonValue(true));
+        QCOMPARE(before.value("styles"_q), QJsonValue(QJsonArray()));
         const QJsonObject skinned = report.last().toObject();
-        QCOMPARE(skinned.value(QStringLiteral("useSkin")), QJsonValue(true));
+        QCOMPARE(skinned.value("useSkin"_q), QJsonValue(true));
         compareColours(skinned, {0, 1, 2});
-        QCOMPARE(skinned.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
-        QCOMPARE(skinned.value(QStringLiteral("styleSheet")).toString(),
-                 QString::fromUtf8(kStyleSheet));
-        const QJsonArray pictures = skinned.value(QStringLiteral("pictures")).toArray();
+        QCOMPARE(skinned.value("styles"_q), QJsonValue(QJsonArray{1}));
+        QCOMPARE(skinned.value("styleSheet"_q).toString(), QString::fromUtf8(kStyleSheet));
+        const QJsonArray pictures = skinned.value("pictures"_q).toArray();
         for (const char *name : {"plain", "plain@2x", "plain@3x", "suffixed.png", "more"})
             QVERIFY2(pictures.contains(QLatin1String(name)), name);
 
         // Without skinning only the style sheet is left out.
-        const QJsonObject plain =
-                runAndSeeLast({QStringLiteral("sheet=") + hostSheet, QStringLiteral("init=false")});
-        QCOMPARE(plain.value(QStringLiteral("useSkin")), QJsonValue(false));
-        QCOMPARE(plain.value(QStringLiteral("styleSheet")).toString(), hostSheet);
+        const QJsonObject plain = runAndSeeLast({"sheet="_q + hostSheet, "init=false"_q});
+        QCOMPARE(plain.value("useSkin"_q), QJsonValue(false));
+        QCOMPARE(plain.value("styleSheet"_q).toString(), hostSheet);
         for (const char *same : {"styles", "palette", "pictures"})
             QCOMPARE(plain.value(QLatin1String(same)), skinned.value(QLatin1String(same)));
     }
@@ -103,38 +95,36 @@ private Q_SLOTS:
     {
         for (const QString &first : ombrin::test::words("init=true init=false")) {
             // Without the files nothing can be loaded again without showing.
-            const QJsonArray report =
-                    run({first, QStringLiteral("remove"), QStringLiteral("init=false"),
-                         QStringLiteral("init=true")});
+            const QJsonArray report = run({first, "remove"_q, "init=false"_q, "init=true"_q});
             QCOMPARE(report.size(), 4);
             QJsonObject before = report.first().toObject();
-            QCOMPARE(report.at(2).toObject().value(QStringLiteral("useSkin")), QJsonValue(false));
+            QCOMPARE(report.at(2).toObject().value("useSkin"_q), QJsonValue(false));
             QJsonObject after = report.last().toObject();
-            QCOMPARE(after.value(QStringLiteral("useSkin")), QJsonValue(true));
+            QCOMPARE(after.value("useSkin"_q), QJsonValue(true));
             for (const char *flag : {"step", "useSkin"}) {
                 before.remove(QLatin1String(flag));
                 after.remove(QLatin1String(flag));
             }
             QCOMPARE(after, before);
-            QCOMPARE(after.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
+            QCOMPARE(after.value("styles"_q), QJsonValue(QJsonArray{1}));
         }
     }
 
     void initBeforeTheApplicationDoesNotCount()
     {
-        const QJsonArray report = run({QStringLiteral("init=false"), QStringLiteral("application"),
-                                       QStringLiteral("nothing"), QStringLiteral("init=true")});
+        const QJsonArray report =
+                run({"init=false"_q, "application"_q, "nothing"_q, "init=true"_q});
         QCOMPARE(report.size(), 2);
         const QJsonObject before = report.first().toObject();
-        QCOMPARE(before.value(QStringLiteral("useSkin")), QJsonValue(false));
-        QCOMPARE(before.value(QStringLiteral("styles")), QJsonValue(QJsonArray()));
+        QCOMPARE(before.value("useSkin"_q), QJsonValue(false));
+        QCOMPARE(before.value("styles"_q), QJsonValue(QJsonArray()));
         compareColours(report.last().toObject(), {0, 1, 2});
     }
 
     void sectionsMissingInThePaletteGiveInvalidColours()
     {
         write("default/Global_Palette.ini", paletteFile({0}));
-        compareColours(runAndSeeLast({QStringLiteral("init=true"), QStringLiteral("paint")}), {0});
+        compareColours(runAndSeeLast({"init=true"_q, "paint"_q}), {0});
     }
 
     void coloursAreReadAsQColorReadsThem()
@@ -149,11 +139,9 @@ private Q_SLOTS:
         for (const auto &[role, text, color] : examples)
             file += QByteArray(role) + '=' + text + '\n';
         write("default/Global_Palette.ini", file);
-        const QJsonObject palette = runAndSeeLast({QStringLiteral("init=true")})
-                                            .value(QStringLiteral("palette"))
-                                            .toObject();
+        const QJsonObject palette = runAndSeeLast({"init=true"_q}).value("palette"_q).toObject();
         for (const auto &[role, text, color] : examples)
-            QCOMPARE(palette.value(QStringLiteral("Active/") + QLatin1String(role)).toString(),
+            QCOMPARE(palette.value("Active/"_q + QLatin1String(role)).toString(),
                      QLatin1String(color));
     }
 
@@ -169,10 +157,10 @@ private Q_SLOTS:
 
     void brokenSkinsStopNothing_data()
     {
-        QTest::addColumn<QString>("damage");
+        const auto row = columns<QString>("damage");
         for (const char *damage :
              {"no skin", "empty files", "junk files", "folders for files", "cut resource files"})
-            QTest::newRow(damage) << QString::fromLatin1(damage);
+            row(damage, damage);
     }
     void brokenSkinsStopNothing()
     {
@@ -183,29 +171,28 @@ private Q_SLOTS:
         for (int i = 0; i < 5000; ++i)
             junk.append(static_cast<char>(i * i * 31 + i / 7));
         for (const char *file : kFiles) {
-            if (damage == QLatin1String("empty files"))
+            if (damage == "empty files"_q)
                 write(file, QByteArray());
-            else if (damage == QLatin1String("junk files"))
+            else if (damage == "junk files"_q)
                 write(file, QByteArray(file).endsWith(".res") ? "qres" + junk : junk);
-            else if (damage == QLatin1String("folders for files"))
+            else if (damage == "folders for files"_q)
                 makeFolder(file);
         }
-        if (damage == QLatin1String("no skin"))
-            QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
+        if (damage == "no skin"_q)
+            QDir(m_folder.filePath("skins"_q)).removeRecursively();
 
-        const bool onlyResources = damage == QLatin1String("cut resource files");
+        const bool onlyResources = damage == "cut resource files"_q;
         if (onlyResources) {
             const QByteArray whole = contentsOf(testData("pictures.res"));
             write("default/default.res", whole.chopped(20));
             write("ombrin.res", whole.left(whole.size() / 2));
         }
-        const QJsonObject findings =
-                runAndSeeLast({QStringLiteral("init=true"), QStringLiteral("paint")});
+        const QJsonObject findings = runAndSeeLast({"init=true"_q, "paint"_q});
         compareColours(findings, onlyResources ? QVector<int>{0, 1, 2} : QVector<int>());
-        QCOMPARE(findings.value(QStringLiteral("styles")), QJsonValue(QJsonArray{1}));
-        QCOMPARE(findings.value(QStringLiteral("pictures")), QJsonValue(QJsonArray()));
-        if (damage != QLatin1String("junk files")) {
-            QCOMPARE(findings.value(QStringLiteral("styleSheet")).toString(),
+        QCOMPARE(findings.value("styles"_q), QJsonValue(QJsonArray{1}));
+        QCOMPARE(findings.value("pictures"_q), QJsonValue(QJsonArray()));
+        if (damage != "junk files"_q) {
+            QCOMPARE(findings.value("styleSheet"_q).toString(),
                      onlyResources ? QString::fromUtf8(kStyleSheet) : QString());
         }
     }
@@ -214,11 +201,8 @@ private Q_SLOTS:
     // others.
     void skinsElsewhereAreFoundInOrder()
     {
-        const QStringList steps{
-                QStringLiteral("search="),
-                QStringLiteral("search=") + m_folder.filePath(QStringLiteral("none")),
-                QStringLiteral("search=") + m_folder.filePath(QStringLiteral("added")),
-                QStringLiteral("init=true")};
+        const QStringList steps{"search="_q, "search="_q + m_folder.filePath("none"_q),
+                                "search="_q + m_folder.filePath("added"_q), "init=true"_q};
         // The last place first: each one found outdoes those before. On Windows the system's data
         // folders cannot be chosen.
 #ifdef Q_OS_WIN
@@ -226,15 +210,15 @@ private Q_SLOTS:
 #else
         const QStringList places = ombrin::test::words("data/ombrin/skins added named skins");
 #endif
-        QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
+        QDir(m_folder.filePath("skins"_q)).removeRecursively();
         for (const QString &place : places) {
-            QVERIFY(QDir(m_folder.path()).mkpath(place + QStringLiteral("/default")));
-            QFile file(m_folder.filePath(place + QStringLiteral("/default/default.css")));
+            QVERIFY(QDir(m_folder.path()).mkpath(place + "/default"_q));
+            QFile file(m_folder.filePath(place + "/default/default.css"_q));
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(place.toUtf8()) > 0);
             file.close();
             const QJsonObject findings = runAndSeeLast(steps);
-            QCOMPARE(findings.value(QStringLiteral("folder")).toString(), m_folder.filePath(place));
-            QCOMPARE(findings.value(QStringLiteral("styleSheet")).toString(), place);
+            QCOMPARE(findings.value("folder"_q).toString(), m_folder.filePath(place));
+            QCOMPARE(findings.value("styleSheet"_q).toString(), place);
             compareColours(findings, {});
         }
         for (const QString &place : places)
@@ -243,12 +227,12 @@ private Q_SLOTS:
 
     void picturesCanBeRegisteredAlone()
     {
-        const QJsonArray report = run({QStringLiteral("nothing"), QStringLiteral("pictures")});
+        const QJsonArray report = run({"nothing"_q, "pictures"_q});
         QJsonObject before = report.first().toObject();
         QJsonObject after = report.last().toObject();
-        const QString pictures = QStringLiteral("pictures");
-        QVERIFY(after.value(pictures).toArray().contains(QStringLiteral("plain")));
-        for (const QString &changed : {QStringLiteral("step"), pictures}) {
+        const QString pictures = "pictures"_q;
+        QVERIFY(after.value(pictures).toArray().contains("plain"_q));
+        for (const QString &changed : {"step"_q, pictures}) {
             before.remove(changed);
             after.remove(changed);
         }
@@ -257,7 +241,7 @@ private Q_SLOTS:
 
     void cutResourceFilesAreRefused()
     {
-        const QString path = m_folder.filePath(QStringLiteral("skins/ombrin.res"));
+        const QString path = m_folder.filePath("skins/ombrin.res"_q);
         QVERIFY(ombrin::isIntactResourceFile(path));
         QFile file(path);
         for (qint64 size = file.size() - 1; size >= 0; --size) {
@@ -270,23 +254,19 @@ private Q_SLOTS:
 
     void resourceFilesPointingOutsideAreRefused_data()
     {
-        QTest::addColumn<bool>(
-                "inTree"); // Counted from the tree of files, else from the beginning.
-        QTest::addColumn<int>("offset");
-        QTest::addColumn<QByteArray>("bytes");
-
+        // inTree: counted from the tree of files, else from the beginning
+        const auto row = columns<bool, int, QByteArray>("inTree", "offset", "bytes");
         const QByteArray huge("\x7f\xff\xff\xff", 4);
-        QTest::newRow("no resource file") << false << 0 << QByteArray("qser");
-        QTest::newRow("tree outside") << false << 8 << huge;
-        QTest::newRow("contents outside") << false << 12 << huge;
-        QTest::newRow("names outside") << false << 16 << huge;
-        QTest::newRow("too many files") << true << 6 << huge;
-        QTest::newRow("more files than there are nodes")
-                << true << 6 << QByteArray("\0\0\x01\0", 4);
-        QTest::newRow("first file outside") << true << 10 << huge;
-        QTest::newRow("folder within itself") << true << 10 << QByteArray(4, '\0');
-        QTest::newRow("name of a file outside") << true << 14 << huge;
-        QTest::newRow("contents of a file outside") << true << 14 + 10 << huge;
+        row("no resource file", false, 0, QByteArray("qser"));
+        row("tree outside", false, 8, huge);
+        row("contents outside", false, 12, huge);
+        row("names outside", false, 16, huge);
+        row("too many files", true, 6, huge);
+        row("more files than there are nodes", true, 6, QByteArray("\0\0\x01\0", 4));
+        row("first file outside", true, 10, huge);
+        row("folder within itself", true, 10, QByteArray(4, '\0'));
+        row("name of a file outside", true, 14, huge);
+        row("contents of a file outside", true, 14 + 10, huge);
     }
     void resourceFilesPointingOutsideAreRefused()
     {
@@ -297,16 +277,15 @@ private Q_SLOTS:
         const int tree = static_cast<int>(qFromBigEndian<quint32>(whole.constData() + 8));
         whole.replace((inTree ? tree : 0) + offset, bytes.size(), bytes);
         write("ombrin.res", whole);
-        QVERIFY(!ombrin::isIntactResourceFile(
-                m_folder.filePath(QStringLiteral("skins/ombrin.res"))));
+        QVERIFY(!ombrin::isIntactResourceFile(m_folder.filePath("skins/ombrin.res"_q)));
     }
 
 protected:
     // A sound skin.
     void setUp() override
     {
-        QDir(m_folder.filePath(QStringLiteral("skins"))).removeRecursively();
-        QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("skins/default")));
+        QDir(m_folder.filePath("skins"_q)).removeRecursively();
+        QVERIFY(QDir(m_folder.path()).mkpath("skins/default"_q));
         write("default/Global_Palette.ini", paletteFile({0, 1, 2}));
         write("default/default.css", kStyleSheet);
         write("default/default.res", contentsOf(testData("pictures.res")));
@@ -317,23 +296,20 @@ private:
     // Empty when the program did not come to its end.
     QJsonArray run(const QStringList &steps)
     {
-        const QString report = m_folder.filePath(QStringLiteral("report.json"));
+        const QString report = m_folder.filePath("report.json"_q);
         QFile::remove(report);
         QProcess process;
         // On Windows the libraries lie beside the program this one was copied from.
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        const QString variable = QStringLiteral("PATH");
+        const QString variable = "PATH"_q;
         environment.insert(variable,
                            QDir::toNativeSeparators(QCoreApplication::applicationDirPath())
                                    + QDir::listSeparator() + environment.value(variable));
         // No skin but those of the test.
-        environment.insert(QStringLiteral("XDG_DATA_HOME"),
-                           m_folder.filePath(QStringLiteral("none")));
-        environment.insert(QStringLiteral("XDG_DATA_DIRS"),
-                           m_folder.filePath(QStringLiteral("data")));
-        environment.insert(QStringLiteral("OMBRIN_SKIN_PATH"),
-                           m_folder.filePath(QStringLiteral("none")) + QDir::listSeparator()
-                                   + m_folder.filePath(QStringLiteral("named")));
+        environment.insert("XDG_DATA_HOME"_q, m_folder.filePath("none"_q));
+        environment.insert("XDG_DATA_DIRS"_q, m_folder.filePath("data"_q));
+        environment.insert("OMBRIN_SKIN_PATH"_q, m_folder.filePath("none"_q) + QDir::listSeparator()
+                                                         + m_folder.filePath("named"_q));
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(m_probe, QStringList(report) + steps);
@@ -353,27 +329,25 @@ private:
 
     void write(const char *name, const QByteArray &bytes) const
     {
-        QFile file(m_folder.filePath(QStringLiteral("skins/") + QLatin1String(name)));
+        QFile file(m_folder.filePath("skins/"_q + QLatin1String(name)));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
 
     void makeFolder(const char *name) const
     {
-        const QString path = m_folder.filePath(QStringLiteral("skins/") + QLatin1String(name));
+        const QString path = m_folder.filePath("skins/"_q + QLatin1String(name));
         QVERIFY(QFile::remove(path) && QDir().mkpath(path));
     }
 
     static void compareColours(const QJsonObject &findings, const QVector<int> &validGroups)
     {
-        const QJsonObject palette = findings.value(QStringLiteral("palette")).toObject();
+        const QJsonObject palette = findings.value("palette"_q).toObject();
         for (int group = 0; group < kGroupCount; ++group) {
             for (int role = 0; role < kRoleCount; ++role) {
                 const QString key = QLatin1String(kGroups[group]) + QLatin1Char('/')
                                     + QLatin1String(kRoles[role]);
                 QCOMPARE(key + palette.value(key).toString(),
-                         key
-                                 + (validGroups.contains(group) ? colorOf(group, role)
-                                                                : QStringLiteral("invalid")));
+                         key + (validGroups.contains(group) ? colorOf(group, role) : "invalid"_q));
             }
         }
     }

@@ -14,8 +14,6 @@
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
 
-Q_DECLARE_METATYPE(QStyle::PixelMetric)
-
 using namespace ombrin::test;
 using ombrin::OmStyle2;
 
@@ -32,8 +30,8 @@ QStyle *g_earlyStyle = nullptr;
 
 QStyle *makePlainStyle()
 {
-    QStyle *style = QStyleFactory::create(QStringLiteral("plastique"));
-    return style ? style : QStyleFactory::create(QStringLiteral("fusion"));
+    QStyle *style = QStyleFactory::create("plastique"_q);
+    return style ? style : QStyleFactory::create("fusion"_q);
 }
 
 template <typename Enum>
@@ -89,7 +87,7 @@ private Q_SLOTS:
     {
         QVERIFY(g_earlyStyle);
         QCOMPARE(g_earlyStyle->pixelMetric(QStyle::PM_ScrollBarExtent), 16);
-        QCheckBox box(QStringLiteral("box"));
+        QCheckBox box("box"_q);
         box.setStyle(g_earlyStyle);
         box.setChecked(true);
         const QImage early = box.grab().toImage();
@@ -121,7 +119,7 @@ private Q_SLOTS:
     {
         QTreeWidget tree;
         tree.setStyle(m_style.get());
-        tree.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("item")}));
+        tree.addTopLevelItem(new QTreeWidgetItem({"item"_q}));
         tree.show();
         QSignalSpy activated(&tree, &QTreeWidget::activated);
         const QRect place = tree.visualItemRect(tree.topLevelItem(0));
@@ -150,7 +148,7 @@ private Q_SLOTS:
     {
         const auto geometries = [](QStyle *style) {
             QMainWindow window;
-            auto *dock = new QDockWidget(QStringLiteral("Dock"), &window);
+            auto *dock = new QDockWidget("Dock"_q, &window);
             dock->setWidget(new QWidget);
             window.addDockWidget(Qt::LeftDockWidgetArea, dock);
             setStyleOfTree(&window, style);
@@ -193,7 +191,7 @@ private Q_SLOTS:
         edit.setAttribute(Qt::WA_UnderMouse, false);
         edit.setStyle(nullptr);
         QApplication::setStyle(new OmStyle2);
-        qApp->setStyleSheet(QStringLiteral("QToolTip { color: red }"));
+        qApp->setStyleSheet("QToolTip { color: red }"_q);
         QCOMPARE(edges(), QVector<QColor>(4, QColor(189, 189, 189)));
         prepareApplication();
     }

@@ -3,16 +3,11 @@
 
 #include <ombrin/OmStyle2.h>
 
-#include <QtCore/QResource>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QScrollBar>
 
 #include <functional>
-
-Q_DECLARE_METATYPE(QStyle::ControlElement)
-Q_DECLARE_METATYPE(QStyle::State)
-Q_DECLARE_METATYPE(QStyle::SubControl)
 
 using namespace ombrin::test;
 using ombrin::OmStyle2;
@@ -35,19 +30,15 @@ class OmIconComboBox : public QComboBox
 namespace {
 
 constexpr QSize kGround(220, 220);
-constexpr QStyle::State kEnabled = QStyle::State_Enabled;
-constexpr QStyle::State kHover = QStyle::State_MouseOver;
 constexpr QStyle::State kNoState = QStyle::State_None;
-const QString kPictureOf[] = {QStringLiteral(":/scrollbar_vertical_right_"),
-                              QStringLiteral(":/scrollbar_vertical_left_"),
-                              QStringLiteral(":/scrollbar_horizontal_down_"),
-                              QStringLiteral(":/scrollbar_horizontal_up_"),
-                              QStringLiteral(":/scrollbar_horizontal_trackbar_"),
-                              QStringLiteral(":/scrollbar_vertical_trackbar_")};
+const QString kPictureOf[] = {
+        ":/scrollbar_vertical_right_"_q,      ":/scrollbar_vertical_left_"_q,
+        ":/scrollbar_horizontal_down_"_q,     ":/scrollbar_horizontal_up_"_q,
+        ":/scrollbar_horizontal_trackbar_"_q, ":/scrollbar_vertical_trackbar_"_q};
 
 QString skinFile()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/skins/default/default.res");
+    return QCoreApplication::applicationDirPath() + "/skins/default/default.res"_q;
 }
 
 QStyleOptionSlider scrollBar(const QRect &rect, Qt::Orientation orientation,
@@ -175,10 +166,8 @@ private Q_SLOTS:
 
     void scrollBarIsComposedOfItsParts_data()
     {
-        QTest::addColumn<int>("orientation");
-        QTest::addColumn<QStyle::State>("state");
-        QTest::addColumn<QStyle::SubControl>("active");
-        QTest::addColumn<int>("maximum");
+        columns<int, QStyle::State, QStyle::SubControl, int>("orientation", "state", "active",
+                                                             "maximum");
         const auto none = QStyle::SC_None;
         const auto end = QStyle::SC_ScrollBarAddLine;
         const auto slider = QStyle::SC_ScrollBarSlider;
@@ -206,8 +195,7 @@ private Q_SLOTS:
         bar.sliderPosition = qMin(maximum, 40);
         const auto drawPart = [&](QPainter *painter, int picture, QStyle::SubControl control) {
             const bool hover = active == control && (state & kHover);
-            const QString name = kPictureOf[picture]
-                                 + (hover ? QStringLiteral("hover") : QStringLiteral("normal"));
+            const QString name = kPictureOf[picture] + (hover ? "hover"_q : "normal"_q);
             painter->drawPixmap(part(bar, control), QPixmap(name));
         };
         const auto draw = [&](QPainter *painter) {
@@ -239,22 +227,18 @@ private Q_SLOTS:
 
     void comboBoxIsAFieldWithAnArrow_data()
     {
-        QTest::addColumn<QStyle::State>("state");
-        QTest::addColumn<QStyle::SubControl>("active");
-        QTest::addColumn<QString>("picture");
-        QTest::addColumn<QColor>("frame");
-        const auto row = [](const char *name, QStyle::State state, QStyle::SubControl active,
-                            const char *picture, int red, int green, int blue) {
-            QTest::newRow(name) << state << active << picture << QColor(red, green, blue);
-        };
+        const auto row = columns<QStyle::State, QStyle::SubControl, QString, QColor>(
+                "state", "active", "picture", "frame");
         const auto none = QStyle::SC_None;
         const auto arrow = QStyle::SC_ComboBoxArrow;
-        row("normal", kEnabled, none, "normal", 189, 189, 189);
-        row("under the mouse", kEnabled | kHover, none, "normal", 255, 193, 48);
-        row("arrow under the mouse", kEnabled | kHover, arrow, "hover", 255, 193, 48);
-        row("open", kEnabled | QStyle::State_On, none, "clicked", 189, 189, 189);
-        row("pressed", kEnabled | QStyle::State_Sunken | kHover, arrow, "clicked", 255, 193, 48);
-        row("disabled", kHover | QStyle::State_On, arrow, "disabled", 203, 203, 203);
+        const QColor grey(189, 189, 189);
+        const QColor orange(255, 193, 48);
+        row("normal", kEnabled, none, "normal", grey);
+        row("under the mouse", kEnabled | kHover, none, "normal", orange);
+        row("arrow under the mouse", kEnabled | kHover, arrow, "hover", orange);
+        row("open", kEnabled | QStyle::State_On, none, "clicked", grey);
+        row("pressed", kEnabled | QStyle::State_Sunken | kHover, arrow, "clicked", orange);
+        row("disabled", kHover | QStyle::State_On, arrow, "disabled", {203, 203, 203});
     }
 
     void comboBoxIsAFieldWithAnArrow()
@@ -268,7 +252,7 @@ private Q_SLOTS:
             box.subControls = QStyle::SC_All;
             box.activeSubControls = active;
             box.direction = direction;
-            box.currentText = QStringLiteral("not drawn here");
+            box.currentText = "not drawn here"_q;
             const auto draw = [&](QPainter *painter) {
                 painter->fillRect(box.rect, box.palette.color(QPalette::Base));
                 painter->setPen(frame);
@@ -276,7 +260,7 @@ private Q_SLOTS:
                 const QRect arrow = m_style.subControlRect(QStyle::CC_ComboBox, &box,
                                                            QStyle::SC_ComboBoxArrow, nullptr);
                 painter->drawPixmap(arrow.left(), (arrow.height() - 7) / 2,
-                                    QPixmap(QStringLiteral(":/combobox_arrow_") + picture));
+                                    QPixmap(":/combobox_arrow_"_q + picture));
             };
             QCOMPARE(drawn(QStyle::CC_ComboBox, box), painted(draw, kGround));
         }
@@ -304,7 +288,7 @@ private Q_SLOTS:
     {
         auto bar = makeOption<QStyleOptionTitleBar>(QRect(0, 0, 64, 24),
                                                     QStyle::State_Enabled | QStyle::State_Active);
-        bar.text = QStringLiteral("Title");
+        bar.text = "Title"_q;
         bar.titleBarState = Qt::WindowActive;
         bar.titleBarFlags = Qt::WindowTitleHint;
         bar.subControls = QStyle::SC_TitleBarLabel;

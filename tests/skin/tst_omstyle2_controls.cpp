@@ -5,16 +5,12 @@
 
 #include <limits>
 
-Q_DECLARE_METATYPE(QStyle::ControlElement)
-Q_DECLARE_METATYPE(QStyle::State)
-
 using namespace ombrin::test;
 using ombrin::OmStyle2;
 
 namespace {
 
 constexpr QSize kGround(130, 60);
-constexpr QStyle::State kEnabled = QStyle::State_Enabled;
 
 QStyleOptionProgressBar progressBar(const QRect &rect, Qt::Orientation orientation)
 {
@@ -54,11 +50,10 @@ private:
 private Q_SLOTS:
     void progressGrooveIsAThinStrip_data()
     {
-        QTest::addColumn<QRect>("bar");
-        QTest::addColumn<QRect>("strip");
-        QTest::newRow("at the origin") << QRect(0, 0, 100, 20) << QRect(2, 7, 96, 4);
-        QTest::newRow("elsewhere") << QRect(11, 9, 101, 23) << QRect(13, 18, 97, 4);
-        QTest::newRow("lower than the strip") << QRect(0, 10, 60, 3) << QRect(2, 9, 56, 4);
+        const auto row = columns<QRect, QRect>("bar", "strip");
+        row("at the origin", {0, 0, 100, 20}, {2, 7, 96, 4});
+        row("elsewhere", {11, 9, 101, 23}, {13, 18, 97, 4});
+        row("lower than the strip", {0, 10, 60, 3}, {2, 9, 56, 4});
     }
     void progressGrooveIsAThinStrip()
     {
@@ -81,19 +76,16 @@ private Q_SLOTS:
 
     void progressFillsItsShare_data()
     {
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<int>("maximum");
-        QTest::addColumn<int>("progress");
-        QTest::addColumn<int>("width");
+        const auto row = columns<int, int, int, int>("minimum", "maximum", "progress", "width");
         constexpr int lowest = std::numeric_limits<int>::min();
         constexpr int highest = std::numeric_limits<int>::max();
-        QTest::newRow("nothing done") << 0 << 100 << 0 << 0;
-        QTest::newRow("all done") << 0 << 100 << 100 << 96;
-        QTest::newRow("truncated") << 0 << 100 << 33 << 31;
-        QTest::newRow("below minimum") << 10 << 20 << 5 << 0;
-        QTest::newRow("whole range of numbers") << lowest << highest << highest << 96;
-        QTest::newRow("busy") << 0 << 0 << 1 << 0;
-        QTest::newRow("range upside down") << 100 << 0 << 50 << 0;
+        row("nothing done", 0, 100, 0, 0);
+        row("all done", 0, 100, 100, 96);
+        row("truncated", 0, 100, 33, 31);
+        row("below minimum", 10, 20, 5, 0);
+        row("whole range of numbers", lowest, highest, highest, 96);
+        row("busy", 0, 0, 1, 0);
+        row("range upside down", 100, 0, 50, 0);
     }
     void progressFillsItsShare()
     {
@@ -124,7 +116,7 @@ private Q_SLOTS:
     {
         auto bar = progressBar(QRect(3, 4, 100, 20), Qt::Horizontal);
         bar.textVisible = true;
-        bar.text = QStringLiteral("40%");
+        bar.text = "40%"_q;
         const auto plain = [&](QPainter *painter) {
             m_style.QCommonStyle::drawControl(QStyle::CE_ProgressBarLabel, &bar, painter, nullptr);
         };
@@ -139,7 +131,7 @@ private Q_SLOTS:
         for (const auto &[state, marked] : states) {
             auto item = makeOption<QStyleOptionMenuItem>(QRect(6, 5, 70, 24), state);
             item.menuItemType = QStyleOptionMenuItem::Normal;
-            item.text = QStringLiteral("&File");
+            item.text = "&File"_q;
             const QColor ground = item.palette.color(QPalette::Button).darker(110);
             const QRect mark = marked ? item.rect : QRect();
             const auto draw = [&](QPainter *painter) {
@@ -155,7 +147,7 @@ private Q_SLOTS:
         for (const bool selected : {false, true}) {
             auto tab = makeOption<QStyleOptionToolBox>(QRect(5, 6, 80, 25), kEnabled);
             tab.state.setFlag(QStyle::State_Selected, selected);
-            tab.text = QStringLiteral("not drawn here");
+            tab.text = "not drawn here"_q;
             const QColor middle(selected ? qRgb(195, 195, 195) : qRgb(235, 235, 235));
             const QColor edge(selected ? qRgb(89, 89, 89) : qRgb(189, 189, 189));
             const QImage expected = painted(

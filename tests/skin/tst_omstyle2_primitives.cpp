@@ -3,16 +3,10 @@
 
 #include <ombrin/OmStyle2.h>
 
-Q_DECLARE_METATYPE(QStyle::PrimitiveElement)
-Q_DECLARE_METATYPE(QStyle::State)
-
 using namespace ombrin::test;
 using ombrin::OmStyle2;
 
 namespace {
-
-constexpr QStyle::State kEnabled = QStyle::State_Enabled;
-constexpr QStyle::State kHover = QStyle::State_MouseOver;
 
 const QColor kGrey(189, 189, 189);
 const QColor kDisabledGrey(203, 203, 203);
@@ -84,22 +78,18 @@ private:
 private Q_SLOTS:
     void frameIsOnePixelOfItsColour_data()
     {
-        QTest::addColumn<QStyle::PrimitiveElement>("element");
-        QTest::addColumn<QStyle::State>("state");
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<QColor>("color");
+        const auto row = columns<QStyle::PrimitiveElement, QStyle::State, QRect, QColor>(
+                "element", "state", "rect", "color");
 
         const QRect rect(5, 7, 40, 21);
-        QTest::newRow("frame") << QStyle::PE_Frame << kEnabled << rect << kGrey;
-        QTest::newRow("frame, disabled under the mouse")
-                << QStyle::PE_Frame << kHover << rect << kGrey;
-        QTest::newRow("frame, tiny") << QStyle::PE_Frame << kEnabled << QRect(3, 3, 2, 2) << kGrey;
-        QTest::newRow("line edit") << QStyle::PE_FrameLineEdit << kEnabled << rect << kGrey;
-        QTest::newRow("line edit under the mouse")
-                << QStyle::PE_FrameLineEdit << (kEnabled | kHover) << rect << kOrange;
-        QTest::newRow("line edit, disabled")
-                << QStyle::PE_FrameLineEdit << QStyle::State(QStyle::State_None) << rect
-                << kDisabledGrey;
+        row("frame", QStyle::PE_Frame, kEnabled, rect, kGrey);
+        row("frame, disabled under the mouse", QStyle::PE_Frame, kHover, rect, kGrey);
+        row("frame, tiny", QStyle::PE_Frame, kEnabled, {3, 3, 2, 2}, kGrey);
+        row("line edit", QStyle::PE_FrameLineEdit, kEnabled, rect, kGrey);
+        row("line edit under the mouse", QStyle::PE_FrameLineEdit, kEnabled | kHover, rect,
+            kOrange);
+        row("line edit, disabled", QStyle::PE_FrameLineEdit, QStyle::State(QStyle::State_None),
+            rect, kDisabledGrey);
     }
     void frameIsOnePixelOfItsColour()
     {
@@ -155,8 +145,7 @@ private Q_SLOTS:
 
     void checkBoxInEveryState_data()
     {
-        QTest::addColumn<QStyle::State>("state");
-        QTest::addColumn<QRect>("rect");
+        const auto row = columns<QStyle::State, QRect>("state", "rect");
         const QRect rect(6, 5, 13, 13);
         const QStyle::State checks[] = {QStyle::State_Off, QStyle::State_On,
                                         QStyle::State_NoChange};
@@ -166,9 +155,9 @@ private Q_SLOTS:
                 QTest::addRow("state %x", unsigned(check | rest)) << (check | rest) << rect;
         }
         const QStyle::State checked = kEnabled | QStyle::State_On;
-        QTest::newRow("scaled up") << checked << QRect(6, 5, 26, 26);
-        QTest::newRow("scaled unevenly") << (checked | kHover) << QRect(6, 5, 17, 20);
-        QTest::newRow("scaled down") << (checked | QStyle::State_Sunken) << QRect(6, 5, 8, 8);
+        row("scaled up", checked, {6, 5, 26, 26});
+        row("scaled unevenly", checked | kHover, {6, 5, 17, 20});
+        row("scaled down", checked | QStyle::State_Sunken, {6, 5, 8, 8});
     }
     void checkBoxInEveryState()
     {
@@ -184,22 +173,19 @@ private Q_SLOTS:
 
     void branchShowsAnArrowInTheMiddle_data()
     {
-        QTest::addColumn<QRect>("cell");
-        QTest::addColumn<QStyle::State>("state");
-        QTest::addColumn<int>("arrow");
-        QTest::addColumn<QRect>("place");
+        const auto row =
+                columns<QRect, QStyle::State, int, QRect>("cell", "state", "arrow", "place");
         const QStyle::State closed = kEnabled | QStyle::State_Children;
         const QStyle::State open = closed | QStyle::State_Open;
         const int right = QStyle::PE_IndicatorArrowRight;
         const int down = QStyle::PE_IndicatorArrowDown;
-        QTest::newRow("closed") << QRect(2, 3, 20, 20) << closed << right << QRect(7, 8, 10, 10);
-        QTest::newRow("open") << QRect(2, 3, 20, 20) << open << down << QRect(7, 8, 10, 10);
-        QTest::newRow("odd cell") << QRect(0, 0, 21, 17) << open << down << QRect(6, 4, 10, 10);
-        QTest::newRow("narrow") << QRect(2, 3, 8, 20) << closed << right << QRect(2, 3, 8, 20);
-        QTest::newRow("low") << QRect(2, 3, 20, 10) << open << down << QRect(2, 3, 20, 10);
-        QTest::newRow("no children")
-                << QRect(2, 3, 20, 20) << (kEnabled | QStyle::State_Open | QStyle::State_Item) << -1
-                << QRect();
+        row("closed", {2, 3, 20, 20}, closed, right, {7, 8, 10, 10});
+        row("open", {2, 3, 20, 20}, open, down, {7, 8, 10, 10});
+        row("odd cell", {0, 0, 21, 17}, open, down, {6, 4, 10, 10});
+        row("narrow", {2, 3, 8, 20}, closed, right, {2, 3, 8, 20});
+        row("low", {2, 3, 20, 10}, open, down, {2, 3, 20, 10});
+        row("no children", {2, 3, 20, 20}, kEnabled | QStyle::State_Open | QStyle::State_Item, -1,
+            {});
     }
     void branchShowsAnArrowInTheMiddle()
     {

@@ -8,7 +8,14 @@
 
 #include <memory>
 
+Q_DECLARE_METATYPE(QStyle::PrimitiveElement)
+Q_DECLARE_METATYPE(QStyle::State)
+Q_DECLARE_METATYPE(QStyle::SubControl)
+
 namespace ombrin::test {
+
+constexpr QStyle::State kEnabled = QStyle::State_Enabled;
+constexpr QStyle::State kHover = QStyle::State_MouseOver;
 
 /// A palette in which no two roles and no two groups share a colour.
 inline QPalette distinctPalette()

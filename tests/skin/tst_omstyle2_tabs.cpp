@@ -99,25 +99,9 @@ class tst_OmStyle2Tabs : public ombrin::test::TestCase
 private Q_SLOTS:
     void edgesFollowNeighboursAndAlignment_data()
     {
-        QTest::addColumn<bool>("selected");
-        QTest::addColumn<bool>("rightToLeft");
-        QTest::addColumn<int>("position");
-        QTest::addColumn<int>("neighbour");
-        QTest::addColumn<Qt::Alignment>("alignment");
-        // Where the lines end, from outside in.
-        QTest::addColumn<int>("leftDark");
-        QTest::addColumn<int>("leftLight");
-        QTest::addColumn<int>("rightLight");
-        QTest::addColumn<int>("rightDark");
-
-        const auto row = [](const char *name, bool selected, bool rightToLeft,
-                            Tab::TabPosition position, Tab::SelectedPosition neighbour,
-                            Qt::Alignment alignment, std::initializer_list<int> ends) {
-            QTestData &data = QTest::newRow(name) << selected << rightToLeft << int(position)
-                                                  << int(neighbour) << alignment;
-            for (const int end : ends)
-                data << end;
-        };
+        // ends: of the left dark and light, the right light and dark line
+        const auto row = columns<bool, bool, int, int, Qt::Alignment, QVector<int>>(
+                "selected", "rightToLeft", "position", "neighbour", "alignment", "ends");
         const Qt::Alignment left = Qt::AlignLeft;
         const Qt::Alignment right = Qt::AlignRight;
         const Qt::Alignment centre = Qt::AlignHCenter;
@@ -148,10 +132,7 @@ private Q_SLOTS:
         QFETCH(const int, position);
         QFETCH(const int, neighbour);
         QFETCH(const Qt::Alignment, alignment);
-        QFETCH(const int, leftDark);
-        QFETCH(const int, leftLight);
-        QFETCH(const int, rightLight);
-        QFETCH(const int, rightDark);
+        QFETCH(const QVector<int>, ends);
         Tab tab = makeTab(selected, Tab::TabPosition(position));
         tab.selectedPosition = Tab::SelectedPosition(neighbour);
         tab.direction = rightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
@@ -165,30 +146,26 @@ private Q_SLOTS:
         const int top = selected ? 3 : 5; // others stand two pixels lower
         QImage expected =
                 filledTab(selected, standardStops(selected ? button : button.darker(110)));
-        drawColumn(&expected, 5, top + 3, leftLight, light);
-        if (leftLight != kNone)
+        drawColumn(&expected, 5, top + 3, ends[1], light);
+        if (ends[1] != kNone)
             expected.setPixelColor(5, top + 1, light);
-        drawColumn(&expected, 4, top + 2, leftDark, deepened(dark, 1.9, 0.7));
-        drawColumn(&expected, 33, top + 2, rightDark, outline);
-        if (rightDark != kNone)
+        drawColumn(&expected, 4, top + 2, ends[0], deepened(dark, 1.9, 0.7));
+        drawColumn(&expected, 33, top + 2, ends[3], outline);
+        if (ends[3] != kNone)
             expected.setPixelColor(32, top + 1, selected ? highlight.darker(150) : outline);
-        drawColumn(&expected, 32, top + 3, rightLight, palette.color(QPalette::Window).darker(110));
+        drawColumn(&expected, 32, top + 3, ends[2], palette.color(QPalette::Window).darker(110));
         QCOMPARE(drawnTab(tab, alignment), expected);
     }
 
     // A tab on another side is the standing one, turned.
     void otherSidesAreTurned_data()
     {
-        QTest::addColumn<int>("shape");
-        QTest::addColumn<QTransform>("turn");
-        QTest::addColumn<QRect>("standing");
+        const auto row = columns<int, QTransform, QRect>("shape", "turn", "standing");
         const QRect transposed(3, 4, 24, 30);
-        QTest::newRow("south") << int(QTabBar::RoundedSouth)
-                               << QTransform().rotate(180).translate(0, -23).scale(-1, 1) << kTab;
-        QTest::newRow("west") << int(QTabBar::RoundedWest) << QTransform().rotate(270).scale(-1, 1)
-                              << transposed;
-        QTest::newRow("east") << int(QTabBar::RoundedEast)
-                              << QTransform().rotate(90).translate(0, -29) << transposed;
+        row("south", QTabBar::RoundedSouth, QTransform().rotate(180).translate(0, -23).scale(-1, 1),
+            kTab);
+        row("west", QTabBar::RoundedWest, QTransform().rotate(270).scale(-1, 1), transposed);
+        row("east", QTabBar::RoundedEast, QTransform().rotate(90).translate(0, -29), transposed);
     }
     void otherSidesAreTurned()
     {

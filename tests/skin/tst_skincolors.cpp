@@ -1,8 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QResource>
-#include <QtCore/QSettings>
 #include <QtGui/QColor>
 #include <QtGui/QImage>
 #include <QtWidgets/QLabel>
@@ -14,7 +11,7 @@ namespace {
 
 QString skinFolder()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/skins");
+    return QCoreApplication::applicationDirPath() + "/skins"_q;
 }
 
 double luminance(QRgb rgb)
@@ -44,16 +41,12 @@ class tst_SkinColors : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(skinFolder() + QStringLiteral("/default/default.res")));
-    }
+    void initTestCase() { QVERIFY(ombrin::test::registerPictures("skins/default/default.res")); }
 
     void titleTextIsReadable()
     {
         for (const bool active : {true, false}) {
-            const QImage band(active ? QStringLiteral(":/top_center_active")
-                                     : QStringLiteral(":/top_center_inactive"));
+            const QImage band(active ? ":/top_center_active"_q : ":/top_center_inactive"_q);
             QCOMPARE(band.height(), 30);
             for (int y = 2; y < 29; ++y)
                 QVERIFY(contrast(band.pixel(0, y), active ? qRgb(0, 0, 0) : qRgb(255, 255, 255))
@@ -63,7 +56,7 @@ private Q_SLOTS:
 
     void paletteIsComplete()
     {
-        const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
+        const QSettings palette(skinFolder() + "/default/Global_Palette.ini"_q,
                                 QSettings::IniFormat);
         const QStringList keys = palette.allKeys();
         QCOMPARE(keys.size(), 3 * 17);
@@ -86,24 +79,24 @@ private Q_SLOTS:
                                              {"LinkVisited", "Window"},
                                              {"LinkVisited", "Base"},
                                              {"LinkVisited", "AlternateBase"}};
-        const QSettings palette(skinFolder() + QStringLiteral("/default/Global_Palette.ini"),
+        const QSettings palette(skinFolder() + "/default/Global_Palette.ini"_q,
                                 QSettings::IniFormat);
         for (const QString &group : ombrin::test::words("Active Disabled Inactive")) {
             for (const auto &[text, ground] : kPairs) {
                 const double ratio = contrast(paletteColor(palette, group, QLatin1String(text)),
                                               paletteColor(palette, group, QLatin1String(ground)));
                 QVERIFY2(ratio >= 4.5, qPrintable(group + QLatin1Char(' ') + QLatin1String(text)
-                                                  + QLatin1String(" on ") + QLatin1String(ground)));
+                                                  + " on "_q + QLatin1String(ground)));
             }
         }
     }
 
     void styleSheetIsValid()
     {
-        QFile file(skinFolder() + QStringLiteral("/default/default.css"));
+        QFile file(skinFolder() + "/default/default.css"_q);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString styleSheet = QString::fromUtf8(file.readAll());
-        QVERIFY(styleSheet.contains(QLatin1String("QToolTip")));
+        QVERIFY(styleSheet.contains("QToolTip"_q));
 
         // Qt warns about a sheet that it cannot parse when the first widget is polished with it.
         qApp->setStyleSheet(styleSheet);

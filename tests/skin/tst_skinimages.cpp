@@ -1,6 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtCore/QResource>
 #include <QtGui/QColor>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -37,7 +36,7 @@ constexpr char stars[] = "empty half full empty_hover half_hover full_hover";
 constexpr char captureStates[] = " -hover -pressed";
 constexpr char seconds[] = "1 2 3 4 5 6 7 8 9 10";
 
-constexpr Group styleGroups[] = {
+constexpr Group groups[] = {
         {"top_left_%1", activations, 86, 30, Alpha::Cut},
         {"top_center_%1", activations, 8, 30, Alpha::Opaque},
         {"top_right_%1", activations, 88, 30, Alpha::Cut},
@@ -57,9 +56,6 @@ constexpr Group styleGroups[] = {
         {"scrollbar_horizontal_trackbar_%1", hoverStates, 48, 16, Alpha::Cut},
         {"scrollbar_vertical_trackbar_%1", hoverStates, 16, 48, Alpha::Cut},
         {"combobox_arrow_%1", comboStates, 15, 7, Alpha::Free},
-};
-
-constexpr Group widgetGroups[] = {
         {"header_%1", foldStates, 24, 24, Alpha::Free},
         {"treeview_%1", foldStates, 24, 24, Alpha::Free},
         {"%1-16",
@@ -85,35 +81,19 @@ QStringList namesOf(const Group &group)
     return names;
 }
 
-/// Calls \a visit with every group of pictures.
-void forEachGroup(const std::function<void(const Group &)> &visit)
-{
-    for (const Group &group : styleGroups)
-        visit(group);
-    for (const Group &group : widgetGroups)
-        visit(group);
-}
-
 QString densityName(const QString &name, int density)
 {
     if (density == 1)
         return name;
-    const QString mark = QStringLiteral("@%1x").arg(density);
-    if (!name.endsWith(QLatin1String(".png")))
+    const QString mark = "@%1x"_q.arg(density);
+    if (!name.endsWith(".png"_q))
         return name + mark;
-    return name.chopped(4) + mark + QStringLiteral(".png");
-}
-
-QString skinFile(const char *name)
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/skins/")
-           + QString::fromLatin1(name);
+    return name.chopped(4) + mark + ".png"_q;
 }
 
 QImage load(const QString &name, int density = 1)
 {
-    return QImage(QStringLiteral(":/") + densityName(name, density))
-            .convertToFormat(QImage::Format_ARGB32);
+    return QImage(":/"_q + densityName(name, density)).convertToFormat(QImage::Format_ARGB32);
 }
 
 bool allPixels(const QImage &image, const std::function<bool(int x, int y)> &holds)
@@ -163,13 +143,13 @@ class tst_SkinImages : public ombrin::test::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(QResource::registerResource(skinFile("default/default.res")));
-        QVERIFY(QResource::registerResource(skinFile("ombrin.res")));
+        QVERIFY(ombrin::test::registerPictures("skins/default/default.res"));
+        QVERIFY(ombrin::test::registerPictures("skins/ombrin.res"));
     }
 
     void everyPictureIsThereInEveryDensity()
     {
-        forEachGroup([](const Group &group) {
+        for (const Group &group : groups) {
             for (const QString &name : namesOf(group)) {
                 for (const int density : densities) {
                     const QImage image = load(name, density);
@@ -184,13 +164,12 @@ private Q_SLOTS:
                     QVERIFY2(isOpaque == (group.alpha == Alpha::Opaque), where);
                 }
             }
-        });
+        }
     }
 
     void framePiecesMeetWithoutSeam_data()
     {
-        QTest::addColumn<QString>("activation");
-        QTest::addColumn<int>("density");
+        columns<QString, int>("activation", "density");
         for (const char *activation : {"active", "inactive"}) {
             for (const int density : densities) {
                 QTest::addRow("%s@%d", activation, density)
@@ -248,13 +227,12 @@ private Q_SLOTS:
                 for (int j = 0; j < i; ++j) {
                     const int count = differingPixels(image, load(names.at(j)), ground);
                     QVERIFY2(count >= least,
-                             qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
-                                                .arg(names.at(i), names.at(j),
-                                                     QString::number(count))));
+                             qPrintable("%1 and %2 differ in %3 pixels"_q.arg(
+                                     names.at(i), names.at(j), QString::number(count))));
                 }
             }
         };
-        forEachGroup([&compare](const Group &group) {
+        for (const Group &group : groups) {
             const QStringList names = namesOf(group);
             if (group.words == buttonStates) {
                 compare(names.mid(0, 4), QColor(0xeceef1));
@@ -262,7 +240,7 @@ private Q_SLOTS:
             } else {
                 compare(names, QColor(0xefeff0));
             }
-        });
+        }
     }
 };
 

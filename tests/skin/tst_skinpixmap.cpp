@@ -2,14 +2,11 @@
 
 #include "skin/SkinPixmap.h"
 
-#include <QtCore/QBuffer>
-#include <QtCore/QResource>
 #include <QtGui/QPixmapCache>
 
 #include <cmath>
 
-using ombrin::skinImage;
-using ombrin::skinPixmap;
+using namespace ombrin;
 
 namespace {
 
@@ -55,27 +52,26 @@ class tst_SkinPixmap : public ombrin::test::TestCase
 private Q_SLOTS:
     void picksTheVariantForTheScreen_data()
     {
-        QTest::addColumn<QString>("present"); // Densities of the files there are.
-        QTest::addColumn<double>("screen");
-        QTest::addColumn<int>("expected"); // Density, or 0 for no picture.
+        // present: Densities of the files there are.
+        // expected: a density, or 0 for no picture
+        const auto row = columns<QString, double, int>("present", "screen", "expected");
 
-        QTest::newRow("all, 1") << "123" << 1.0 << 1;
-        QTest::newRow("all, 1.25") << "123" << 1.25 << 2;
-        QTest::newRow("all, 2.5") << "123" << 2.5 << 3;
-        QTest::newRow("all, absurd") << "123" << 1e300 << 3;
-        QTest::newRow("all, infinite") << "123" << std::numeric_limits<double>::infinity() << 3;
-        QTest::newRow("no 3x, 3") << "12" << 3.0 << 2;
-        QTest::newRow("no 2x, 2") << "13" << 2.0 << 1;
-        QTest::newRow("only 1x, 3") << "1" << 3.0 << 1;
-        QTest::newRow("only 2x, 1") << "2" << 1.0 << 0;
+        row("all, 1", "123", 1.0, 1);
+        row("all, 1.25", "123", 1.25, 2);
+        row("all, 2.5", "123", 2.5, 3);
+        row("all, absurd", "123", 1e300, 3);
+        row("all, infinite", "123", std::numeric_limits<double>::infinity(), 3);
+        row("no 3x, 3", "12", 3.0, 2);
+        row("no 2x, 2", "13", 2.0, 1);
+        row("only 1x, 3", "1", 3.0, 1);
+        row("only 2x, 1", "2", 1.0, 0);
     }
     void picksTheVariantForTheScreen()
     {
         QFETCH(QString, present);
         QFETCH(double, screen);
         QFETCH(int, expected);
-        const QString names[] = {QStringLiteral("icon"), QStringLiteral("icon@2x"),
-                                 QStringLiteral("icon@3x")};
+        const QString names[] = {"icon"_q, "icon@2x"_q, "icon@3x"_q};
         for (int density = 1; density <= 3; ++density) {
             if (present.contains(QString::number(density)))
                 QVERIFY(!write(names[density - 1], variantFile(density)).isEmpty());
@@ -97,7 +93,7 @@ private Q_SLOTS:
              {"countdown-3%1.png", "chat-16%1", "skin.d/chat-16%1", "skin.d/countdown%1.png"}) {
             const QString name = QString::fromLatin1(pattern).arg(QString());
             write(name, variantFile(1));
-            write(QString::fromLatin1(pattern).arg(QStringLiteral("@2x")), variantFile(2));
+            write(QString::fromLatin1(pattern).arg("@2x"_q), variantFile(2));
             QCOMPARE(skinPixmap(path(name), 2).toImage().pixelColor(0, 0), colorOf(2));
             QCOMPARE(skinPixmap(path(name), 1).toImage().pixelColor(0, 0), colorOf(1));
         }
@@ -105,8 +101,8 @@ private Q_SLOTS:
 
     void withoutAScreenTheDensestOneCounts()
     {
-        const QString icon = write(QStringLiteral("icon"), variantFile(1));
-        write(QStringLiteral("icon@2x"), variantFile(2));
+        const QString icon = write("icon"_q, variantFile(1));
+        write("icon@2x"_q, variantFile(2));
         const double expected = std::ceil(qApp->devicePixelRatio());
         QCOMPARE(skinPixmap(icon).devicePixelRatio(), expected);
         QCOMPARE(skinPixmap(icon, -1).devicePixelRatio(), expected);
@@ -116,10 +112,7 @@ private Q_SLOTS:
 
     void atDensityOneItIsQPixmap_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("imageFormat");
-        QTest::addColumn<QByteArray>("fileFormat");
+        columns<QString, QString, int, QByteArray>("file", "name", "imageFormat", "fileFormat");
         const auto row = [](const char *title, const char *file, const char *name,
                             QImage::Format imageFormat, const char *fileFormat = "PNG") {
             QTest::newRow(title) << file << name << int(imageFormat) << QByteArray(fileFormat);
@@ -157,13 +150,13 @@ private Q_SLOTS:
     {
         for (const QByteArray &bytes : {QByteArray(), QByteArray("[Active]\nWindow=#fff\n"),
                                         variantFile(1).left(20), truncatedPng()}) {
-            expectWarning(QStringLiteral("libpng|PNG"));
-            const QString icon = write(QStringLiteral("icon"), bytes);
+            expectWarning("libpng|PNG"_q);
+            const QString icon = write("icon"_q, bytes);
             for (const int density : {1, 2, 3}) {
                 QVERIFY(skinPixmap(icon, density).isNull());
                 QVERIFY(skinImage(icon, density).isNull());
             }
-            QVERIFY(skinPixmap(icon + QStringLiteral("-missing"), 1).isNull());
+            QVERIFY(skinPixmap(icon + "-missing"_q, 1).isNull());
             QVERIFY(skinPixmap(m_folder->path(), 1).isNull());
             QVERIFY(skinPixmap(QString(), 2).isNull());
         }
@@ -173,29 +166,28 @@ private Q_SLOTS:
     {
         // Flat pictures of a real resource file, packed by the build: "wide" is 2000 x 1 logical
         // pixels, so that its densest variant is refused.
-        const QString file =
-                QCoreApplication::applicationDirPath() + QStringLiteral("/testdata/pictures.res");
+        const QString file = QCoreApplication::applicationDirPath() + "/testdata/pictures.res"_q;
         QVERIFY(QResource::registerResource(file));
-        const QString wide = QStringLiteral(":/wide");
-        QVERIFY(!QPixmap(QStringLiteral(":/wide@3x")).isNull());
+        const QString wide = ":/wide"_q;
+        QVERIFY(!QPixmap(":/wide@3x"_q).isNull());
         QCOMPARE(skinPixmap(wide, 3).devicePixelRatio(), 2.0);
         QCOMPARE(skinPixmap(wide, 3).size(), QSize(4000, 2));
-        QCOMPARE(skinPixmap(QStringLiteral(":/suffixed.png"), 3).size(), QSize(36, 30));
-        QVERIFY(!QPixmap(QStringLiteral(":/huge")).isNull());
-        QVERIFY(skinPixmap(QStringLiteral(":/huge"), 1).isNull());
+        QCOMPARE(skinPixmap(":/suffixed.png"_q, 3).size(), QSize(36, 30));
+        QVERIFY(!QPixmap(":/huge"_q).isNull());
+        QVERIFY(skinPixmap(":/huge"_q, 1).isNull());
         QVERIFY(QResource::unregisterResource(file));
     }
 
     void secondLoadReadsNoFile()
     {
-        QVERIFY(skinPixmap(path(QStringLiteral("icon")), 1).isNull()); // it is not there yet
-        const QString icon = write(QStringLiteral("icon"), variantFile(1));
-        write(QStringLiteral("icon@2x"), variantFile(2));
+        QVERIFY(skinPixmap(path("icon"_q), 1).isNull()); // it is not there yet
+        const QString icon = write("icon"_q, variantFile(1));
+        write("icon@2x"_q, variantFile(2));
         QVERIFY(!skinPixmap(icon, 1).isNull());
         QPixmapCache::clear();
         const QPixmap normal = skinPixmap(icon, 1); // filled again
         const QPixmap dense = skinPixmap(icon, 2);
-        QVERIFY(QFile::remove(icon) && QFile::remove(icon + QStringLiteral("@2x")));
+        QVERIFY(QFile::remove(icon) && QFile::remove(icon + "@2x"_q));
         QCOMPARE(skinPixmap(icon, 1).cacheKey(), normal.cacheKey());
         QCOMPARE(skinPixmap(icon, 2).cacheKey(), dense.cacheKey());
         QPixmapCache::clear();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Text.h"
+
 #include <ombrin/OmTabBar.h>
 #include <ombrin/OmTabWidget.h>
 
@@ -29,7 +31,7 @@ public:
         QStringList list;
         for (int i = 0; i < count(); ++i) {
             const QString tab = tabText(i) + widget(i)->objectName();
-            list.append(i == currentIndex() ? QStringLiteral("[%1]").arg(tab) : tab);
+            list.append(i == currentIndex() ? "[%1]"_q.arg(tab) : tab);
         }
         return list.join(QLatin1Char(' '));
     }

@@ -4,9 +4,6 @@
 
 #include <ombrin/OmTabBar.h>
 
-#include <QtCore/QMimeData>
-#include <QtCore/QPointer>
-#include <QtCore/QTimer>
 #include <QtGui/QDrag>
 #include <QtGui/QDropEvent>
 #include <QtGui/QMouseEvent>
@@ -51,7 +48,7 @@ template <typename Event>
 bool sendDrag(QWidget *widget, const QPoint &position, Qt::DropActions actions = Qt::MoveAction)
 {
     QMimeData data;
-    data.setData(QStringLiteral("binary/ombrin-tab"), QByteArray());
+    data.setData("binary/ombrin-tab"_q, QByteArray());
     Event event(position, actions, &data, Qt::LeftButton, Qt::NoModifier);
     event.ignore();
     QCoreApplication::sendEvent(widget, &event);

@@ -6,16 +6,11 @@
 #include <ombrin/OmToolButton.h>
 
 #include <QAction>
-#include <QtCore/QAbstractEventDispatcher>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QLabel>
 
-#include <memory>
-
 using namespace ombrin::test;
-using ombrin::OmBalloonTip;
-using ombrin::OmPushButton;
-using ombrin::OmToolButton;
+using namespace ombrin;
 
 namespace {
 
@@ -27,22 +22,11 @@ QAbstractButton *make()
     return new Button;
 }
 
-OmBalloonTip *visibleTip()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *const tip = qobject_cast<OmBalloonTip *>(widget);
-        if (tip && tip->isVisible())
-            return tip;
-    }
-    return nullptr;
-}
-
 // The texts that the visible balloon shows.
 QStringList shownTexts()
 {
     QStringList texts;
-    if (const OmBalloonTip *tip = visibleTip()) {
+    if (const auto *tip = shown<OmBalloonTip>()) {
         const auto labels = tip->findChildren<QLabel *>();
         for (const QLabel *label : labels) {
             if (label->isVisible())
@@ -84,29 +68,30 @@ private Q_SLOTS:
     void hoveringShowsTheToolTipBelowTheButton_data() { buttons(); }
     void hoveringShowsTheToolTipBelowTheButton()
     {
-        QAbstractButton *const button = addButton(QStringLiteral("Call <b>Ada</b> & Max"));
+        QAbstractButton *const button = addButton("Call <b>Ada</b> & Max"_q);
         QVERIFY(askForToolTip(button));
         QVERIFY(OmBalloonTip::isActive());
         QCOMPARE(shownTexts(), QStringList(button->toolTip()));
-        QVERIFY(!visibleTip()->findChild<QPushButton *>()->isVisible());
+        QVERIFY(!shown<OmBalloonTip>()->findChild<QPushButton *>()->isVisible());
 
-        const QPoint tip = visibleTip()->pos() + QPoint(18, 0);
+        const QPoint tip = shown<OmBalloonTip>()->pos() + QPoint(18, 0);
         QCOMPARE(tip, button->mapToGlobal(QPoint(40, 25))); // 81 x 25
-        QVERIFY(visibleTip()->mask().contains(QPoint(18, 1)));
-        const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(visibleTip());
+        QVERIFY(shown<OmBalloonTip>()->mask().contains(QPoint(18, 1)));
+        const auto timers =
+                QAbstractEventDispatcher::instance()->registeredTimers(shown<OmBalloonTip>());
         QCOMPARE(timers.size(), 1);
         QCOMPARE(timers.first().interval, 2000);
 
         sendLeave(button);
         QVERIFY(!OmBalloonTip::isActive());
-        QVERIFY(!visibleTip());
+        QVERIFY(!shown<OmBalloonTip>());
     }
 
     void aDisabledButtonShowsNothing_data() { buttons(); }
     void aDisabledButtonShowsNothing()
     {
-        QAbstractButton *const button = addButton(QStringLiteral("Call"));
-        m_window->setToolTip(QStringLiteral("The window"));
+        QAbstractButton *const button = addButton("Call"_q);
+        m_window->setToolTip("The window"_q);
         button->setEnabled(false);
         QVERIFY(askForToolTip(button)); // swallowed, so that the window shows nothing either
         QVERIFY(!OmBalloonTip::isActive());
@@ -115,11 +100,11 @@ private Q_SLOTS:
     void whileOneTipIsUpNoOtherAppears_data() { buttons(); }
     void whileOneTipIsUpNoOtherAppears()
     {
-        QAbstractButton *const first = addButton(QStringLiteral("First"));
-        QAbstractButton *const second = addButton(QStringLiteral("Second"));
+        QAbstractButton *const first = addButton("First"_q);
+        QAbstractButton *const second = addButton("Second"_q);
         QVERIFY(askForToolTip(first));
         QVERIFY(askForToolTip(second));
-        QCOMPARE(shownTexts(), QStringList(QStringLiteral("First")));
+        QCOMPARE(shownTexts(), QStringList("First"_q));
     }
 
     void aButtonWithoutToolTipLeavesItToItsParent_data() { buttons(); }
@@ -133,24 +118,24 @@ private Q_SLOTS:
     void buttonsMayDieWhileTheirTipIsUp_data() { buttons(); }
     void buttonsMayDieWhileTheirTipIsUp()
     {
-        QAbstractButton *const button = addButton(QStringLiteral("Call"));
+        QAbstractButton *const button = addButton("Call"_q);
         QVERIFY(askForToolTip(button));
         delete button;
-        QCOMPARE(shownTexts(), QStringList(QStringLiteral("Call")));
-        QTest::mouseClick(visibleTip(), Qt::LeftButton);
-        QVERIFY(!visibleTip());
+        QCOMPARE(shownTexts(), QStringList("Call"_q));
+        QTest::mouseClick(shown<OmBalloonTip>(), Qt::LeftButton);
+        QVERIFY(!shown<OmBalloonTip>());
     }
 
     void aToolButtonShowsTheToolTipOfItsAction()
     {
         auto *const button = new OmToolButton(m_window.get());
-        QAction action(QStringLiteral("&Save"));
+        QAction action("&Save"_q);
         button->setDefaultAction(&action);
         button->setAutoRaise(true);
         m_window->show();
         sendEnter(button);
         QVERIFY(askForToolTip(button));
-        QCOMPARE(shownTexts(), QStringList(QStringLiteral("Save")));
+        QCOMPARE(shownTexts(), QStringList("Save"_q));
         sendLeave(button);
         QVERIFY(!button->underMouse());
     }

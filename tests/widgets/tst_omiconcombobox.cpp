@@ -12,11 +12,8 @@
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOptionComboBox>
 
-#include <memory>
-
 using namespace ombrin::test;
-using ombrin::OmIconComboBox;
-using ombrin::OmIconComboBoxDelegate;
+using namespace ombrin;
 
 namespace {
 
@@ -78,16 +75,13 @@ protected:
 private Q_SLOTS:
     void cellsShowTheirIconAndNothingElse_data()
     {
-        QTest::addColumn<QVariant>("decoration");
-        QTest::addColumn<bool>("focused");
-        QTest::addColumn<QRect>("icon");
-        QTest::newRow("nothing") << QVariant() << false << QRect();
-        QTest::newRow("no icon") << QVariant(QStringLiteral("no icon")) << false << QRect();
-        QTest::newRow("tiny") << QVariant(flatIcon(QSize(1, 1))) << false << QRect(15, 15, 1, 1);
-        QTest::newRow("usual") << QVariant(flatIcon()) << false << QRect(7, 7, 16, 16);
-        QTest::newRow("too large")
-                << QVariant(flatIcon(QSize(64, 64))) << false << QRect(6, 6, 18, 18);
-        QTest::newRow("focused") << QVariant(flatIcon()) << true << QRect(7, 7, 16, 16);
+        const auto row = columns<QVariant, bool, QRect>("decoration", "focused", "icon");
+        row("nothing", QVariant(), false, {});
+        row("no icon", QVariant("no icon"_q), false, {});
+        row("tiny", QVariant(flatIcon(QSize(1, 1))), false, {15, 15, 1, 1});
+        row("usual", QVariant(flatIcon()), false, {7, 7, 16, 16});
+        row("too large", QVariant(flatIcon(QSize(64, 64))), false, {6, 6, 18, 18});
+        row("focused", QVariant(flatIcon()), true, {7, 7, 16, 16});
     }
     void cellsShowTheirIconAndNothingElse()
     {
@@ -99,7 +93,7 @@ private Q_SLOTS:
         option.state = QStyle::State_Enabled | QStyle::State_Selected;
         option.state.setFlag(QStyle::State_HasFocus, focused);
         option.palette.setColor(QPalette::Highlight, Qt::blue);
-        m_box->addItem(QStringLiteral("Text"));
+        m_box->addItem("Text"_q);
         m_box->setItemData(0, decoration, Qt::DecorationRole);
 
         QImage expected(32, 32, QImage::Format_RGB32);
@@ -119,8 +113,7 @@ private Q_SLOTS:
 
     void theListIsAGridThatIsNoHigherThanItsRows_data()
     {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<bool>("skinned");
+        columns<int, bool>("count", "skinned");
         for (const int count : {1, 12, 40}) {
             QTest::addRow("%d items", count) << count << false;
             QTest::addRow("%d items, skinned", count) << count << true;
@@ -225,7 +218,7 @@ private Q_SLOTS:
         m_box->showPopup(); // without an item
         QVERIFY(!m_box->view()->isVisible());
         m_box->addItem(QIcon(), QString());
-        m_box->addItem(flatIcon(QSize(1, 1)), QStringLiteral("\u05e9\u05dc e\u0301\u0302"));
+        m_box->addItem(flatIcon(QSize(1, 1)), "\u05e9\u05dc e\u0301\u0302"_q);
         m_box->addItem(flatIcon(QSize(3000, 1)), QString());
         m_box->show();
         m_box->showPopup();
@@ -237,14 +230,14 @@ private Q_SLOTS:
     {
         addItems(2);
         m_box->setItemText(1, QString());
-        m_box->setItemData(1, QStringLiteral("Smile"), Qt::AccessibleTextRole);
+        m_box->setItemData(1, "Smile"_q, Qt::AccessibleTextRole);
         QAccessibleInterface *const seen = accessible(m_box.get());
         QCOMPARE(seen->role(), QAccessible::ComboBox);
-        QCOMPARE(accessibleName(m_box.get()), QStringLiteral("Item 0"));
-        m_box->setAccessibleName(QStringLiteral("Smiley"));
+        QCOMPARE(accessibleName(m_box.get()), "Item 0"_q);
+        m_box->setAccessibleName("Smiley"_q);
         m_box->setCurrentIndex(1);
-        QCOMPARE(accessibleName(m_box.get()), QStringLiteral("Smiley"));
-        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("Smile"));
+        QCOMPARE(accessibleName(m_box.get()), "Smiley"_q);
+        QCOMPARE(seen->text(QAccessible::Value), "Smile"_q);
         QVERIFY(seen->state().expandable && !seen->state().expanded && !seen->state().editable);
         QVERIFY(seen->state().focusable);
 
@@ -254,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(seen->childCount(), 1);
         QAccessibleInterface *const list = seen->child(0);
         QCOMPARE(list->childCount(), 2);
-        QCOMPARE(list->child(1)->text(QAccessible::Name), QStringLiteral("Smile"));
+        QCOMPARE(list->child(1)->text(QAccessible::Name), "Smile"_q);
         pressAccessibly(m_box.get());
         QVERIFY(!m_box->view()->isVisible());
 
@@ -275,7 +268,7 @@ private:
     void addItems(int count)
     {
         for (int i = 0; i < count; ++i)
-            m_box->addItem(flatIcon(), QStringLiteral("Item %1").arg(i));
+            m_box->addItem(flatIcon(), "Item %1"_q.arg(i));
     }
 
     std::unique_ptr<OmIconComboBox> m_box;

@@ -3,12 +3,10 @@
 
 #include <ombrin/OmImageButton.h>
 
-#include <QtCore/QMap>
 #include <QtGui/QPainter>
 #include <QtGui/QWindow>
 
 #include <functional>
-#include <memory>
 
 using ombrin::OmImageButton;
 using namespace ombrin::test;
@@ -72,11 +70,8 @@ private Q_SLOTS:
 
     void picturesAndSignalsFollowTheUser_data()
     {
-        QTest::addColumn<QString>("pictures"); // after each step
-        QTest::addColumn<QString>("signalLog");
-        const auto row = [](const char *steps, const char *pictures, const char *signalLog) {
-            QTest::newRow(steps) << pictures << signalLog;
-        };
+        // pictures: after each step
+        const auto row = columns<QString, QString>("pictures", "signalLog");
         const auto click = "pressed clicked(true) released";
         const auto twoClicks = "pressed clicked(true) released pressed clicked(false) released";
         row("enter press release", "Hovered Down Hovered", click);
@@ -110,15 +105,13 @@ private Q_SLOTS:
 
     void picturesAndSignalsFollowTheUser()
     {
-        QFETCH(QString, pictures);
-        QFETCH(QString, signalLog);
         QStringList shown;
         for (const QString &step : words(QTest::currentDataTag())) {
             perform(step);
             shown.append(shownPicture());
         }
-        QCOMPARE(shown.join(QLatin1Char(' ')), pictures);
-        QCOMPARE(log(), signalLog);
+        QTEST(shown.join(QLatin1Char(' ')), "pictures");
+        QTEST(log(), "signalLog");
     }
 
     void aLostReleaseDoesNotLeaveTheButtonDown_data()
@@ -133,11 +126,10 @@ private Q_SLOTS:
 
     void aLostReleaseDoesNotLeaveTheButtonDown()
     {
-        QFETCH(QString, signalLog);
         for (const QString &step : words(QTest::currentDataTag()))
             perform(step);
         QVERIFY(!m_button->isDown());
-        QCOMPARE(log(), signalLog);
+        QTEST(log(), "signalLog");
     }
 
     void pictureShiftsByTheOffsetWhileDownOrDisabled()
@@ -209,16 +201,13 @@ private Q_SLOTS:
 
     void refinesColours_data()
     {
-        QTest::addColumn<Refinement>("refinement");
-        QTest::addColumn<QVector<int>>("examples"); // a channel before and after, and so on
-        QTest::newRow("down") << &Button::refinePictureToDownState
-                              << QVector<int>{0, 0, 1, 0, 96, 91, 100, 95, 255, 242};
-        QTest::newRow("hovered") << &Button::refinePictureToHoveredState
-                                 << QVector<int>{0,   0,   19,  19,  96,  100,
-                                                 224, 235, 243, 255, 254, 255};
-        QTest::newRow("disabled") << &Button::refinePictureToDisabledState
-                                  << QVector<int>{0,   192, 1,   191, 96,  155,
-                                                  192, 192, 254, 253, 255, 255};
+        // examples: a channel before and after, and so on
+        const auto row = columns<Refinement, QVector<int>>("refinement", "examples");
+        row("down", &Button::refinePictureToDownState, {0, 0, 1, 0, 96, 91, 100, 95, 255, 242});
+        row("hovered", &Button::refinePictureToHoveredState,
+            {0, 0, 19, 19, 96, 100, 224, 235, 243, 255, 254, 255});
+        row("disabled", &Button::refinePictureToDisabledState,
+            {0, 192, 1, 191, 96, 155, 192, 192, 254, 253, 255, 255});
     }
     void refinesColours()
     {
@@ -281,12 +270,12 @@ private Q_SLOTS:
         Button button; // A host's subclass is seen as well.
         QAccessibleInterface *const seen = accessible(&button);
         QCOMPARE(seen->role(), QAccessible::Button);
-        button.setToolTip(QStringLiteral("Chat"));
-        QCOMPARE(accessibleName(&button), QStringLiteral("Chat"));
+        button.setToolTip("Chat"_q);
+        QCOMPARE(accessibleName(&button), "Chat"_q);
         QCOMPARE(seen->text(QAccessible::Description), QString());
-        button.setAccessibleName(QStringLiteral("Start a chat"));
-        QCOMPARE(accessibleName(&button), QStringLiteral("Start a chat"));
-        QCOMPARE(seen->text(QAccessible::Description), QStringLiteral("Chat"));
+        button.setAccessibleName("Start a chat"_q);
+        QCOMPARE(accessibleName(&button), "Start a chat"_q);
+        QCOMPARE(seen->text(QAccessible::Description), "Chat"_q);
 
         QVERIFY(!seen->state().checkable && !seen->state().pressed && !seen->state().focusable);
         button.setCheckable(true);
@@ -302,7 +291,7 @@ private Q_SLOTS:
         m_button->setEnabled(true);
         QVERIFY(isAccessiblyPressable(m_button));
         pressAccessibly(m_button);
-        QCOMPARE(log(), QStringLiteral("pressed clicked(true) released"));
+        QCOMPARE(log(), "pressed clicked(true) released"_q);
         QVERIFY(!m_button->isDown());
     }
 
@@ -318,14 +307,11 @@ protected:
             m_button->setProperty(kPictures[state].toLatin1(), pictureOf(state));
         m_button->installEventFilter(this);
         m_log.clear();
-        connect(m_button, &OmImageButton::pressed, this,
-                [this] { m_log.append(QStringLiteral("pressed")); });
+        connect(m_button, &OmImageButton::pressed, this, [this] { m_log.append("pressed"_q); });
         connect(m_button, &OmImageButton::clicked, this, [this](bool checked) {
-            m_log.append(checked ? QStringLiteral("clicked(true)")
-                                 : QStringLiteral("clicked(false)"));
+            m_log.append(checked ? "clicked(true)"_q : "clicked(false)"_q);
         });
-        connect(m_button, &OmImageButton::released, this,
-                [this] { m_log.append(QStringLiteral("released")); });
+        connect(m_button, &OmImageButton::released, this, [this] { m_log.append("released"_q); });
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
@@ -374,7 +360,7 @@ private:
                 {"hide", [=] { b->hide(); }},
                 {"show", [=] { b->show(); }},
         };
-        if (step.startsWith(QLatin1String("no")))
+        if (step.startsWith("no"_q))
             b->setProperty("pixmap" + step.mid(2).toLatin1(), QPixmap());
         else
             steps.value(step.toLatin1())();
@@ -385,8 +371,7 @@ private:
     {
         const QImage image = paintedOnNothing(m_button);
         const QRgb color = image.pixel(kSize.width() / 2, kSize.height() / 2);
-        return qAlpha(color) == 0 ? QStringLiteral("nothing")
-                                  : kPictures.value(qRed(color) - 1).mid(6);
+        return qAlpha(color) == 0 ? "nothing"_q : kPictures.value(qRed(color) - 1).mid(6);
     }
 
     QString log() const { return m_log.join(QLatin1Char(' ')); }

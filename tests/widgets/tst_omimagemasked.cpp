@@ -3,13 +3,11 @@
 
 #include <ombrin/OmImageMaskedButton.h>
 
-#include <QtCore/QMap>
 #include <QtGui/QPainter>
 
 #include <functional>
 
-using ombrin::OmImageMaskedButton;
-using ombrin::OmImageMaskedWidget;
+using namespace ombrin;
 using namespace ombrin::test;
 
 namespace {
@@ -74,10 +72,10 @@ struct Button : OmImageMaskedButton
     QString shown()
     {
         const QRgb color = paintedOnNothing(this).pixel(5, 5);
-        return color == kNormal    ? QStringLiteral("normal")
-               : color == kHovered ? QStringLiteral("hovered")
-               : color == kPressed ? QStringLiteral("pressed")
-                                   : QStringLiteral("nothing");
+        return color == kNormal    ? "normal"_q
+               : color == kHovered ? "hovered"_q
+               : color == kPressed ? "pressed"_q
+                                   : "nothing"_q;
     }
 
     int clicks = 0;
@@ -157,12 +155,11 @@ private Q_SLOTS:
 
     void denseImagesHaveTheirLogicalSize_data()
     {
-        QTest::addColumn<qreal>("density");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QRect>("shape"); // of an image whose pixels 21 to 22 are opaque
-        QTest::newRow("1.5") << 1.5 << QSize(28, 14) << QRect(14, 14, 1, 1).translated(0, -7);
-        QTest::newRow("2") << 2.0 << QSize(21, 11) << QRect(10, 5, 2, 1);
-        QTest::newRow("3") << 3.0 << QSize(14, 7) << QRect(7, 3, 1, 1);
+        // shape: of an image whose pixels 21 to 22 are opaque
+        const auto row = columns<qreal, QSize, QRect>("density", "size", "shape");
+        row("1.5", 1.5, {28, 14}, QRect(14, 14, 1, 1).translated(0, -7));
+        row("2", 2.0, {21, 11}, {10, 5, 2, 1});
+        row("3", 3.0, {14, 7}, {7, 3, 1, 1});
     }
     void denseImagesHaveTheirLogicalSize()
     {
@@ -195,11 +192,8 @@ private Q_SLOTS:
 
     void buttonFollowsTheUser_data()
     {
-        QTest::addColumn<QString>("images"); // after each step
-        QTest::addColumn<int>("clicks");
-        const auto row = [](const char *steps, const char *images, int clicks) {
-            QTest::newRow(steps) << images << clicks;
-        };
+        // images: after each step
+        const auto row = columns<QString, int>("images", "clicks");
         row("enter press leave release", "hovered pressed pressed normal", 1);
         row("enter rightPress rightRelease leave", "hovered pressed hovered normal", 1);
         row("press releaseRightOfIt release", "pressed normal normal", 0);
@@ -216,7 +210,6 @@ private Q_SLOTS:
     }
     void buttonFollowsTheUser()
     {
-        QFETCH(QString, images);
         QFETCH(int, clicks);
         Button button;
         QStringList shown;
@@ -224,7 +217,7 @@ private Q_SLOTS:
             perform(step, &button);
             shown.append(button.shown());
         }
-        QCOMPARE(shown.join(QLatin1Char(' ')), images);
+        QTEST(shown.join(QLatin1Char(' ')), "images");
         QCOMPARE(button.clicks, clicks);
     }
 
@@ -265,9 +258,9 @@ private Q_SLOTS:
     void screenReadersSeeAButton()
     {
         Button button;
-        button.setToolTip(QStringLiteral("Now"));
+        button.setToolTip("Now"_q);
         QCOMPARE(accessible(&button)->role(), QAccessible::Button);
-        QCOMPARE(accessibleName(&button), QStringLiteral("Now"));
+        QCOMPARE(accessibleName(&button), "Now"_q);
         QVERIFY(!accessible(&button)->state().pressed && !accessible(&button)->state().hotTracked);
         sendEnter(&button);
         QTest::mousePress(&button, Qt::LeftButton);

@@ -13,7 +13,7 @@ using namespace ombrin::test;
 
 namespace {
 
-const QString kText = QStringLiteral("Back in ten minutes, gone for a walk");
+const QString kText = "Back in ten minutes, gone for a walk"_q;
 
 QString shownText(const OmLabel &label)
 {
@@ -47,28 +47,15 @@ class tst_OmLabel : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObjectKnowsTheWholeText()
-    {
-        ShownLabel test;
-        QVERIFY(test.label->setProperty("text", kText));
-        QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
-        QCOMPARE(test.label->property("text").toString(), kText);
-        QVERIFY(test.label->setProperty("elide", false) && !test.label->isElided());
-        QVERIFY(test.label->setProperty("link", true) && test.label->isLink());
-    }
-
     void showsWhatFitsAtEveryWidth_data()
     {
-        QTest::addColumn<Qt::TextElideMode>("mode");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("right") << Qt::ElideRight << kText;
-        QTest::newRow("left") << Qt::ElideLeft << kText;
-        QTest::newRow("middle") << Qt::ElideMiddle << kText;
-        QTest::newRow("none") << Qt::ElideNone << kText;
-        QTest::newRow("right-to-left")
-                << Qt::ElideRight << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd Ada, \u05d0\u05d1");
-        QTest::newRow("combining")
-                << Qt::ElideMiddle << QStringLiteral(u"Ae\u0301\u0323o\u0308\u0308y");
+        const auto row = columns<Qt::TextElideMode, QString>("mode", "text");
+        row("right", Qt::ElideRight, kText);
+        row("left", Qt::ElideLeft, kText);
+        row("middle", Qt::ElideMiddle, kText);
+        row("none", Qt::ElideNone, kText);
+        row("right-to-left", Qt::ElideRight, "\u05e9\u05dc\u05d5\u05dd Ada, \u05d0\u05d1");
+        row("combining", Qt::ElideMiddle, "Ae\u0301\u0323o\u0308\u0308y");
     }
     void showsWhatFitsAtEveryWidth()
     {
@@ -139,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(accessible(test.label)->role(), QAccessible::Graphic);
         test.label->setNum(7);
         test.label->resize(100, 20);
-        QCOMPARE(shownText(*test.label), QStringLiteral("7"));
+        QCOMPARE(shownText(*test.label), "7"_q);
         test.label->setText(kText);
         QCOMPARE(shownText(*test.label), expectedText(*test.label, kText));
     }
@@ -240,14 +227,14 @@ private Q_SLOTS:
         pressAccessibly(&label);
         QCOMPARE(spy.size(), 1);
 
-        label.setText(QStringLiteral("<b>Ada</b> &amp; Max"));
-        QCOMPARE(accessibleName(&label), QStringLiteral("Ada & Max"));
+        label.setText("<b>Ada</b> &amp; Max"_q);
+        QCOMPARE(accessibleName(&label), "Ada & Max"_q);
         label.setTextFormat(Qt::PlainText);
-        QCOMPARE(accessibleName(&label), QStringLiteral("<b>Ada</b> &amp; Max"));
+        QCOMPARE(accessibleName(&label), "<b>Ada</b> &amp; Max"_q);
         QLineEdit edit;
         label.setBuddy(&edit);
-        label.setText(QStringLiteral("&Name && more"));
-        QCOMPARE(accessibleName(&label), QStringLiteral("Name & more"));
+        label.setText("&Name && more"_q);
+        QCOMPARE(accessibleName(&label), "Name & more"_q);
         const auto relations = accessible(&label)->relations(QAccessible::Labelled);
         QCOMPARE(relations.size(), 1);
         QCOMPARE(relations.first().first->object(), &edit);

@@ -16,7 +16,7 @@ using ombrin::OmLineEdit;
 
 namespace {
 
-const QString kMessage = QStringLiteral("Name or e-mail address");
+const QString kMessage = "Name or e-mail address"_q;
 const QColor kGrey(128, 128, 128);
 const QColor kTextColor(10, 20, 30);
 
@@ -41,8 +41,8 @@ struct Form
         palette.setColor(QPalette::Text, kTextColor);
         window.setPalette(palette);
         auto *const layout = new QFormLayout(&window);
-        layout->addRow(QStringLiteral("&Name"), edit);
-        layout->addRow(QStringLiteral("&Other"), other);
+        layout->addRow("&Name"_q, edit);
+        layout->addRow("&Other"_q, other);
         edit->setNoFocusMessage(kMessage);
         other->setFocus();
         window.show();
@@ -54,19 +54,19 @@ struct Form
     void perform(const QString &step)
     {
         const QString text = step.section(QLatin1Char(':'), 1);
-        if (step == QLatin1String("focus"))
+        if (step == "focus"_q)
             edit->setFocus();
-        else if (step == QLatin1String("leave"))
+        else if (step == "leave"_q)
             other->setFocus();
-        else if (step == QLatin1String("update"))
+        else if (step == "update"_q)
             edit->updateFocusMessage();
-        else if (step == QLatin1String("undo"))
+        else if (step == "undo"_q)
             edit->undo();
-        else if (step.startsWith(QLatin1String("type:")))
+        else if (step.startsWith("type:"_q))
             QTest::keyClicks(edit, text);
-        else if (step.startsWith(QLatin1String("setText:")))
+        else if (step.startsWith("setText:"_q))
             edit->setText(text);
-        else if (step.startsWith(QLatin1String("message:")))
+        else if (step.startsWith("message:"_q))
             edit->setNoFocusMessage(text);
         else if (step.startsWith(QLatin1String("drop:")))
             drop(text);
@@ -108,10 +108,8 @@ private Q_SLOTS:
 
     void messageComesAndGoes_data()
     {
-        QTest::addColumn<QString>("shown"); // after each step; "*" says grey, "_" nothing
-        const auto row = [](const char *steps, const char *shown) {
-            QTest::newRow(steps) << shown;
-        };
+        // shown: after each step; "*" says grey, "_" nothing
+        const auto row = columns<QString>("shown");
         row("focus leave focus leave", "_ Hint* _ Hint*");
         row("focus type:Ada leave focus", "_ Ada Ada Ada");
         row("focus type:Hint leave focus", "_ Hint Hint* _"); // which is typing nothing
@@ -126,9 +124,8 @@ private Q_SLOTS:
     }
     void messageComesAndGoes()
     {
-        QFETCH(QString, shown);
         Form form;
-        form.edit->setNoFocusMessage(QStringLiteral("Hint"));
+        form.edit->setNoFocusMessage("Hint"_q);
         QVERIFY(form.isReady());
         QStringList seen;
         for (const QString &step : words(QTest::currentDataTag())) {
@@ -139,11 +136,11 @@ private Q_SLOTS:
             const QColor color = shownColor(form.edit);
             QVERIFY(color == kGrey || color == kTextColor);
             if (text.isEmpty())
-                seen.append(QStringLiteral("_"));
+                seen.append("_"_q);
             else
                 seen.append(color == kGrey ? text + QLatin1Char('*') : text);
         }
-        QCOMPARE(seen.join(QLatin1Char(' ')), shown);
+        QTEST(seen.join(QLatin1Char(' ')), "shown");
     }
 
     void cutOffMessagesStillCountAsMessages()
@@ -167,12 +164,12 @@ private Q_SLOTS:
         QVERIFY(form.isReady());
         form.edit->setFocus();
         QMenu menu;
-        menu.addAction(QStringLiteral("Paste"));
+        menu.addAction("Paste"_q);
         menu.popup(form.window.pos());
         QCOMPARE(shownText(*form.edit), QString());
         menu.close();
-        QTest::keyClicks(form.edit, QStringLiteral("a"));
-        QCOMPARE(form.edit->text(), QStringLiteral("a"));
+        QTest::keyClicks(form.edit, "a"_q);
+        QCOMPARE(form.edit->text(), "a"_q);
     }
 
     void propertyAndMappersNeverSeeTheMessage()
@@ -182,13 +179,13 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(form.edit->metaObject()->userProperty().name()), QByteArray("text"));
 
         QStandardItemModel model(1, 1);
-        model.setData(model.index(0, 0), QStringLiteral("Ada"));
+        model.setData(model.index(0, 0), "Ada"_q);
         QDataWidgetMapper mapper;
         mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
         mapper.setModel(&model);
         mapper.addMapping(form.edit, 0);
         mapper.toFirst();
-        QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
+        QCOMPARE(form.edit->text(), "Ada"_q);
         form.edit->clear();
         form.edit->updateFocusMessage();
         mapper.submit();
@@ -201,7 +198,7 @@ private Q_SLOTS:
         QVERIFY(form.isReady());
         QStringList seen;
         connect(form.edit, &QLineEdit::textChanged, this, [&] { seen << form.edit->text(); });
-        form.edit->setNoFocusMessage(QStringLiteral("Other"));
+        form.edit->setNoFocusMessage("Other"_q);
         form.edit->setFocus();
         form.other->setFocus();
         const QStringList nothing{QString(), QString(), QString()};
@@ -224,7 +221,7 @@ private Q_SLOTS:
             if (updates)
                 edit->updateFocusMessage();
             else
-                edit->setNoFocusMessage(QStringLiteral("Somebody"));
+                edit->setNoFocusMessage("Somebody"_q);
             QVERIFY(!edit);
         }
     }
@@ -233,16 +230,15 @@ private Q_SLOTS:
     {
         Form form;
         QVERIFY(form.isReady());
-        auto *const completer =
-                new QCompleter({QStringLiteral("Ada"), QStringLiteral("Adele")}, form.edit);
+        auto *const completer = new QCompleter({"Ada"_q, "Adele"_q}, form.edit);
         form.edit->setCompleter(completer);
         form.edit->setFocus();
-        QTest::keyClicks(form.edit, QStringLiteral("Ad"));
+        QTest::keyClicks(form.edit, "Ad"_q);
         QTRY_VERIFY_WITH_TIMEOUT(completer->popup()->isVisible(), 20000);
-        QCOMPARE(form.edit->text(), QStringLiteral("Ad"));
+        QCOMPARE(form.edit->text(), "Ad"_q);
         QTest::keyClick(completer->popup(), Qt::Key_Down);
         QTest::keyClick(completer->popup(), Qt::Key_Return);
-        QCOMPARE(form.edit->text(), QStringLiteral("Ada"));
+        QCOMPARE(form.edit->text(), "Ada"_q);
         QCOMPARE(shownColor(form.edit), kTextColor);
 
         form.edit->clear();

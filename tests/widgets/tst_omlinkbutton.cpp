@@ -7,7 +7,6 @@
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyleOption>
 
-#include <memory>
 #include <tuple>
 
 using ombrin::OmLinkButton;
@@ -16,14 +15,14 @@ using namespace ombrin::test;
 namespace {
 
 constexpr QRgb kLink = 0xff009cff;
-const QString kText = QStringLiteral("Show details");
+const QString kText = "Show details"_q;
 
 // Notes the arrows and focus frames that a button asks for, and draws none of them.
 class NotingStyle : public QProxyStyle
 {
 public:
     NotingStyle()
-        : QProxyStyle(QStringLiteral("fusion"))
+        : QProxyStyle("fusion"_q)
     {}
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
@@ -103,14 +102,12 @@ private Q_SLOTS:
 
     void drawsUnderlinedText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::newRow("plain") << kText << true << Qt::LeftToRight;
-        QTest::newRow("disabled") << kText << false << Qt::LeftToRight;
-        QTest::newRow("ampersand") << QStringLiteral("You && &me") << true << Qt::LeftToRight;
-        QTest::newRow("right-to-left")
-                << QStringLiteral(u"\u05e9\u05dc\u05d5\u05dd") << true << Qt::RightToLeft;
+        const auto row =
+                columns<QString, bool, Qt::LayoutDirection>("text", "enabled", "direction");
+        row("plain", kText, true, Qt::LeftToRight);
+        row("disabled", kText, false, Qt::LeftToRight);
+        row("ampersand", "You && &me", true, Qt::LeftToRight);
+        row("right-to-left", "\u05e9\u05dc\u05d5\u05dd", true, Qt::RightToLeft);
     }
     void drawsUnderlinedText()
     {
@@ -211,7 +208,7 @@ private Q_SLOTS:
         button.setDown(true);
         QVERIFY(accessible(&button)->state().pressed);
         button.setShortcut(QKeySequence(Qt::Key_F7));
-        QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("F7"));
+        QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), "F7"_q);
     }
 
     void mayBeDeletedInItsSlot()

@@ -34,13 +34,13 @@ private Q_SLOTS:
     void showsIconAndText()
     {
         QTemporaryDir directory;
-        const QString file = directory.filePath(QStringLiteral("icon.png"));
+        const QString file = directory.filePath("icon.png"_q);
         QImage picture(16, 16, QImage::Format_ARGB32);
         picture.fill(Qt::blue);
         QVERIFY(picture.save(file));
 
         OmMenuItem item;
-        QVERIFY(item.setProperty("text", QStringLiteral("<b>Chat</b>")));
+        QVERIFY(item.setProperty("text", "<b>Chat</b>"_q));
         QVERIFY(item.setProperty("icon", file));
         QCOMPARE(labels(item).at(1)->text(), item.text());
         QCOMPARE(labels(item).at(1)->textFormat(), Qt::PlainText);
@@ -50,7 +50,7 @@ private Q_SLOTS:
         const QPoint icon = labels(item).at(0)->pos() + QPoint(1, 8);
         QCOMPARE(painted.pixelColor(icon), QColor(Qt::blue));
 
-        item.setIcon(QStringLiteral(":/there-is-no-such-picture"));
+        item.setIcon(":/there-is-no-such-picture"_q);
         QVERIFY(labels(item).at(0)->pixmap(Qt::ReturnByValue).isNull());
         item.setText(QString(100000, QLatin1Char('x')));
         item.resize(100, 60);
@@ -74,7 +74,7 @@ private Q_SLOTS:
     {
         QWidget window;
         OmMenuItem item(&window);
-        item.setText(QStringLiteral("Chat"));
+        item.setText("Chat"_q);
         item.resize(100, 24);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -105,9 +105,9 @@ private Q_SLOTS:
     void screenReadersSeeAMenuItem()
     {
         OmMenuItem item;
-        item.setText(QStringLiteral("Chat"));
+        item.setText("Chat"_q);
         QCOMPARE(accessible(&item)->role(), QAccessible::MenuItem);
-        QCOMPARE(accessibleName(&item), QStringLiteral("Chat"));
+        QCOMPARE(accessibleName(&item), "Chat"_q);
         QSignalSpy spy(&item, &OmMenuItem::clicked);
         pressAccessibly(&item);
         QCOMPARE(spy.size(), 1);

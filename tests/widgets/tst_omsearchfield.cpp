@@ -4,7 +4,6 @@
 #include <ombrin/OmSearchField.h>
 #include <ombrin/OmStyle2.h>
 
-#include <QtCore/QResource>
 #include <QtGui/QPainter>
 
 using ombrin::OmSearchField;
@@ -15,7 +14,7 @@ namespace {
 constexpr QSize kSize(200, 24);
 // What lies between frame, icons and the line edit's own margin.
 constexpr QRect kTextRect(21, 1, 158, 22);
-const QString kDefaultText = QStringLiteral("Search contacts");
+const QString kDefaultText = "Search contacts"_q;
 
 QImage picture(QWidget *field)
 {
@@ -53,7 +52,7 @@ struct Shown
 
 void drawIcon(QImage *image, const char *name, int left)
 {
-    const QPixmap icon(QStringLiteral(":/") + QLatin1String(name));
+    const QPixmap icon(":/"_q + QLatin1String(name));
     QVERIFY(!icon.isNull());
     QPainter(image).drawPixmap(left, 5, icon);
 }
@@ -74,11 +73,7 @@ class tst_OmSearchField : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
-                                            + QStringLiteral("/skins/ombrin.res")));
-    }
+    void initTestCase() { QVERIFY(registerPictures("skins/ombrin.res")); }
 
     void leavesRoomForTheIcons()
     {
@@ -100,16 +95,14 @@ private Q_SLOTS:
 
     void drawsTheIconsOfItsState_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("readOnly");
-        QTest::addColumn<bool>("mirrored");
-        QTest::addColumn<int>("searchLeft");
-        QTest::addColumn<int>("eraseLeft"); // -1: not there
-        QTest::newRow("empty") << "" << false << false << 3 << -1;
-        QTest::newRow("text") << "Ada" << false << false << 3 << 183;
-        QTest::newRow("right-to-left") << "Ada" << false << true << 183 << 3;
-        QTest::newRow("right-to-left, empty") << "" << false << true << 183 << -1;
-        QTest::newRow("read-only") << "Ada" << true << false << 3 << -1;
+        // eraseLeft: -1 where it is not there
+        const auto row = columns<QString, bool, bool, int, int>("text", "readOnly", "mirrored",
+                                                                "searchLeft", "eraseLeft");
+        row("empty", "", false, false, 3, -1);
+        row("text", "Ada", false, false, 3, 183);
+        row("right-to-left", "Ada", false, true, 183, 3);
+        row("right-to-left, empty", "", false, true, 183, -1);
+        row("read-only", "Ada", true, false, 3, -1);
     }
     void drawsTheIconsOfItsState()
     {
@@ -163,7 +156,7 @@ private Q_SLOTS:
         const QImage focused = picture(&test.field);
         test.field.setDefaultText(QString());
         QCOMPARE(picture(&test.field), focused);
-        test.field.setText(QStringLiteral("Ada"));
+        test.field.setText("Ada"_q);
         test.other.setFocus();
         const QImage filled = picture(&test.field);
         test.field.setDefaultText(kDefaultText);
@@ -172,16 +165,14 @@ private Q_SLOTS:
 
     void cursorTellsWhereAPressErases_data()
     {
-        QTest::addColumn<int>("x");
-        QTest::addColumn<bool>("mirrored");
-        QTest::addColumn<bool>("erases");
-        QTest::newRow("right edge") << 199 << false << true;
-        QTest::newRow("inner edge") << 183 << false << true;
-        QTest::newRow("text") << 182 << false << false;
-        QTest::newRow("magnifier") << 5 << false << false;
-        QTest::newRow("right-to-left, inner edge") << 16 << true << true;
-        QTest::newRow("right-to-left, text") << 17 << true << false;
-        QTest::newRow("right-to-left, magnifier") << 190 << true << false;
+        const auto row = columns<int, bool, bool>("x", "mirrored", "erases");
+        row("right edge", 199, false, true);
+        row("inner edge", 183, false, true);
+        row("text", 182, false, false);
+        row("magnifier", 5, false, false);
+        row("right-to-left, inner edge", 16, true, true);
+        row("right-to-left, text", 17, true, false);
+        row("right-to-left, magnifier", 190, true, false);
     }
     void cursorTellsWhereAPressErases()
     {
@@ -193,18 +184,18 @@ private Q_SLOTS:
         field.resize(kSize);
         QSignalSpy spy(&field, &QLineEdit::textChanged);
         for (const auto button : {Qt::LeftButton, Qt::MiddleButton}) {
-            field.setText(QStringLiteral("Ada"));
+            field.setText("Ada"_q);
             spy.clear();
             sendMouseMove(&field, QPoint(x, 23));
             QCOMPARE(field.cursor().shape(), erases ? Qt::ArrowCursor : Qt::IBeamCursor);
             QTest::mouseClick(&field, button, Qt::NoModifier, QPoint(x, 23));
-            QCOMPARE(field.text(), erases ? QString() : QStringLiteral("Ada"));
+            QCOMPARE(field.text(), erases ? QString() : "Ada"_q);
             QCOMPARE(spy.size(), erases ? 1 : 0);
         }
-        field.setText(QStringLiteral("Ada"));
+        field.setText("Ada"_q);
         field.setReadOnly(true);
         QTest::mouseClick(&field, Qt::LeftButton, Qt::NoModifier, QPoint(x, 23));
-        QCOMPARE(field.text(), QStringLiteral("Ada"));
+        QCOMPARE(field.text(), "Ada"_q);
     }
 
     void erasingTellsWhatAnyChangeTells()
@@ -216,14 +207,11 @@ private Q_SLOTS:
         for (int i = 0; i < 2; ++i) {
             QStringList *const log = &logs[i];
             edits[i]->resize(kSize);
-            edits[i]->setText(QStringLiteral("Ada"));
+            edits[i]->setText("Ada"_q);
             edits[i]->setSelection(0, 2);
-            connect(edits[i], &QLineEdit::textChanged,
-                    [log] { log->append(QStringLiteral("text")); });
-            connect(edits[i], &QLineEdit::textEdited,
-                    [log] { log->append(QStringLiteral("edited")); });
-            connect(edits[i], &QLineEdit::selectionChanged,
-                    [log] { log->append(QStringLiteral("selection")); });
+            connect(edits[i], &QLineEdit::textChanged, [log] { log->append("text"_q); });
+            connect(edits[i], &QLineEdit::textEdited, [log] { log->append("edited"_q); });
+            connect(edits[i], &QLineEdit::selectionChanged, [log] { log->append("selection"_q); });
             connect(edits[i], &QLineEdit::cursorPositionChanged,
                     [log](int from, int to) { log->append(QString::number(10 * from + to)); });
         }
@@ -238,7 +226,7 @@ private Q_SLOTS:
         QWidget window;
         QPointer<OmSearchField> field(new OmSearchField(&window));
         field->resize(kSize);
-        field->setText(QStringLiteral("Ada"));
+        field->setText("Ada"_q);
         window.show();
         connect(field, &QLineEdit::textChanged, this, [field] { delete field; });
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(190, 10));
@@ -251,11 +239,11 @@ private Q_SLOTS:
         QCOMPARE(accessible(&field)->role(), QAccessible::EditableText);
         field.setDefaultText(kDefaultText);
         QCOMPARE(accessibleName(&field), kDefaultText);
-        field.setDefaultText(QStringLiteral("Search"));
-        QCOMPARE(accessibleName(&field), QStringLiteral("Search"));
-        field.setAccessibleName(QStringLiteral("Contact"));
+        field.setDefaultText("Search"_q);
+        QCOMPARE(accessibleName(&field), "Search"_q);
+        field.setAccessibleName("Contact"_q);
         field.setDefaultText(kDefaultText);
-        QCOMPARE(accessibleName(&field), QStringLiteral("Contact"));
+        QCOMPARE(accessibleName(&field), "Contact"_q);
     }
 };
 

@@ -46,7 +46,7 @@ private Q_SLOTS:
         palette.setColor(QPalette::WindowText, Qt::red);
         bar.setPalette(palette);
         const QImage empty = painted(&bar);
-        bar.showMessage(QStringLiteral("Connected"));
+        bar.showMessage("Connected"_q);
         const QImage withMessage = painted(&bar);
         const auto redPixels = [](const QImage &image) {
             int count = 0;

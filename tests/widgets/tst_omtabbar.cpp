@@ -8,7 +8,6 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOptionTab>
 
-#include <memory>
 #include <tuple>
 
 using namespace ombrin::test;
@@ -35,19 +34,19 @@ public:
         const QString &deed = step.first();
         const int index = step.value(1).toInt();
         const int target = step.value(2).toInt();
-        if (deed == QLatin1String("remove"))
+        if (deed == "remove"_q)
             removeTab(index);
-        else if (deed == QLatin1String("insert"))
-            insertTab(index, QStringLiteral("new"));
-        else if (deed == QLatin1String("move"))
+        else if (deed == "insert"_q)
+            insertTab(index, "new"_q);
+        else if (deed == "move"_q)
             moveTab(index, target);
-        else if (deed == QLatin1String("drag"))
+        else if (deed == "drag"_q)
             dragOnto(this, index, target, true);
-        else if (deed == QLatin1String("name"))
-            setTabText(index, QStringLiteral("new"));
-        else if (deed == QLatin1String("hide"))
+        else if (deed == "name"_q)
+            setTabText(index, "new"_q);
+        else if (deed == "hide"_q)
             enableTabText(false);
-        while (deed == QLatin1String("clear") && count() > 0)
+        while (deed == "clear"_q && count() > 0)
             removeTab(0);
     }
 
@@ -114,7 +113,7 @@ QString exchangesOf(const QSignalSpy &spy)
 {
     QStringList list;
     for (const QVariantList &arguments : spy)
-        list.append(QStringLiteral("%1,%2").arg(arguments[0].toInt()).arg(arguments[1].toInt()));
+        list.append("%1,%2"_q.arg(arguments[0].toInt()).arg(arguments[1].toInt()));
     return list.join(QLatin1Char(' '));
 }
 
@@ -141,25 +140,13 @@ private Q_SLOTS:
         OmTabBar bar;
         QVERIFY(!bar.usesScrollButtons());
         QCOMPARE(bar.focusPolicy(), Qt::NoFocus);
-        for (const bool enabled : {true, false}) {
-            QVERIFY(bar.setProperty("dragableTabs", enabled));
-            QCOMPARE(bar.acceptDrops(), enabled);
-            QVERIFY(bar.setProperty("tabText", enabled));
-            QCOMPARE(bar.hasTabText(), enabled);
-        }
     }
 
     void droppedTabExchangesPlaces_data()
     {
-        QTest::addColumn<int>("source"); // -1: empty space
-        QTest::addColumn<int>("target");
-        QTest::addColumn<bool>("rightHalf");
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QString>("exchanges");
-        const auto row = [](const char *name, int source, int target, bool rightHalf,
-                            const char *order, const char *exchanges) {
-            QTest::newRow(name) << source << target << rightHalf << order << exchanges;
-        };
+        // source: -1 is empty space
+        const auto row = columns<int, int, bool, QString, QString>("source", "target", "rightHalf",
+                                                                   "order", "exchanges");
         row("right half of a later tab", 1, 3, true, "ADCBE", "3,1");
         row("left half of a later tab", 1, 3, false, "ACBDE", "2,1");
         row("left half of the first tab", 1, 0, false, "BACDE", "0,1");
@@ -175,12 +162,11 @@ private Q_SLOTS:
         QFETCH(int, target);
         QFETCH(bool, rightHalf);
         QFETCH(QString, order);
-        QFETCH(QString, exchanges);
-        Bar bar(QStringLiteral("ABCDE"));
+        Bar bar("ABCDE"_q);
         QSignalSpy spy(&bar, &OmTabBar::tabsExchanged);
         dragOnto(&bar, source, target, rightHalf);
         QCOMPARE(bar.order(), order);
-        QCOMPARE(exchangesOf(spy), exchanges);
+        QTEST(exchangesOf(spy), "exchanges");
         // The next drag is not confused by this one.
         dragOnto(&bar, 0, 1, false);
         QCOMPARE(bar.order(), order);
@@ -188,7 +174,7 @@ private Q_SLOTS:
 
     void shortOrForbiddenMovesAreNoDrags()
     {
-        Bar bar(QStringLiteral("ABC"));
+        Bar bar("ABC"_q);
         const QPoint onTab = halfOfTab(bar, 1, true);
         QVERIFY(!dragTab(&bar, onTab, nothing, QApplication::startDragDistance() - 1));
         QCOMPARE(bar.currentIndex(), 1); // as with any tab bar
@@ -207,7 +193,7 @@ private Q_SLOTS:
         bar.enableDragableTabs(false);
         bar.setMovable(true);
         QVERIFY(!dragTab(&bar, halfOfTab(bar, 0, true), nothing, bar.tabRect(0).width()));
-        QVERIFY(bar.order() != QStringLiteral("ABC"));
+        QVERIFY(bar.order() != "ABC"_q);
     }
 
     void foreignDragsAreRefused()
@@ -219,8 +205,8 @@ private Q_SLOTS:
                                                                  {true, all, false}};
         for (const auto &drag : drags) {
             const bool isAccepted = std::get<2>(drag);
-            Bar bar(QStringLiteral("ABC"));
-            Bar other(QStringLiteral("XYZ"));
+            Bar bar("ABC"_q);
+            Bar other("XYZ"_q);
             Bar *const source = std::get<0>(drag) ? &other : &bar;
             const QPoint to = halfOfTab(bar, 2, true);
             const auto expectAccepted = [&](bool expected) {
@@ -231,23 +217,22 @@ private Q_SLOTS:
             };
             QVERIFY(dragTab(source, halfOfTab(*source, 0, true),
                             [&] { expectAccepted(isAccepted); }));
-            QCOMPARE(bar.order(), isAccepted ? QStringLiteral("CBA") : QStringLiteral("ABC"));
-            QCOMPARE(other.order(), QStringLiteral("XYZ"));
+            QCOMPARE(bar.order(), isAccepted ? "CBA"_q : "ABC"_q);
+            QCOMPARE(other.order(), "XYZ"_q);
             expectAccepted(false); // nor does a drag without a source, which is another program's
         }
     }
 
     void markerShowsWhereTheTabWouldGo_data()
     {
-        QTest::addColumn<int>("target");
-        QTest::addColumn<bool>("rightHalf");
-        QTest::addColumn<int>("tab");  // whose right edge counts
-        QTest::addColumn<int>("left"); // from that edge
-        QTest::newRow("before the first tab") << 0 << false << -1 << 1;
-        QTest::newRow("empty space") << -1 << false << -1 << 1;
-        QTest::newRow("after the first tab") << 0 << true << 0 << -1;
-        QTest::newRow("before the last tab") << 2 << false << 1 << -1;
-        QTest::newRow("after the last tab") << 2 << true << 2 << -2;
+        // tab: whose right edge counts
+        // left: from that edge
+        const auto row = columns<int, bool, int, int>("target", "rightHalf", "tab", "left");
+        row("before the first tab", 0, false, -1, 1);
+        row("empty space", -1, false, -1, 1);
+        row("after the first tab", 0, true, 0, -1);
+        row("before the last tab", 2, false, 1, -1);
+        row("after the last tab", 2, true, 2, -2);
     }
     void markerShowsWhereTheTabWouldGo()
     {
@@ -255,7 +240,7 @@ private Q_SLOTS:
         QFETCH(bool, rightHalf);
         QFETCH(int, tab);
         QFETCH(int, left);
-        Bar bar(QStringLiteral("ABC"));
+        Bar bar("ABC"_q);
         QPalette palette = bar.palette();
         palette.setColor(QPalette::WindowText, QColor(10, 20, 30));
         palette.setColor(QPalette::Highlight, QColor(250, 40, 50));
@@ -291,7 +276,7 @@ private Q_SLOTS:
     void markerGoesWithTheDrag()
     {
         QFETCH(QString, end);
-        Bar bar(QStringLiteral("ABC"));
+        Bar bar("ABC"_q);
         bar.setCurrentIndex(1);
         const QImage idle = painted(&bar);
         const QPoint onItself = halfOfTab(bar, 1, true);
@@ -299,44 +284,44 @@ private Q_SLOTS:
             sendDrag<QDragEnterEvent>(&bar, onItself);
             sendDrag<QDragMoveEvent>(&bar, onItself);
             QVERIFY(painted(&bar) != idle);
-            if (end == QLatin1String("cancel"))
+            if (end == "cancel"_q)
                 return;
-            if (end == QLatin1String("drop"))
+            if (end == "drop"_q)
                 sendDrag<QDropEvent>(&bar, onItself);
-            else if (end == QLatin1String("refused drop"))
+            else if (end == "refused drop"_q)
                 sendDrag<QDropEvent>(&bar, onItself, Qt::CopyAction);
-            if (end == QLatin1String("forbid"))
+            if (end == "forbid"_q)
                 bar.enableDragableTabs(false);
-            if (end == QLatin1String("forbid") || end == QLatin1String("leave"))
+            if (end == "forbid"_q || end == "leave"_q)
                 sendDragLeave(&bar);
             QCOMPARE(painted(&bar), idle);
         }));
         QCOMPARE(painted(&bar), idle);
-        QCOMPARE(bar.order(), QStringLiteral("ABC"));
+        QCOMPARE(bar.order(), "ABC"_q);
     }
 
     void disabledAndHiddenTabsStaySo()
     {
-        Bar bar(QStringLiteral("ABCD"));
+        Bar bar("ABCD"_q);
         bar.setTabEnabled(3, false);
         dragOnto(&bar, 0, 3, true);
-        QCOMPARE(bar.order(), QStringLiteral("DBCA"));
+        QCOMPARE(bar.order(), "DBCA"_q);
         QVERIFY(!bar.isTabEnabled(0) && bar.isTabEnabled(3));
 
         bar.setTabVisible(1, false);
         dragOnto(&bar, 3, 2, false); // in the place of the hidden tab is none to see
-        QCOMPARE(bar.order(), QStringLiteral("DBAC"));
+        QCOMPARE(bar.order(), "DBAC"_q);
         dragOnto(&bar, 2, -1, false);
-        QCOMPARE(bar.order(), QStringLiteral("ABDC"));
+        QCOMPARE(bar.order(), "ABDC"_q);
         bar.setTabVisible(2, false);
         dragOnto(&bar, 0, 3, false);
-        QCOMPARE(bar.order(), QStringLiteral("DBAC"));
+        QCOMPARE(bar.order(), "DBAC"_q);
         QVERIFY(!bar.isTabVisible(0) && !bar.isTabVisible(1) && bar.isTabVisible(2));
     }
 
     void canceledDragLeavesNoPressedTab()
     {
-        Bar bar(QStringLiteral("AB"));
+        Bar bar("AB"_q);
         sendMouse(&bar, QEvent::MouseButtonPress, halfOfTab(bar, 1, false));
         QVERIFY(bar.isPressed(1));
         QTimer::singleShot(0, &bar, [] { QDrag::cancel(); });
@@ -347,13 +332,7 @@ private Q_SLOTS:
 
     void hostMayChangeTabsDuringADrag_data()
     {
-        QTest::addColumn<int>("target");
-        QTest::addColumn<QString>("captions");
-        QTest::addColumn<QString>("exchanges");
-        const auto row = [](const char *change, int target, const char *captions,
-                            const char *exchanges) {
-            QTest::newRow(change) << target << captions << exchanges;
-        };
+        const auto row = columns<int, QString, QString>("target", "captions", "exchanges");
         // B is dragged; the target is an index after the change.
         row("remove 0", 2, "D|C|B|E", "2,0");
         row("remove 1", 2, "A|C|D|E", "");
@@ -369,8 +348,7 @@ private Q_SLOTS:
     {
         QFETCH(int, target);
         QFETCH(QString, captions);
-        QFETCH(QString, exchanges);
-        Bar bar(QStringLiteral("ABCDE"));
+        Bar bar("ABCDE"_q);
         QSignalSpy spy(&bar, &OmTabBar::tabsExchanged);
         const auto drop = [&] {
             const QPoint to = halfOfTab(bar, target, true);
@@ -378,7 +356,7 @@ private Q_SLOTS:
             QVERIFY(sendDrag<QDropEvent>(&bar, to));
         };
         QStringList change = words(QTest::currentDataTag());
-        const bool dropsFirst = change.first() == QLatin1String("drop,");
+        const bool dropsFirst = change.first() == "drop,"_q;
         if (dropsFirst)
             change = change.mid(2);
         QVERIFY(dragTab(&bar, halfOfTab(bar, 1, true), [&] {
@@ -393,7 +371,7 @@ private Q_SLOTS:
                 drop();
         }));
         QCOMPARE(bar.captions(), captions);
-        QCOMPARE(exchangesOf(spy), exchanges);
+        QTEST(exchangesOf(spy), "exchanges");
     }
 
     void barMayBeDeletedDuringADrag_data()
@@ -406,7 +384,7 @@ private Q_SLOTS:
     void barMayBeDeletedDuringADrag()
     {
         QFETCH(QString, moment);
-        auto *const bar = new Bar(QStringLiteral("ABC"));
+        auto *const bar = new Bar("ABC"_q);
         const QPointer<Bar> guard(bar);
         bar->setTabEnabled(2, false);
         bar->show();
@@ -435,11 +413,7 @@ private Q_SLOTS:
 
     void captionsComeBackToTheirTabs_data()
     {
-        QTest::addColumn<QString>("hidden");
-        QTest::addColumn<QString>("shown");
-        const auto row = [](const char *change, const char *hidden, const char *shown) {
-            QTest::newRow(change) << hidden << shown;
-        };
+        const auto row = columns<QString, QString>("hidden", "shown");
         row("hide", "||", "A|B|C");
         row("drag 0 2", "||", "C|B|A");
         row("insert 0", "new|||", "|A|B|C");
@@ -449,36 +423,33 @@ private Q_SLOTS:
     }
     void captionsComeBackToTheirTabs()
     {
-        QFETCH(QString, hidden);
-        QFETCH(QString, shown);
-        Bar bar(QStringLiteral("ABC"));
+        Bar bar("ABC"_q);
         bar.enableTabText(false);
         bar.perform(words(QTest::currentDataTag()));
-        QCOMPARE(bar.captions(), hidden);
+        QTEST(bar.captions(), "hidden");
         bar.enableTabText(true);
         bar.enableTabText(true);
-        QCOMPARE(bar.captions(), shown);
+        QTEST(bar.captions(), "shown");
         bar.enableTabText(false);
         bar.enableTabText(true);
-        QCOMPARE(bar.captions(), shown);
+        QTEST(bar.captions(), "shown");
     }
 
     void screenReadersKnowHiddenCaptions()
     {
         Bar bar;
-        for (const QString &caption :
-             {QStringLiteral("&Chat && more"), QStringLiteral("Calls"), QStringLiteral("Files")})
+        for (const QString &caption : {"&Chat && more"_q, "Calls"_q, "Files"_q})
             bar.addTab(caption);
-        bar.setAccessibleTabName(1, QStringLiteral("3 missed calls"));
+        bar.setAccessibleTabName(1, "3 missed calls"_q);
         bar.resize(bar.sizeHint());
         bar.enableTabText(false);
-        QCOMPARE(bar.names(), QStringLiteral("Chat & more|3 missed calls|Files"));
+        QCOMPARE(bar.names(), "Chat & more|3 missed calls|Files"_q);
         dragOnto(&bar, 0, 2, true);
-        QCOMPARE(bar.names(), QStringLiteral("Files|3 missed calls|Chat & more"));
+        QCOMPARE(bar.names(), "Files|3 missed calls|Chat & more"_q);
         bar.enableTabText(true);
         // A name that only stood in for the caption goes as soon as the caption is back.
         QCOMPARE(bar.accessibleTabName(2), QString());
-        QCOMPARE(bar.accessibleTabName(1), QStringLiteral("3 missed calls"));
+        QCOMPARE(bar.accessibleTabName(1), "3 missed calls"_q);
     }
 };
 

@@ -2,9 +2,6 @@
 #include "support/XUser.h"
 #include "widgets/LetteredTabs.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QTimer>
-
 #include <functional>
 #include <utility>
 
@@ -16,12 +13,12 @@ namespace {
 class Tabs : public LetteredTabs
 {
 public:
-    explicit Tabs(const QString &letters, const QRect &place = QRect(100, 100, 500, 200))
+    explicit Tabs(const QString &letters)
         : LetteredTabs(letters)
     {
         tabBar()->setExpanding(false);
         setDocumentMode(true); // gives the bar the whole width
-        setGeometry(place);
+        setGeometry(100, 100, 500, 200);
         show();
         activateWindow();
     }
@@ -49,8 +46,8 @@ void drag(const QPoint &from, const QPoint &to)
 
 QStringList moveTo(const QPoint &position)
 {
-    return {QStringLiteral("mousemove"), QString::number(position.x()),
-            QString::number(position.y()), QStringLiteral("sleep"), QStringLiteral("0.1")};
+    return {"mousemove"_q, QString::number(position.x()), QString::number(position.y()), "sleep"_q,
+            "0.1"_q};
 }
 
 // A drag with an interruption. The event loop of the drag holds up everything that waits for it.
@@ -64,11 +61,9 @@ public:
         m_deed = deed;
         tabs->tabBar()->installEventFilter(this);
         const QPoint from = tabs->half(1, true);
-        const QStringList script = moveTo(from)
-                                   + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")}
-                                   + moveTo(from + QPoint(5, 0)) + moveTo(from + QPoint(15, 0))
-                                   + moveTo(tabs->half(2, true));
-        runBeside(QStringLiteral("xdotool"), script);
+        const QStringList script = moveTo(from) + words("mousedown 1") + moveTo(from + QPoint(5, 0))
+                                   + moveTo(from + QPoint(15, 0)) + moveTo(tabs->half(2, true));
+        runBeside("xdotool"_q, script);
         return !m_deed
                && TestCase::waitFor([this] { return m_user.state() == QProcess::NotRunning; });
     }
@@ -78,7 +73,7 @@ protected:
     {
         if (event->type() == QEvent::DragMove && m_deed) {
             QTimer::singleShot(0, this, [this, deed = std::exchange(m_deed, nullptr)] {
-                m_user.start(QStringLiteral("xdotool"), deed());
+                m_user.start("xdotool"_q, deed());
             });
         }
         return false;
@@ -89,12 +84,6 @@ private:
     QProcess m_user;
 };
 
-QStringList mouseUp()
-{
-    return {QStringLiteral("mouseup"), QStringLiteral("1"), QStringLiteral("sleep"),
-            QStringLiteral("0.2")};
-}
-
 } // namespace
 
 class tst_OmTabsX11 : public TestCase
@@ -104,13 +93,13 @@ class tst_OmTabsX11 : public TestCase
 private Q_SLOTS:
     void mouseExchangesTabs()
     {
-        Tabs tabs(QStringLiteral("ABCDE"));
+        Tabs tabs("ABCDE"_q);
         QVERIFY(tabs.isReady());
         QSignalSpy spy(tabs.bar(), &OmTabBar::tabsExchanged);
         drag(tabs.half(1, true), tabs.half(3, true));
-        QTRY_COMPARE_WITH_TIMEOUT(tabs.contents(), QStringLiteral("Aa Dd Cc [Bb] Ee"), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(tabs.contents(), "Aa Dd Cc [Bb] Ee"_q, 20000);
         drag(tabs.half(3, true), tabs.half(-1, false)); // onto empty space
-        QTRY_COMPARE_WITH_TIMEOUT(tabs.contents(), QStringLiteral("[Bb] Dd Cc Aa Ee"), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(tabs.contents(), "[Bb] Dd Cc Aa Ee"_q, 20000);
         QCOMPARE(spy.size(), 2);
 
         // The mouse is free again: a click selects a tab.
@@ -120,51 +109,50 @@ private Q_SLOTS:
 
     void typingGoesOnAfterADrag()
     {
-        Tabs tabs(QStringLiteral("ABC"));
+        Tabs tabs("ABC"_q);
         QVERIFY(tabs.isReady());
         auto *edit = qobject_cast<QLineEdit *>(tabs.currentWidget());
         clickAt(edit->mapToGlobal(edit->rect().center()));
         QVERIFY(waitFor([&] { return edit->hasFocus(); }));
         drag(tabs.half(0, true), tabs.half(2, true));
         QVERIFY(waitFor([&] { return tabs.currentIndex() == 2; }));
-        xdo(QStringLiteral("type hello"));
-        QVERIFY(waitFor([&] { return edit->text() == QLatin1String("hello"); }));
+        xdo("type hello"_q);
+        QVERIFY(waitFor([&] { return edit->text() == "hello"_q; }));
     }
 
     void escapeCancelsTheDrag()
     {
-        Tabs tabs(QStringLiteral("ABC"));
+        Tabs tabs("ABC"_q);
         QVERIFY(tabs.isReady());
         tabs.setCurrentIndex(1);
         const QImage idle = tabs.tabBar()->grab().toImage();
         QImage dragged;
         QVERIFY(InterruptedDrag().run(&tabs, [&] {
             dragged = tabs.tabBar()->grab().toImage();
-            return QStringList{QStringLiteral("key"), QStringLiteral("Escape")} + mouseUp()
-                   + moveTo(QPoint(10, 10));
+            return words("key Escape mouseup 1 sleep 0.2") + moveTo(QPoint(10, 10));
         }));
         QVERIFY(dragged != idle); // the marker
         QVERIFY(waitFor([&] { return tabs.tabBar()->grab().toImage() == idle; }));
-        QCOMPARE(tabs.contents(), QStringLiteral("Aa [Bb] Cc"));
+        QCOMPARE(tabs.contents(), "Aa [Bb] Cc"_q);
     }
 
     // The tab widget is the window itself, of which the drag has most to lose.
     void hostMayDeleteTheTabsDuringADrag()
     {
-        QPointer<Tabs> tabs(new Tabs(QStringLiteral("ABCD")));
+        QPointer<Tabs> tabs(new Tabs("ABCD"_q));
         QVERIFY(tabs->isReady());
         QVERIFY(InterruptedDrag().run(tabs, [&] {
             const QPoint last = tabs->half(3, true);
             delete tabs;
-            return moveTo(last) + mouseUp();
+            return moveTo(last) + words("mouseup 1 sleep 0.2");
         }));
         QVERIFY(!tabs);
 
         // Nothing of that drag is left to disturb the next one.
-        Tabs next(QStringLiteral("AB"));
+        Tabs next("AB"_q);
         QVERIFY(next.isReady());
         drag(next.half(0, true), next.half(1, true));
-        QVERIFY(waitFor([&] { return next.contents() == QLatin1String("Bb [Aa]"); }));
+        QVERIFY(waitFor([&] { return next.contents() == "Bb [Aa]"_q; }));
     }
 };
 

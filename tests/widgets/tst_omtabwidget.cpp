@@ -8,11 +8,8 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
-#include <memory>
-
 using namespace ombrin::test;
-using ombrin::OmTabBar;
-using ombrin::OmTabWidget;
+using namespace ombrin;
 
 namespace {
 
@@ -64,18 +61,18 @@ struct FragileTabs
 
     void destroy(const QString &victim)
     {
-        if (victim == QLatin1String("page"))
+        if (victim == "page"_q)
             delete page;
-        else if (victim == QLatin1String("tabs"))
+        else if (victim == "tabs"_q)
             delete tabs;
-        else if (victim == QLatin1String("button") && tabs)
+        else if (victim == "button"_q && tabs)
             removeCloseButton(tabs);
         else
             window.reset();
     }
 
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
-    QPointer<Tabs> tabs = new Tabs(QStringLiteral("ABC"));
+    QPointer<Tabs> tabs = new Tabs("ABC"_q);
     QPointer<QWidget> page = tabs->widget(0);
 };
 
@@ -105,28 +102,14 @@ private Q_SLOTS:
         QVERIFY(!tabs.hasDragableTabs() && !tabs.hasCloseTabButton());
     }
 
-    void forwardsToTheTabBar()
-    {
-        Tabs tabs(QStringLiteral("AB"));
-        QVERIFY(tabs.bar() && tabs.bar()->hasDragableTabs());
-        tabs.enableDragableTabs(false);
-        QVERIFY(!tabs.hasDragableTabs() && !tabs.bar()->hasDragableTabs());
-        tabs.enableTabText(false);
-        QVERIFY(!tabs.hasTabText());
-        QCOMPARE(tabs.contents(), QStringLiteral("[a] b"));
-    }
-
     void pagesFollowDraggedTabs_data()
     {
-        QTest::addColumn<int>("source");
-        QTest::addColumn<int>("target");
-        QTest::addColumn<bool>("rightHalf");
-        QTest::addColumn<QString>("contents");
-        QTest::newRow("later tab") << 1 << 3 << true << "Aa Dd Cc [Bb] Ee";
-        QTest::newRow("first tab") << 1 << 0 << false << "[Bb] Aa Cc Dd Ee";
-        QTest::newRow("from one end to the other") << 0 << 4 << true << "Ee Bb Cc Dd [Aa]";
-        QTest::newRow("a disabled tab, which a press does not select")
-                << 2 << 4 << true << "Aa Bb Ee Dd [Cc]";
+        const auto row =
+                columns<int, int, bool, QString>("source", "target", "rightHalf", "contents");
+        row("later tab", 1, 3, true, "Aa Dd Cc [Bb] Ee");
+        row("first tab", 1, 0, false, "[Bb] Aa Cc Dd Ee");
+        row("from one end to the other", 0, 4, true, "Ee Bb Cc Dd [Aa]");
+        row("a disabled tab, which a press does not select", 2, 4, true, "Aa Bb Ee Dd [Cc]");
     }
     void pagesFollowDraggedTabs()
     {
@@ -135,7 +118,7 @@ private Q_SLOTS:
         QFETCH(bool, rightHalf);
         QFETCH(QString, contents);
         for (const int current : {0, 4}) {
-            Tabs tabs(QStringLiteral("ABCDE"));
+            Tabs tabs("ABCDE"_q);
             tabs.setTabEnabled(2, source != 2);
             tabs.setCurrentIndex(current);
             QVERIFY(isShown(&tabs));
@@ -151,7 +134,7 @@ private Q_SLOTS:
 
     void swappingNonsenseSwapsNothing()
     {
-        Tabs tabs(QStringLiteral("ABC"));
+        Tabs tabs("ABC"_q);
         QVERIFY(isShown(&tabs));
         Tabs empty;
         const std::pair<int, int> nonsense[] = {{-1, 1}, {1, 3}, {17, -17}, {1, 1}};
@@ -159,19 +142,19 @@ private Q_SLOTS:
             Q_EMIT tabs.bar()->tabsExchanged(first, second);
             Q_EMIT empty.bar()->tabsExchanged(first, second);
         }
-        QCOMPARE(tabs.contents(), QStringLiteral("Aa [Bb] Cc"));
-        QCOMPARE(tabs.shownPage(), QStringLiteral("b"));
+        QCOMPARE(tabs.contents(), "Aa [Bb] Cc"_q);
+        QCOMPARE(tabs.shownPage(), "b"_q);
     }
 
     void pagesSwitchWithoutTabBar()
     {
-        Tabs tabs(QStringLiteral("ABC"));
+        Tabs tabs("ABC"_q);
         QVERIFY(isShown(&tabs));
         const int height = tabs.currentWidget()->height();
         tabs.enableTabBar(false);
         QVERIFY(!tabs.hasTabBar() && !tabs.tabBar()->isVisible());
         tabs.setCurrentIndex(2);
-        QCOMPARE(tabs.shownPage(), QStringLiteral("c"));
+        QCOMPARE(tabs.shownPage(), "c"_q);
         QTRY_VERIFY_WITH_TIMEOUT(tabs.currentWidget()->height() > height, 20000);
         tabs.enableTabBar(true);
         QVERIFY(tabs.hasTabBar() && tabs.tabBar()->isVisible());
@@ -180,13 +163,13 @@ private Q_SLOTS:
 
     void closeButtonStandsInTheCorner()
     {
-        Tabs tabs(QStringLiteral("AB"));
+        Tabs tabs("AB"_q);
         QVERIFY(isShown(&tabs));
         tabs.enableCloseTabButton(true);
         QToolButton *const button = tabs.closeButton();
         QVERIFY(button && button->isVisible() && button->isEnabled() && button->autoRaise());
         QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name),
-                 QStringLiteral("Close tab"));
+                 "Close tab"_q);
         for (const bool enabled : {false, true}) {
             tabs.enableCloseTabButton(enabled);
             QCOMPARE(tabs.hasCloseTabButton(), enabled);
@@ -197,7 +180,7 @@ private Q_SLOTS:
 
     void closeButtonRemovesTheCurrentTab()
     {
-        Tabs tabs(QStringLiteral("ABC"));
+        Tabs tabs("ABC"_q);
         tabs.enableCloseTabButton(true);
         QList<QWidget *> removed;
         connect(&tabs, &OmTabWidget::tabRemoved,
@@ -205,7 +188,7 @@ private Q_SLOTS:
         const QPointer<QWidget> page = tabs.widget(1);
         tabs.setCurrentIndex(1);
         tabs.closeButton()->click();
-        QCOMPARE(tabs.contents(), QStringLiteral("Aa [Cc]"));
+        QCOMPARE(tabs.contents(), "Aa [Cc]"_q);
         QVERIFY(page);
         QCOMPARE(removed, QList<QWidget *>{page});
 
@@ -222,7 +205,7 @@ private Q_SLOTS:
 
     void closeButtonSparesSpecialPages()
     {
-        Tabs tabs(QStringLiteral("ABCD"));
+        Tabs tabs("ABCD"_q);
         tabs.addSpecialWidget(tabs.widget(0)); // before there is a button
         tabs.enableCloseTabButton(true);
         QSignalSpy spy(&tabs, &OmTabWidget::tabRemoved);
@@ -252,13 +235,13 @@ private Q_SLOTS:
 
         // A special page that was dragged stays special.
         dragOnto(tabs.tabBar(), 0, 1, true);
-        QCOMPARE(tabs.contents(), QStringLiteral("Bb [Aa] Cc Dd"));
+        QCOMPARE(tabs.contents(), "Bb [Aa] Cc Dd"_q);
         QVERIFY(!tabs.closeButton()->isEnabled());
     }
 
     void closeButtonSurvivesItsEnemies()
     {
-        Tabs tabs(QStringLiteral("A"));
+        Tabs tabs("A"_q);
         QVERIFY(isShown(&tabs));
         for (const bool destroyed : {false, true}) {
             tabs.enableCloseTabButton(true);
@@ -266,7 +249,7 @@ private Q_SLOTS:
             tabs.setCornerWidget(new QLabel, Qt::TopRightCorner);
             if (destroyed)
                 delete button;
-            tabs.setCurrentIndex(tabs.addTab(new QLabel, QStringLiteral("B")));
+            tabs.setCurrentIndex(tabs.addTab(new QLabel, "B"_q));
             tabs.enableCloseTabButton(false);
             tabs.enableCloseTabButton(true);
             QCOMPARE(tabs.closeButton() == button, !destroyed);
@@ -285,8 +268,7 @@ private Q_SLOTS:
 
     void receiverOfTabRemovedMayDeleteAnything_data()
     {
-        QTest::addColumn<QString>("victim");
-        QTest::addColumn<bool>("early");
+        columns<QString, bool>("victim", "early");
         for (const char *victim : {"page", "tabs", "button", "window"}) {
             QTest::addRow("%s", victim) << victim << false;
             QTest::addRow("%s, in currentChanged", victim) << victim << true;
@@ -308,7 +290,7 @@ private Q_SLOTS:
             connect(test.tabs, &QTabWidget::currentChanged, this, [&] { test.destroy(victim); });
         test.tabs->closeButton()->click();
         if (test.tabs)
-            QCOMPARE(test.tabs->contents(), QStringLiteral("[Bb] Cc"));
+            QCOMPARE(test.tabs->contents(), "[Bb] Cc"_q);
         if (test.page)
             QCOMPARE(removed, QList<QWidget *>{test.page});
         else if (early && test.tabs)

@@ -5,8 +5,6 @@
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QMainWindow>
 
-#include <memory>
-
 using ombrin::OmToolBar;
 
 namespace {
@@ -19,7 +17,7 @@ struct Bar
         bar->setParent(&window);
         for (int i = 0; i < count; ++i) {
             auto *const button = new QToolButton;
-            button->setText(QStringLiteral("A button"));
+            button->setText("A button"_q);
             button->setToolButtonStyle(Qt::ToolButtonTextOnly);
             bar->addWidget(button);
             buttons.append(button);
@@ -91,7 +89,7 @@ private Q_SLOTS:
         Bar b;
         const int needed = widthOf(b.buttons);
         b.show();
-        b.buttons.last()->setText(QStringLiteral("A much longer text than before"));
+        b.buttons.last()->setText("A much longer text than before"_q);
         QCoreApplication::processEvents();
         b.bar->resize(needed + 31, 30);
         QVERIFY(b.hasTexts());

@@ -5,10 +5,8 @@
 
 #include <ombrin/OmSettings.h>
 
-#include <QtCore/QTemporaryDir>
-
 using namespace ombrin;
-using ombrin::test::FileDialogUser;
+using namespace ombrin::test;
 
 class PictureSavingTest : public ombrin::test::TestCase
 {
@@ -17,16 +15,16 @@ class PictureSavingTest : public ombrin::test::TestCase
 private Q_SLOTS:
     void proposesOnlyAName()
     {
-        const QString smiley = QStringLiteral("\U0001F600");
+        const QString smiley = "\U0001F600"_q;
         const QPair<QString, QString> rows[] = {
-                {QStringLiteral("Dr. Anna (home)"), QStringLiteral("Dr. Anna (home)")},
-                {QStringLiteral("../../etc/pass\\wd"), QStringLiteral("_._.._etc_pass_wd")},
-                {QStringLiteral(".."), QStringLiteral("_.")},
-                {QStringLiteral("~root"), QStringLiteral("_root")},
-                {QStringLiteral("\"a\" \"b\""), QStringLiteral("_a_ _b_")},
-                {QStringLiteral("a\nb\tc\x7f"), QStringLiteral("a_b_c_")},
-                {QStringLiteral("a\u202Egpj.exe"), QStringLiteral("a_gpj.exe")},
-                {QStringLiteral(" \n "), QString()},
+                {"Dr. Anna (home)"_q, "Dr. Anna (home)"_q},
+                {"../../etc/pass\\wd"_q, "_._.._etc_pass_wd"_q},
+                {".."_q, "_."_q},
+                {"~root"_q, "_root"_q},
+                {"\"a\" \"b\""_q, "_a_ _b_"_q},
+                {"a\nb\tc\x7f"_q, "a_b_c_"_q},
+                {"a\u202Egpj.exe"_q, "a_gpj.exe"_q},
+                {" \n "_q, QString()},
                 {QString(100000, QLatin1Char('x')), QString(80, QLatin1Char('x'))},
                 {QLatin1Char('x') + smiley.repeated(60), QLatin1Char('x') + smiley.repeated(39)},
         };
@@ -55,10 +53,10 @@ private Q_SLOTS:
         rememberFolder(m_folder->path());
 
         const FileDialogUser user([&](QFileDialog *dialog) {
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("Save as..."));
-            QCOMPARE(dialog->nameFilters(), {QStringLiteral("Picture (*.jpeg *.jpg)")});
+            QCOMPARE(dialog->windowTitle(), "Save as..."_q);
+            QCOMPARE(dialog->nameFilters(), {"Picture (*.jpeg *.jpg)"_q});
             QCOMPARE(dialog->directory(), QDir(m_folder->path()));
-            QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("Anna"));
+            QCOMPARE(FileDialogUser::proposal(dialog), "Anna"_q);
             FileDialogUser::save(dialog, folder + QLatin1Char('/') + typed);
         });
         save(picture());
@@ -74,10 +72,10 @@ private Q_SLOTS:
         rememberFolder(path("removed"));
         const FileDialogUser user([](QFileDialog *dialog) {
             QVERIFY(dialog->directory().exists());
-            QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("anna@home"));
+            QCOMPARE(FileDialogUser::proposal(dialog), "anna@home"_q);
             dialog->reject();
         });
-        save(picture(), QStringLiteral("\n"));
+        save(picture(), "\n"_q);
         QCOMPARE(user.count(), 1);
         QCOMPARE(rememberedFolder(), path("removed"));
     }
@@ -96,7 +94,7 @@ private Q_SLOTS:
                 dialog->reject();
         });
         save(picture(qRgb(0, 0, 255)));
-        QCOMPARE(proposals, QStringList({QStringLiteral("Anna"), QStringLiteral("anna.JPG.jpg")}));
+        QCOMPARE(proposals, QStringList({"Anna"_q, "anna.JPG.jpg"_q}));
         QVERIFY(QImage(existing).pixelColor(5, 5).red() > 128);
     }
 
@@ -123,12 +121,10 @@ private Q_SLOTS:
     {
         bool isAsked = false;
         const FileDialogUser user([this](QFileDialog *) { delete m_parent; });
-        savePictureAsJpeg(m_parent,
-                          {QString(), QString(), key(), QStringLiteral("Anna"), QString()},
-                          [&isAsked] {
-                              isAsked = true;
-                              return QImage();
-                          });
+        savePictureAsJpeg(m_parent, {QString(), QString(), key(), "Anna"_q, QString()}, [&isAsked] {
+            isAsked = true;
+            return QImage();
+        });
         QCOMPARE(user.count(), 1);
         QVERIFY(!isAsked);
     }
@@ -150,18 +146,16 @@ private:
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
     static QString rememberedFolder()
     {
-        return OmSettings::instance().get(key(), QString(), QStringLiteral("omchat")).toString();
+        return OmSettings::instance().get(key(), QString(), "omchat"_q).toString();
     }
     static void rememberFolder(const QString &folder)
     {
-        OmSettings::instance().set(key(), folder, QStringLiteral("omchat"));
+        OmSettings::instance().set(key(), folder, "omchat"_q);
     }
-    static QString key() { return QStringLiteral("save_test_path"); }
-    void save(const QImage &image, const QString &name = QStringLiteral("Anna"))
+    static QString key() { return "save_test_path"_q; }
+    void save(const QImage &image, const QString &name = "Anna"_q)
     {
-        savePictureAsJpeg(m_parent,
-                          {QStringLiteral("Save as..."), QStringLiteral("Picture"), key(), name,
-                           QStringLiteral("anna@home")},
+        savePictureAsJpeg(m_parent, {"Save as..."_q, "Picture"_q, key(), name, "anna@home"_q},
                           [image] { return image; });
     }
     static QImage picture(QRgb color = qRgb(200, 30, 40))

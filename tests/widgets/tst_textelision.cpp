@@ -17,7 +17,7 @@ private Q_SLOTS:
             QTest::newRow(name) << QString::fromUtf8(piece).repeated(count);
         };
         QTest::newRow("empty") << QString();
-        QTest::newRow("short") << QStringLiteral("Ada");
+        QTest::newRow("short") << "Ada"_q;
         addLong("Latin with ligatures", "An office affair, fi fl ffi. ", 300);
         addLong("wide", "W", 3000);
         addLong("narrow", "i", 3000);

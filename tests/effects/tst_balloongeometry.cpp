@@ -24,45 +24,36 @@ class tst_BalloonGeometry : public ombrin::test::TestCase
 private Q_SLOTS:
     void aPositionBelongsToItsScreenOrTheNearest_data()
     {
-        QTest::addColumn<QVector<QRect>>("screens");
-        QTest::addColumn<QPoint>("position");
-        QTest::addColumn<int>("index");
+        const auto row = columns<QVector<QRect>, QPoint, int>("screens", "position", "index");
         const QVector<QRect> screens = {kFirst, {1280, 200, 800, 600}, {-800, -600, 800, 600}};
-        QTest::newRow("first") << screens << QPoint(1279, 1023) << 0;
-        QTest::newRow("right of the first") << screens << QPoint(1280, 200) << 1;
-        QTest::newRow("left of and above the first") << screens << QPoint(-1, -1) << 2;
-        QTest::newRow("above the second") << screens << QPoint(1700, 150) << 1;
-        QTest::newRow("below the third") << screens << QPoint(-700, 10) << 2;
-        QTest::newRow("far away") << screens << QPoint(INT_MAX, INT_MIN) << 1;
-        QTest::newRow("no screens") << QVector<QRect>() << QPoint(1, 1) << -1;
+        row("first", screens, {1279, 1023}, 0);
+        row("right of the first", screens, {1280, 200}, 1);
+        row("left of and above the first", screens, {-1, -1}, 2);
+        row("above the second", screens, {1700, 150}, 1);
+        row("below the third", screens, {-700, 10}, 2);
+        row("far away", screens, {INT_MAX, INT_MIN}, 1);
+        row("no screens", QVector<QRect>(), {1, 1}, -1);
     }
 
     void aPositionBelongsToItsScreenOrTheNearest()
     {
         QFETCH(QVector<QRect>, screens);
         QFETCH(QPoint, position);
-        QFETCH(int, index);
-        QCOMPARE(screenAt(screens, position), index);
+        QTEST(screenAt(screens, position), "index");
     }
 
     void arrowStandsWhereTheBalloonHasRoom_data()
     {
-        QTest::addColumn<QRect>("screen");
-        QTest::addColumn<QPoint>("position");
-        QTest::addColumn<ArrowCorner>("corner");
-        QTest::addColumn<QPoint>("place");
+        const auto row = columns<QRect, QPoint, ArrowCorner, QPoint>("screen", "position", "corner",
+                                                                     "place");
         // The balloons are 100 x 40, with their margins 108 x 64.
-        const auto row = [](const char *name, const QRect &screen, QPoint position,
-                            ArrowCorner corner, QPoint place) {
-            QTest::newRow(name) << screen << position << corner << place;
-        };
         row("last row with room", kFirst, {600, 965}, kTopLeft, {582, 965});
         row("first row without", kFirst, {600, 966}, kBottomLeft, {582, 902});
         row("last column with room", kFirst, {1197, 500}, kTopLeft, {1179, 500});
         row("first column without", kFirst, {1198, 500}, kTopRight, {1108, 500});
         row("left edge", kFirst, {5, 500}, kTopLeft, {2, 500});
         row("lower right corner", kFirst, {1279, 1023}, kBottomRight, {1169, 959});
-        row("no screen", QRect(), {7, 8}, kBottomRight, {-111, -56});
+        row("no screen", {}, {7, 8}, kBottomRight, {-111, -56});
 
         // Width and height count from the origin on other screens too.
         const QRect right(1280, 0, 1280, 1024);
@@ -90,14 +81,13 @@ private Q_SLOTS:
         QFETCH(QRect, screen);
         QFETCH(QPoint, position);
         QFETCH(ArrowCorner, corner);
-        QFETCH(QPoint, place);
         const QSize contents(100, 40);
         const ArrowCorner actual = arrowCorner(position, contents, screen);
         QCOMPARE(actual.atTop, corner.atTop);
         QCOMPARE(actual.atLeft, corner.atLeft);
         const QMargins around = margins(corner);
         QCOMPARE(around, corner.atTop ? QMargins(4, 21, 4, 3) : QMargins(4, 3, 4, 21));
-        QCOMPARE(topLeft(position, contents.grownBy(around), corner, screen), place);
+        QTEST(topLeft(position, contents.grownBy(around), corner, screen), "place");
     }
 
     void thereIsRoomOnOneSideOfThePosition()

@@ -13,9 +13,9 @@ class tst_FittedText : public ombrin::test::TestCase
 private Q_SLOTS:
     void textThatFitsIsLeftAlone()
     {
-        for (const QString &text : {QString(), QStringLiteral("Hello <b>world</b> &amp; R&D"),
-                                    QStringLiteral("  first \n\n\tlast  "),
-                                    QStringLiteral("\u05e9\u05dc\u05d5\u05dd e\u0301\u0302")}) {
+        for (const QString &text :
+             {QString(), "Hello <b>world</b> &amp; R&D"_q, "  first \n\n\tlast  "_q,
+              "\u05e9\u05dc\u05d5\u05dd e\u0301\u0302"_q}) {
             QCOMPARE(fittedText(text, QApplication::font(), QSize(400, 100)), text);
         }
     }
@@ -23,10 +23,10 @@ private Q_SLOTS:
     void longLinesAreBroken()
     {
         const QFont font = QApplication::font();
-        const QString words = QStringLiteral("one two three four five six seven eight");
-        const int width = QFontMetrics(font).horizontalAdvance(QStringLiteral("one two three "));
+        const QString words = "one two three four five six seven eight"_q;
+        const int width = QFontMetrics(font).horizontalAdvance("one two three "_q);
         const QString broken = fittedText(words, font, QSize(width, 1000));
-        QCOMPARE(broken.section(QLatin1Char('\n'), 0, 0), QStringLiteral("one two three"));
+        QCOMPARE(broken.section(QLatin1Char('\n'), 0, 0), "one two three"_q);
         QString joined = broken;
         QCOMPARE(joined.replace(QLatin1Char('\n'), QLatin1Char(' ')), words);
 
@@ -38,16 +38,15 @@ private Q_SLOTS:
 
     void whatIsLeftOverBecomesAnEllipsis_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QSize>("size");
+        const auto row = columns<QString, QSize>("text", "size");
         const QSize size(300, 100);
         const int many = 100000;
-        QTest::newRow("one word") << QString(many, QLatin1Char('x')) << size;
-        QTest::newRow("empty lines") << QString(many, QLatin1Char('\n')) << size;
-        QTest::newRow("accents") << QLatin1Char('e') + QString(many, QChar(0x0301)) << size;
-        QTest::newRow("right to left") << QString(many, QChar(0x05d0)) << size;
-        QTest::newRow("halves of surrogates") << QString(many, QChar(0xd83d)) << size;
-        QTest::newRow("no room") << QString(many, QLatin1Char('x')) << QSize(0, 0);
+        row("one word", QString(many, QLatin1Char('x')), size);
+        row("empty lines", QString(many, QLatin1Char('\n')), size);
+        row("accents", QLatin1Char('e') + QString(many, QChar(0x0301)), size);
+        row("right to left", QString(many, QChar(0x05d0)), size);
+        row("halves of surrogates", QString(many, QChar(0xd83d)), size);
+        row("no room", QString(many, QLatin1Char('x')), {0, 0});
     }
     void whatIsLeftOverBecomesAnEllipsis()
     {

@@ -3,8 +3,6 @@
 
 #include <ombrin/OmBalloonTip.h>
 
-#include <QtCore/QAbstractEventDispatcher>
-#include <QtCore/QPointer>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QLabel>
@@ -13,14 +11,13 @@
 
 #include <functional>
 
-using ombrin::MessageIcon;
-using ombrin::OmBalloonTip;
+using namespace ombrin;
 using namespace ombrin::test;
 
 namespace {
 
-const QString kTitle = QStringLiteral("Ada");
-const QString kMessage = QStringLiteral("I am back at my desk.\nCall me!");
+const QString kTitle = "Ada"_q;
+const QString kMessage = "I am back at my desk.\nCall me!"_q;
 const QPoint kPosition(200, 150);
 const QColor kGround(0xff, 0xff, 0xde);
 
@@ -188,18 +185,15 @@ private Q_SLOTS:
 
     void bubbleAndArrowAreDrawn_data()
     {
-        QTest::addColumn<QPoint>("position");
-        QTest::addColumn<bool>("arrow");
-        QTest::addColumn<bool>("atTop");
-        QTest::addColumn<bool>("atLeft");
+        const auto row = columns<QPoint, bool, bool, bool>("position", "arrow", "atTop", "atLeft");
         const QRect screen = QGuiApplication::primaryScreen()->geometry();
         const int right = screen.right() - 30;
         const int bottom = screen.bottom() - 20;
-        QTest::newRow("top left") << QPoint(30, 30) << true << true << true;
-        QTest::newRow("top right") << QPoint(right, 30) << true << true << false;
-        QTest::newRow("bottom left") << QPoint(30, bottom) << true << false << true;
-        QTest::newRow("bottom right") << QPoint(right, bottom) << true << false << false;
-        QTest::newRow("no arrow") << QPoint(30, 30) << false << true << true;
+        row("top left", {30, 30}, true, true, true);
+        row("top right", {right, 30}, true, true, false);
+        row("bottom left", {30, bottom}, true, false, true);
+        row("bottom right", {right, bottom}, true, false, false);
+        row("no arrow", {30, 30}, false, true, true);
     }
 
     void bubbleAndArrowAreDrawn()
@@ -267,15 +261,15 @@ private Q_SLOTS:
 
     void theNextOneReplacesIt()
     {
-        showTip(QStringLiteral("first"));
+        showTip("first"_q);
         const QPointer<OmBalloonTip> first(onlyTip());
-        showTip(QStringLiteral("second"));
+        showTip("second"_q);
         QVERIFY(first && !first->isVisible());
         deleteClosed();
         QVERIFY(!first);
         // The end of the first is not the end of the second.
         QVERIFY(OmBalloonTip::isActive());
-        QVERIFY(labelWith(onlyTip(), QStringLiteral("second")));
+        QVERIFY(labelWith(onlyTip(), "second"_q));
 
         OmBalloonTip::hideBalloon();
         QVERIFY(!OmBalloonTip::isActive());
@@ -347,11 +341,11 @@ private Q_SLOTS:
 
         showTip();
         onlyTip()->installEventFilter(&onClose);
-        showTip(QStringLiteral("next"));
-        QVERIFY(labelWith(onlyTip(), QStringLiteral("next")));
+        showTip("next"_q);
+        QVERIFY(labelWith(onlyTip(), "next"_q));
         OmBalloonTip::hideBalloon();
 
-        Watcher replacing(QEvent::Hide, [](QObject *) { showTip(QStringLiteral("other")); });
+        Watcher replacing(QEvent::Hide, [](QObject *) { showTip("other"_q); });
         deleteClosed();
         showTip();
         OmBalloonTip *const replaced = onlyTip();
@@ -359,7 +353,7 @@ private Q_SLOTS:
         replaced->close();
         deleteClosed();
         QVERIFY(OmBalloonTip::isActive());
-        QVERIFY(labelWith(onlyTip(), QStringLiteral("other")));
+        QVERIFY(labelWith(onlyTip(), "other"_q));
 
         delete new OmBalloonTip(MessageIcon(1), kTitle, kMessage, true, true); // never shown
     }
@@ -382,13 +376,12 @@ private Q_SLOTS:
 
     void absurdTextsStayOnTheScreen_data()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("message");
+        const auto row = columns<QString, QString>("title", "message");
         const int many = 100000;
-        QTest::newRow("words") << kTitle << QStringLiteral("a few words ").repeated(many / 12);
-        QTest::newRow("one word") << kTitle << QString(many, QLatin1Char('x'));
-        QTest::newRow("title") << QString(many, QLatin1Char('x')) << kMessage;
-        QTest::newRow("title of lines") << QString(many, QLatin1Char('\n')) << kMessage;
+        row("words", kTitle, "a few words "_q.repeated(many / 12));
+        row("one word", kTitle, QString(many, QLatin1Char('x')));
+        row("title", QString(many, QLatin1Char('x')), kMessage);
+        row("title of lines", QString(many, QLatin1Char('\n')), kMessage);
     }
 
     void absurdTextsStayOnTheScreen()
@@ -407,7 +400,7 @@ private Q_SLOTS:
 
     void nothingIsInterpretedInItsTexts()
     {
-        const QString hostile = QStringLiteral("<b>R&D</b> &Save e\u0301 \u202e");
+        const QString hostile = "<b>R&D</b> &Save e\u0301 \u202e"_q;
         OmBalloonTip::showBalloon(MessageIcon(0), hostile, hostile, kPosition, 0, true, true,
                                   false);
         const auto labels = onlyTip()->findChildren<QLabel *>();
@@ -443,7 +436,7 @@ private Q_SLOTS:
         QCOMPARE(accessible(onlyTip())->role(), QAccessible::ToolTip);
         QCOMPARE(accessibleName(onlyTip()), kTitle);
         QCOMPARE(accessible(onlyTip())->text(QAccessible::Description), kMessage);
-        QCOMPARE(accessibleName(onlyTip()->findChild<QPushButton *>()), QStringLiteral("Close"));
+        QCOMPARE(accessibleName(onlyTip()->findChild<QPushButton *>()), "Close"_q);
         QVERIFY(isAccessiblyPressable(onlyTip()));
         pressAccessibly(onlyTip());
         deleteClosed();

@@ -1,29 +1,22 @@
 #include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 #include "support/XUser.h"
 
 #include <ombrin/OmBalloonTip.h>
 
-#include <QtCore/QPointer>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
 using namespace ombrin::test;
-using ombrin::MessageIcon;
-using ombrin::OmBalloonTip;
+using namespace ombrin;
 
 namespace {
 
 OmBalloonTip *showTip(const QPoint &position, int timeout = 0)
 {
-    OmBalloonTip::showBalloon(MessageIcon(0), QString(), QStringLiteral("A message of two\nlines"),
-                              position, timeout, true, false, false);
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *const tip = qobject_cast<OmBalloonTip *>(widget);
-        if (tip && tip->isVisible())
-            return tip;
-    }
-    return nullptr;
+    OmBalloonTip::showBalloon(MessageIcon(0), QString(), "A message of two\nlines"_q, position,
+                              timeout, true, false, false);
+    return shown<OmBalloonTip>();
 }
 
 QScreen *secondScreen()
@@ -43,10 +36,9 @@ QRect nativeRect(const QRect &rect, const QScreen *screen)
 QRect serverRect(const QWidget *widget)
 {
     const WId id = widget->windowHandle()->winId(); // the widget's own may be out of date
-    const QString info =
-            runBeside(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::number(id)});
+    const QString info = runBeside("xwininfo"_q, {"-id"_q, QString::number(id)});
     const auto number = [&info](const char *key) {
-        const QRegularExpression line(QLatin1String(key) + QLatin1String(":\\s+(-?\\d+)"));
+        const QRegularExpression line(QLatin1String(key) + ":\\s+(-?\\d+)"_q);
         return line.match(info).captured(1).toInt();
     };
     return QRect(number("Absolute upper-left X"), number("Absolute upper-left Y"), number("Width"),
@@ -68,20 +60,19 @@ private Q_SLOTS:
 
     void itPointsAtItsPositionOnAnyScreen_data()
     {
-        QTest::addColumn<QPoint>("place"); // of the second screen
-        QTest::newRow("right of the first") << QPoint(1280, 0);
-        QTest::newRow("right of the first and lower") << QPoint(1280, 600);
-        QTest::newRow("below the first") << QPoint(0, 1024);
-        QTest::newRow("below the first and further right") << QPoint(900, 1024);
+        const auto row = columns<QPoint>("second");
+        row("second right of the first", {1280, 0});
+        row("second right of the first and lower", {1280, 600});
+        row("second below the first", {0, 1024});
+        row("second below the first and further right", {900, 1024});
     }
 
     void itPointsAtItsPositionOnAnyScreen()
     {
-        QFETCH(QPoint, place);
-        runBeside(QStringLiteral("xrandr"),
-                  {QStringLiteral("--output"), QStringLiteral("DUMMY1"), QStringLiteral("--pos"),
-                   QStringLiteral("%1x%2").arg(place.x()).arg(place.y())});
-        QVERIFY(waitFor([&] { return secondScreen()->geometry().topLeft() == place; }));
+        QFETCH(QPoint, second);
+        const QString corner = "%1x%2"_q.arg(second.x()).arg(second.y());
+        runBeside("xrandr"_q, {"--output"_q, "DUMMY1"_q, "--pos"_q, corner});
+        QVERIFY(waitFor([&] { return secondScreen()->geometry().topLeft() == second; }));
 
         for (QScreen *screen : QGuiApplication::screens()) {
             const QRect area = screen->geometry();
@@ -92,18 +83,18 @@ private Q_SLOTS:
                 QVERIFY(QTest::qWaitForWindowExposed(tip, 20000));
                 QCOMPARE(tip->devicePixelRatioF(), screen->devicePixelRatio());
 
-                const QRect shown(tip->pos(), tip->size());
-                QVERIFY(shown.top() == position.y() || shown.bottom() == position.y() - 1);
-                QVERIFY(shown.left() + 18 == position.x() || shown.right() - 17 == position.x());
-                QVERIFY(area.contains(shown));
-                QCOMPARE(serverRect(tip), nativeRect(shown, screen));
+                const QRect place(tip->pos(), tip->size());
+                QVERIFY(place.top() == position.y() || place.bottom() == position.y() - 1);
+                QVERIFY(place.left() + 18 == position.x() || place.right() - 17 == position.x());
+                QVERIFY(area.contains(place));
+                QCOMPARE(serverRect(tip), nativeRect(place, screen));
             }
         }
     }
 
     void withoutTheMouseItGoesWhenItsTimeIsUp()
     {
-        xdo(QStringLiteral("mousemove 2 2"));
+        xdo("mousemove 2 2"_q);
         const QPointer<OmBalloonTip> tip(showTip(secondScreen()->geometry().center(), 100));
         QVERIFY(waitFor([&] { return tip.isNull(); }));
     }

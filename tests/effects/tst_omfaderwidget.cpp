@@ -2,7 +2,6 @@
 
 #include <ombrin/OmFaderWidget.h>
 
-#include <QtCore/QPointer>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 
@@ -14,13 +13,6 @@ namespace {
 
 constexpr QRgb kGround = 0xff2040c0;
 constexpr QRgb kFade = 0xffd08030;
-
-using Fade = void (OmFaderWidget::*)();
-
-Fade fadeFunction(bool out)
-{
-    return out ? &OmFaderWidget::fadeOut : &OmFaderWidget::fadeIn;
-}
 
 // What one paint of \a fader leaves of the ground.
 QRgb paintOnce(OmFaderWidget *fader)
@@ -74,57 +66,43 @@ private Q_SLOTS:
 
     void everyPaintMovesTheAlphaByOneStep_data()
     {
-        QTest::addColumn<bool>("out");
-        QTest::addColumn<int>("duration");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<int>("paints");
-
-        const struct
-        {
-            const char *name;
-            int duration;
-            int step;
-            int paints;
-        } rows[] = {
-                {"default", 333, 25, 11},
-                {"a second", 1000, 8, 32},
-                {"longest", 8415, 1, 255},
-                {"beyond the longest", 8416, 1, 255},
-                {"zero", 0, 8415, 1},
-                {"negative", -333, 8415, 1},
-                {"most negative", std::numeric_limits<int>::min(), 8415, 1},
-        };
-        for (const auto &row : rows) {
-            for (const bool out : {false, true})
-                QTest::addRow("%s, %s", row.name, out ? "out" : "in")
-                        << out << row.duration << row.step << row.paints;
-        }
+        const auto row = columns<int, int, int>("duration", "step", "paints");
+        row("default", 333, 25, 11);
+        row("a second", 1000, 8, 32);
+        row("longest", 8415, 1, 255);
+        row("beyond the longest", 8416, 1, 255);
+        row("zero", 0, 8415, 1);
+        row("negative", -333, 8415, 1);
+        row("most negative", std::numeric_limits<int>::min(), 8415, 1);
     }
 
     void everyPaintMovesTheAlphaByOneStep()
     {
-        QFETCH(bool, out);
         QFETCH(int, duration);
         QFETCH(int, step);
         QFETCH(int, paints);
-
-        QWidget parent;
-        parent.resize(20, 10);
-        QPointer<OmFaderWidget> fader = new OmFaderWidget(&parent);
-        QSignalSpy done(fader, &OmFaderWidget::done);
-        fader->setFadeColor(QColor::fromRgb(kFade));
-        fader->setFadeDuration(duration);
-        QCOMPARE(paintOnce(fader), kGround);
-        (fader->*fadeFunction(out))();
-        for (int paint = 0; paint < paints; ++paint) {
-            const int alpha = out ? paint * step : 255 - paint * step;
-            QCOMPARE(paintOnce(fader), blended(alpha));
-            QVERIFY(fader->isVisibleTo(&parent));
+        for (const bool out : {false, true}) {
+            QWidget parent;
+            parent.resize(20, 10);
+            QPointer<OmFaderWidget> fader = new OmFaderWidget(&parent);
+            QSignalSpy done(fader, &OmFaderWidget::done);
+            fader->setFadeColor(QColor::fromRgb(kFade));
+            fader->setFadeDuration(duration);
+            QCOMPARE(paintOnce(fader), kGround);
+            if (out)
+                fader->fadeOut();
+            else
+                fader->fadeIn();
+            for (int paint = 0; paint < paints; ++paint) {
+                const int alpha = out ? paint * step : 255 - paint * step;
+                QCOMPARE(paintOnce(fader), blended(alpha));
+                QVERIFY(fader->isVisibleTo(&parent));
+            }
+            // What comes before the end is told already shows the end.
+            QCOMPARE(paintOnce(fader), blended(out ? 255 : 0));
+            QVERIFY(waitFor([&] { return fader.isNull(); }));
+            QCOMPARE(done, QList<QVariantList>{{out}});
         }
-        // What comes before the end is told already shows the end.
-        QCOMPARE(paintOnce(fader), blended(out ? 255 : 0));
-        QVERIFY(waitFor([&] { return fader.isNull(); }));
-        QCOMPARE(done, QList<QVariantList>{{out}});
     }
 
     void startingAgainBeginsAtThatDirectionsEnd()

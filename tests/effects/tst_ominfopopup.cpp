@@ -6,17 +6,13 @@
 #include <ombrin/OmFaderWidget.h>
 #include <ombrin/OmInfoPopup.h>
 #include <ombrin/OmSkin.h>
-#include <ombrin/OmTrayPopup.h>
 
 #include <QtGui/QScreen>
 #include <QtWidgets/QTextEdit>
 #include <QtWidgets/QVBoxLayout>
 
-#include <memory>
-
 using namespace ombrin::test;
-using ombrin::OmFaderWidget;
-using ombrin::OmInfoPopup;
+using namespace ombrin;
 
 namespace {
 
@@ -27,7 +23,7 @@ struct Host
     {
         window.setGeometry(QRect(position, QSize(200, 100)));
         icon->move(20, 30);
-        icon->setPopupMessage(QStringLiteral("A <b>message</b>"));
+        icon->setPopupMessage("A <b>message</b>"_q);
         window.show();
     }
 
@@ -65,7 +61,7 @@ private Q_SLOTS:
         QCOMPARE(icon.minimumSize(), QSize(16, 16));
         QCOMPARE(icon.maximumSize(), QSize(16, 16));
         QCOMPARE(icon.pixmap(Qt::ReturnByValue).toImage(),
-                 ombrin::skinPixmap(QStringLiteral(":/is_typing-16")).toImage());
+                 ombrin::skinPixmap(":/is_typing-16"_q).toImage());
         QVERIFY(icon.popupMessage().isNull() && icon.notice().isNull() && !icon.noticeInput());
     }
 
@@ -79,43 +75,43 @@ private Q_SLOTS:
         QVERIFY(qobject_cast<QVBoxLayout *>(host.popup->layout()));
         const auto *const message = host.popup->findChild<QLabel *>();
         QVERIFY(message->wordWrap());
-        QCOMPARE(message->text(), QStringLiteral("A <b>message</b>"));
+        QCOMPARE(message->text(), "A <b>message</b>"_q);
         QCOMPARE(message->textFormat(), Qt::PlainText);
         QVERIFY(!host.popup->findChild<QTextEdit *>());
 
         const auto *const fader = host.popup->findChild<OmFaderWidget *>();
         QVERIFY(fader);
-        QCOMPARE(fader->fadeColor(), QColor(QStringLiteral("#fffc00")));
+        QCOMPARE(fader->fadeColor(), QColor("#fffc00"_q));
         QCOMPARE(fader->size(), QSize(150, 150));
         QVERIFY(host.waitForFades());
         QVERIFY(host.popup->isVisible());
-        QCOMPARE(host.popup->grab().toImage().pixelColor(2, 2), QColor(QStringLiteral("#fffc00")));
+        QCOMPARE(host.popup->grab().toImage().pixelColor(2, 2), QColor("#fffc00"_q));
     }
 
     void popupIsBuiltOnceAndUsedAgain()
     {
         for (const bool noticeInput : {false, true}) {
             Host host;
-            host.icon->setNotice(QStringLiteral("<i>notice</i>"));
+            host.icon->setNotice("<i>notice</i>"_q);
             host.icon->enableNoticeInput(noticeInput);
             host.hover();
             const QPointer<QWidget> first = host.popup;
             host.popup->close();
 
             host.icon->enableNoticeInput(!noticeInput);
-            host.icon->setNotice(QStringLiteral("another"));
-            host.icon->setPopupMessage(QStringLiteral("another"));
+            host.icon->setNotice("another"_q);
+            host.icon->setPopupMessage("another"_q);
             host.window.move(150, 120);
             host.popup->resize(20, 20);
             host.hover();
             QCOMPARE(host.popup, first);
             QCOMPARE(host.popup->geometry(),
                      QRect(host.icon->mapToGlobal(QPoint(0, 0)), QSize(150, 150)));
-            QCOMPARE(host.popup->findChild<QLabel *>()->text(), QStringLiteral("A <b>message</b>"));
+            QCOMPARE(host.popup->findChild<QLabel *>()->text(), "A <b>message</b>"_q);
             const auto *const box = host.popup->findChild<QTextEdit *>();
             QCOMPARE(box != nullptr, noticeInput);
             if (box) {
-                QCOMPARE(box->toPlainText(), QStringLiteral("<i>notice</i>"));
+                QCOMPARE(box->toPlainText(), "<i>notice</i>"_q);
                 QVERIFY(box->y() > host.popup->findChild<QLabel *>()->y());
             }
         }
@@ -169,13 +165,6 @@ private Q_SLOTS:
                 [&] { delete host.icon; });
         QVERIFY(waitFor([&] { return host.icon.isNull(); }));
         QVERIFY(!host.popup);
-    }
-
-    void trayPopupIsAPlainFrame()
-    {
-        ombrin::OmTrayPopup popup;
-        QCOMPARE(popup.metaObject()->className(), "ombrin::OmTrayPopup");
-        QCOMPARE(popup.metaObject()->superClass(), &QFrame::staticMetaObject);
     }
 };
 

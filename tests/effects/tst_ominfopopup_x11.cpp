@@ -12,7 +12,7 @@ namespace {
 
 void movePointerTo(const QPoint &position)
 {
-    xdo(QStringLiteral("mousemove %1 %2").arg(position.x()).arg(position.y()));
+    xdo("mousemove %1 %2"_q.arg(position.x()).arg(position.y()));
 }
 
 } // namespace

@@ -2,8 +2,6 @@
 
 #include <ombrin/OmShakeWidget.h>
 
-#include <QtCore/QAbstractEventDispatcher>
-
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
@@ -86,11 +84,10 @@ class tst_OmShakeWidget : public ombrin::test::TestCase
 private Q_SLOTS:
     void shakesAroundItsPlaceAndReturns_data()
     {
-        QTest::addColumn<int>("times");
-        QTest::addColumn<int>("moves");
-        QTest::newRow("default") << 100 << 101;
-        QTest::newRow("never") << -1 << 0;
-        QTest::newRow("most negative") << std::numeric_limits<int>::min() << 0;
+        const auto row = columns<int, int>("times", "moves");
+        row("default", 100, 101);
+        row("never", -1, 0);
+        row("most negative", std::numeric_limits<int>::min(), 0);
     }
 
     // Every shake, not only the first one.
@@ -145,12 +142,10 @@ private Q_SLOTS:
 
     void followsTheHostToAnotherPlace_data()
     {
-        QTest::addColumn<QPoint>("place");
-        QTest::addColumn<bool>("window");
-        QTest::addColumn<bool>("hidden");
-        QTest::newRow("far") << QPoint(120, 90) << false << false;
-        QTest::newRow("hidden") << kStart + QPoint(3, 3) << false << true;
-        QTest::newRow("window") << QPoint(300, 200) << true << false;
+        const auto row = columns<QPoint, bool, bool>("place", "window", "hidden");
+        row("far", {120, 90}, false, false);
+        row("hidden", kStart + QPoint(3, 3), false, true);
+        row("window", {300, 200}, true, false);
     }
 
     void followsTheHostToAnotherPlace()

@@ -1,8 +1,7 @@
 #include "screen/CutSelection.h"
 #include "support/TestCase.h"
 
-using ombrin::CutSelection;
-using ombrin::CutZone;
+using namespace ombrin;
 
 namespace {
 
@@ -34,16 +33,13 @@ class tst_CutSelection : public ombrin::test::TestCase
 private Q_SLOTS:
     void dragsSelectFromCornerToCorner_data()
     {
-        QTest::addColumn<QPoint>("from");
-        QTest::addColumn<QPoint>("to");
-        QTest::addColumn<QRect>("rect");
-        QTest::addColumn<bool>("valid");
+        const auto row = columns<QPoint, QPoint, QRect, bool>("from", "to", "rect", "valid");
         const QRect whole = corners(100, 100, 300, 200);
-        QTest::newRow("down") << QPoint(100, 100) << QPoint(300, 200) << whole << true;
-        QTest::newRow("up") << QPoint(300, 200) << QPoint(100, 100) << whole << true;
-        QTest::newRow("smallest") << QPoint(9, 9) << QPoint(12, 6) << corners(9, 6, 12, 9) << true;
-        QTest::newRow("narrow") << QPoint(9, 9) << QPoint(11, 99) << corners(9, 9, 11, 99) << false;
-        QTest::newRow("click") << QPoint(9, 9) << QPoint(9, 9) << corners(9, 9, 9, 9) << false;
+        row("down", {100, 100}, {300, 200}, whole, true);
+        row("up", {300, 200}, {100, 100}, whole, true);
+        row("smallest", {9, 9}, {12, 6}, corners(9, 6, 12, 9), true);
+        row("narrow", {9, 9}, {11, 99}, corners(9, 9, 11, 99), false);
+        row("click", {9, 9}, {9, 9}, corners(9, 9, 9, 9), false);
     }
 
     void dragsSelectFromCornerToCorner()
@@ -58,27 +54,22 @@ private Q_SLOTS:
 
     void zonesAreWhereTheUserSeesThem_data()
     {
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<CutZone>("zone");
-        QTest::addColumn<Qt::CursorShape>("cursor");
-        const auto row = [](const char *name, int x, int y, CutZone zone, Qt::CursorShape cursor) {
-            QTest::newRow(name) << QPoint(x, y) << zone << cursor;
-        };
+        const auto row = columns<QPoint, CutZone, Qt::CursorShape>("point", "zone", "cursor");
         // Of a selection from (100, 100) to (300, 200): handles of 5 x 5, which take 2 pixels more.
-        row("top left", 97, 97, CutZone::TopLeft, Qt::SizeFDiagCursor);
-        row("top left, its end", 105, 105, CutZone::TopLeft, Qt::SizeFDiagCursor);
-        row("within top left", 106, 105, CutZone::Inside, Qt::SizeAllCursor);
-        row("top", 199, 97, CutZone::Top, Qt::SizeVerCursor);
-        row("top right", 300, 100, CutZone::TopRight, Qt::SizeBDiagCursor);
-        row("right", 304, 149, CutZone::Right, Qt::SizeHorCursor);
-        row("bottom right", 304, 204, CutZone::BottomRight, Qt::SizeFDiagCursor);
-        row("bottom", 199, 200, CutZone::Bottom, Qt::SizeVerCursor);
-        row("bottom left", 100, 200, CutZone::BottomLeft, Qt::SizeBDiagCursor);
-        row("left", 100, 149, CutZone::Left, Qt::SizeHorCursor);
-        row("edge between the handles", 130, 100, CutZone::Inside, Qt::SizeAllCursor);
-        row("snap", 226, 163, CutZone::SnapButton, Qt::PointingHandCursor);
-        row("between the buttons", 259, 163, CutZone::Inside, Qt::SizeAllCursor);
-        row("close", 294, 194, CutZone::CloseButton, Qt::PointingHandCursor);
+        row("top left", {97, 97}, CutZone::TopLeft, Qt::SizeFDiagCursor);
+        row("top left, its end", {105, 105}, CutZone::TopLeft, Qt::SizeFDiagCursor);
+        row("within top left", {106, 105}, CutZone::Inside, Qt::SizeAllCursor);
+        row("top", {199, 97}, CutZone::Top, Qt::SizeVerCursor);
+        row("top right", {300, 100}, CutZone::TopRight, Qt::SizeBDiagCursor);
+        row("right", {304, 149}, CutZone::Right, Qt::SizeHorCursor);
+        row("bottom right", {304, 204}, CutZone::BottomRight, Qt::SizeFDiagCursor);
+        row("bottom", {199, 200}, CutZone::Bottom, Qt::SizeVerCursor);
+        row("bottom left", {100, 200}, CutZone::BottomLeft, Qt::SizeBDiagCursor);
+        row("left", {100, 149}, CutZone::Left, Qt::SizeHorCursor);
+        row("edge between the handles", {130, 100}, CutZone::Inside, Qt::SizeAllCursor);
+        row("snap", {226, 163}, CutZone::SnapButton, Qt::PointingHandCursor);
+        row("between the buttons", {259, 163}, CutZone::Inside, Qt::SizeAllCursor);
+        row("close", {294, 194}, CutZone::CloseButton, Qt::PointingHandCursor);
     }
 
     void zonesAreWhereTheUserSeesThem()
@@ -92,24 +83,20 @@ private Q_SLOTS:
 
     void dragsChangeWhatTheirZoneSays_data()
     {
-        QTest::addColumn<QPoint>("press");
-        QTest::addColumn<CutZone>("zone");
-        QTest::addColumn<QRect>("rect"); // after a drag to (50, 400)
-        const auto row = [](const char *name, int x, int y, CutZone zone, const QRect &rect) {
-            QTest::newRow(name) << QPoint(x, y) << zone << rect;
-        };
-        row("outside", 20, 390, CutZone::Outside, corners(20, 390, 50, 400));
-        row("inside", 110, 140, CutZone::Inside, corners(40, 360, 240, 460));
-        row("snap", 240, 170, CutZone::SnapButton, corners(100, 100, 300, 200));
-        row("close", 280, 170, CutZone::CloseButton, corners(100, 100, 300, 200));
-        row("top left", 100, 100, CutZone::TopLeft, corners(50, 200, 300, 400));
-        row("top", 200, 100, CutZone::Top, corners(100, 200, 300, 400));
-        row("top right", 300, 100, CutZone::TopRight, corners(50, 200, 100, 400));
-        row("right", 300, 150, CutZone::Right, corners(50, 100, 100, 200));
-        row("bottom right", 300, 200, CutZone::BottomRight, corners(50, 100, 100, 400));
-        row("bottom", 200, 200, CutZone::Bottom, corners(100, 100, 300, 400));
-        row("bottom left", 100, 200, CutZone::BottomLeft, corners(50, 100, 300, 400));
-        row("left", 100, 150, CutZone::Left, corners(50, 100, 300, 200));
+        // rect: after a drag to (50, 400)
+        const auto row = columns<QPoint, CutZone, QRect>("press", "zone", "rect");
+        row("outside", {20, 390}, CutZone::Outside, corners(20, 390, 50, 400));
+        row("inside", {110, 140}, CutZone::Inside, corners(40, 360, 240, 460));
+        row("snap", {240, 170}, CutZone::SnapButton, corners(100, 100, 300, 200));
+        row("close", {280, 170}, CutZone::CloseButton, corners(100, 100, 300, 200));
+        row("top left", {100, 100}, CutZone::TopLeft, corners(50, 200, 300, 400));
+        row("top", {200, 100}, CutZone::Top, corners(100, 200, 300, 400));
+        row("top right", {300, 100}, CutZone::TopRight, corners(50, 200, 100, 400));
+        row("right", {300, 150}, CutZone::Right, corners(50, 100, 100, 200));
+        row("bottom right", {300, 200}, CutZone::BottomRight, corners(50, 100, 100, 400));
+        row("bottom", {200, 200}, CutZone::Bottom, corners(100, 100, 300, 400));
+        row("bottom left", {100, 200}, CutZone::BottomLeft, corners(50, 100, 300, 400));
+        row("left", {100, 150}, CutZone::Left, corners(50, 100, 300, 200));
     }
 
     void dragsChangeWhatTheirZoneSays()
@@ -135,13 +122,12 @@ private Q_SLOTS:
 
     void buttonsStayOnTheDesktop_data()
     {
-        QTest::addColumn<QRect>("area");
-        QTest::addColumn<QPoint>("snap");
-        QTest::newRow("in the corner") << corners(100, 100, 300, 200) << QPoint(226, 163);
-        QTest::newRow("left") << corners(-90, 100, 10, 200) << QPoint(0, 163);
-        QTest::newRow("top") << corners(100, -90, 300, 20) << QPoint(226, 0);
-        QTest::newRow("bottom") << corners(100, 400, 300, 520) << QPoint(226, 448);
-        QTest::newRow("right") << corners(500, 100, 700, 200) << QPoint(571, 163);
+        const auto row = columns<QRect, QPoint>("area", "snap");
+        row("in the corner", corners(100, 100, 300, 200), {226, 163});
+        row("left", corners(-90, 100, 10, 200), {0, 163});
+        row("top", corners(100, -90, 300, 20), {226, 0});
+        row("bottom", corners(100, 400, 300, 520), {226, 448});
+        row("right", corners(500, 100, 700, 200), {571, 163});
     }
 
     void buttonsStayOnTheDesktop()

@@ -29,15 +29,9 @@ private Q_SLOTS:
     {
         // In logical pixels: the primary screen at the origin, a denser one left of it and higher,
         // one of 1.5 below it.
-        QTest::addColumn<QRect>("cut"); // from the corner of the desktop, which is at (-80, -20)
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<qreal>("density");
-        QTest::addColumn<QPoint>("pixel");
-        QTest::addColumn<QColor>("color");
-        const auto row = [](const char *name, const QRect &cut, const QSize &size, qreal density,
-                            const QPoint &pixel, const QColor &color) {
-            QTest::newRow(name) << cut << size << density << pixel << color;
-        };
+        // cut: from the corner of the desktop, which is at (-80, -20)
+        const auto row = columns<QRect, QSize, qreal, QPoint, QColor>("cut", "size", "density",
+                                                                      "pixel", "color");
         row("primary", {90, 30, 20, 10}, {20, 10}, 1.0, {3, 4}, {10 + 3, 10 + 4, 1});
         row("dense", {10, 5, 20, 10}, {40, 20}, 2.0, {3, 4}, {20 + 3, 10 + 4, 2});
         row("1.5", {83, 125, 3, 3}, {4, 4}, 1.5, {0, 0}, {5, 8, 3});

@@ -1,4 +1,3 @@
-#include "ShownWindow.h"
 #include "screen/ScreenGrabber.h"
 #include "skin/SkinPixmap.h"
 #include "support/TestCase.h"
@@ -8,7 +7,6 @@
 #include <ombrin/OmScreenShooter.h>
 #include <ombrin/OmScreenShooter_FullscreenCutter.h>
 
-#include <QtCore/QResource>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtWidgets/QDialog>
@@ -16,9 +14,8 @@
 #include <functional>
 #include <limits>
 
-using ombrin::OmImageMaskedButton;
-using ombrin::OmImageMaskedWidget;
-using ombrin::test::sendMouseMove;
+using namespace ombrin;
+using namespace ombrin::test;
 using Cutter = OmScreenShooter_FullscreenCutter;
 
 namespace {
@@ -54,18 +51,9 @@ int number()
 {
     const OmImageMaskedWidget *image = countdown();
     int found = image ? 10 : 0;
-    while (found > 0
-           && image->image()
-                      != ombrin::skinImage(QStringLiteral(":/countdown-%1-128.png").arg(found)))
+    while (found > 0 && image->image() != ombrin::skinImage(":/countdown-%1-128.png"_q.arg(found)))
         --found;
     return found;
-}
-
-void drag(QWidget *widget, const QPoint &from, const QPoint &to)
-{
-    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
-    sendMouseMove(widget, to, Qt::LeftButton);
-    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 
 } // namespace
@@ -80,17 +68,13 @@ class tst_OmScreenShooter : public ombrin::test::TestCase
 public Q_SLOTS:
     void shot(QPixmap picture)
     {
-        m_reports.append(QStringLiteral("shot"));
+        m_reports.append("shot"_q);
         m_picture = picture;
     }
-    void failed() { m_reports.append(QStringLiteral("failed")); }
+    void failed() { m_reports.append("failed"_q); }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
-                                            + QStringLiteral("/skins/ombrin.res")));
-    }
+    void initTestCase() { QVERIFY(registerPictures("skins/ombrin.res")); }
 
     void simplePictureIsOfTheWholeDesktop()
     {
@@ -104,15 +88,14 @@ private Q_SLOTS:
 
     void requestShowsWhatItSays_data()
     {
-        QTest::addColumn<unsigned int>("delay");
-        QTest::addColumn<bool>("button");
-        QTest::addColumn<int>("number"); // of the countdown's picture; 0 for none
-        QTest::newRow("at once") << 0U << false << 0;
-        QTest::newRow("button alone") << 0U << true << 0;
-        QTest::newRow("half a second") << 500U << false << 1;
-        QTest::newRow("three seconds") << 3000U << true << 3;
-        QTest::newRow("twelve seconds") << 12000U << true << 10;
-        QTest::newRow("for ever") << std::numeric_limits<unsigned int>::max() << true << 10;
+        // number: of the countdown's picture; 0 for none
+        const auto row = columns<unsigned int, bool, int>("delay", "button", "number");
+        row("at once", 0U, false, 0);
+        row("button alone", 0U, true, 0);
+        row("half a second", 500U, false, 1);
+        row("three seconds", 3000U, true, 3);
+        row("twelve seconds", 12000U, true, 10);
+        row("for ever", std::numeric_limits<unsigned int>::max(), true, 10);
     }
 
     void requestShowsWhatItSays()
@@ -138,7 +121,7 @@ private Q_SLOTS:
         }
         QVERIFY(m_reports.isEmpty());
         QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
-        QCOMPARE(m_reports, QStringList(QStringLiteral("shot")));
+        QCOMPARE(m_reports, QStringList("shot"_q));
         QCOMPARE(m_picture.toImage(), OmScreenShooter::shootSimple().toImage());
     }
 
@@ -153,14 +136,9 @@ private Q_SLOTS:
 
     void everyRequestReportsOnce_data()
     {
-        QTest::addColumn<bool>("cuts");
-        QTest::addColumn<bool>("waitsForButton");
-        QTest::addColumn<Act>("act"); // once the button or the cutter is there, which may be null
-        QTest::addColumn<QString>("report");
-        const auto row = [](const char *name, bool cuts, bool waits, const Act &act,
-                            const char *report) {
-            QTest::newRow(name) << cuts << waits << act << QString::fromLatin1(report);
-        };
+        // act: once the button or the cutter is there, which may be null
+        const auto row =
+                columns<bool, bool, Act, QString>("cuts", "waitsForButton", "act", "report");
         const auto nothing = [](Cutter *) {};
         const auto forbid = [](Cutter *) {
             ombrin::setScreenGrab([](QScreen *) { return QPixmap(); });
@@ -209,7 +187,7 @@ private Q_SLOTS:
 
     void receiversMayBeMissing()
     {
-        expectWarning(QStringLiteral("No such slot"));
+        expectWarning("No such slot"_q);
         auto receiver = std::make_unique<QObject>();
         OmScreenShooter::shootDelayed(0, false, receiver.get(), SLOT(deleteLater()), nullptr,
                                       nullptr);
@@ -222,9 +200,8 @@ private Q_SLOTS:
 
     void cutterEndsAsTheUserSays_data()
     {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<QSize>("size"); // of the picture; none: failed
-        QTest::addColumn<QPoint>("corner");
+        // size: of the picture; none where it fails
+        columns<Act, QSize, QPoint>("act", "size", "corner");
         const auto row = [](const char *name, const Act &act, const QSize &size = QSize(),
                             const QPoint &corner = kFrom) {
             QTest::newRow(name) << act << size << corner;
@@ -246,7 +223,7 @@ private Q_SLOTS:
         };
         const auto dragged = [](const QPoint &from, const QPoint &to, const Act &then) {
             return [=](Cutter *cutter) {
-                drag(cutter, from, to);
+                dragInside(cutter, from, to);
                 then(cutter);
             };
         };
@@ -296,12 +273,11 @@ private Q_SLOTS:
         Cutter *cutter = cut();
         QVERIFY(cutter);
         QCOMPARE(cutter->geometry(), QGuiApplication::primaryScreen()->virtualGeometry());
-        drag(cutter, kFrom, kTo);
+        dragInside(cutter, kFrom, kTo);
         act(cutter);
         QVERIFY(waitFor([this] { return !m_reports.isEmpty(); }));
         QTest::qWait(20);
-        QCOMPARE(m_reports,
-                 QStringList(size.isValid() ? QStringLiteral("shot") : QStringLiteral("failed")));
+        QCOMPARE(m_reports, QStringList(size.isValid() ? "shot"_q : "failed"_q));
         if (size.isValid()) {
             const qreal density = m_picture.devicePixelRatio();
             QCOMPARE(m_picture.size(), size * density);
@@ -332,7 +308,7 @@ private Q_SLOTS:
         };
         QImage image = cutter->grab().toImage();
         QVERIFY(isDimmed(image, {50, 60}));
-        drag(cutter, kFrom, kTo);
+        dragInside(cutter, kFrom, kTo);
         image = cutter->grab().toImage();
         for (const QPoint &point :
              {QPoint(50, 60), QPoint(150, 96), QPoint(305, 130), QPoint(150, 205)})
@@ -353,8 +329,7 @@ private Q_SLOTS:
             QPainter painter(&expected);
             painter.drawPixmap(
                     0, 0,
-                    ombrin::skinPixmap(
-                            QStringLiteral(":/snapshot-snap%1-32.png").arg(QLatin1String(state))));
+                    ombrin::skinPixmap(":/snapshot-snap%1-32.png"_q.arg(QLatin1String(state))));
             return expected.toImage().convertToFormat(QImage::Format_RGB32);
         };
         const auto seen = [&] {
@@ -377,7 +352,7 @@ private Q_SLOTS:
         QVERIFY(cutter);
         const QRect box(100, 20, 250, 200); // of the hint
         const QImage before = cutter->grab(box).toImage();
-        drag(cutter, {10, 10}, {11, 11}); // not a selection
+        dragInside(cutter, {10, 10}, {11, 11}); // not a selection
         QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
         QImage image = cutter->grab(box).toImage();
         int white = 0;
@@ -389,7 +364,7 @@ private Q_SLOTS:
             }
         }
         QVERIFY(white > 100 && black > 100);
-        drag(cutter, {2, 2}, {9, 9});
+        dragInside(cutter, {2, 2}, {9, 9});
         QCOMPARE(cutter->grab(box).toImage(), before);
         QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
         QCOMPARE(cutter->grab(box).toImage(), before); // it never comes back

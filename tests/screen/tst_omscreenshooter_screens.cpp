@@ -25,15 +25,11 @@ public Q_SLOTS:
 private Q_SLOTS:
     void cutsHaveTheRealPixelsOfTheirScreens_data()
     {
-        QTest::addColumn<QPoint>("from"); // in pixels of the X server
-        QTest::addColumn<QPoint>("by");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<qreal>("density");
-        QTest::newRow("first") << QPoint(100, 100) << QPoint(60, 40) << QSize(61, 41) << 1.0;
-        QTest::newRow("second") << kSecond + QPoint(100, 100) << QPoint(60, 40) << QSize(62, 42)
-                                << 2.0;
-        QTest::newRow("from the first to the second")
-                << kSecond + QPoint(-40, 100) << QPoint(80, 60) << QSize(122, 42) << 2.0;
+        // from: in pixels of the X server
+        const auto row = columns<QPoint, QPoint, QSize, qreal>("from", "by", "size", "density");
+        row("first", {100, 100}, {60, 40}, {61, 41}, 1.0);
+        row("second", kSecond + QPoint(100, 100), {60, 40}, {62, 42}, 2.0);
+        row("from the first to the second", kSecond + QPoint(-40, 100), {80, 60}, {122, 42}, 2.0);
     }
 
     void cutsHaveTheRealPixelsOfTheirScreens()
@@ -68,7 +64,7 @@ private Q_SLOTS:
             return cutter && cutter->isVisible();
         }));
         dragBy(from, by);
-        xdo(QStringLiteral("key Return"));
+        xdo("key Return"_q);
         QVERIFY(waitFor([this] { return !m_picture.isNull(); }));
         QTEST(m_picture.size(), "size");
         QTEST(m_picture.devicePixelRatio(), "density");

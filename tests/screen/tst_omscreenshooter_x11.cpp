@@ -1,5 +1,5 @@
-#include "ShownWindow.h"
 #include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 #include "support/XUser.h"
 
 #include <ombrin/OmImageMaskedButton.h>
@@ -16,7 +16,7 @@ namespace {
 
 void key(const char *name)
 {
-    xdo(QStringLiteral("key ") + QLatin1String(name));
+    xdo("key "_q + QLatin1String(name));
 }
 
 } // namespace
@@ -57,11 +57,11 @@ private Q_SLOTS:
 
     void areaIsCutByMouse_data()
     {
-        QTest::addColumn<bool>("moves");
-        QTest::addColumn<int>("clicks"); // on the snap button, or twice inside
-        QTest::newRow("snap button") << false << 1;
-        QTest::newRow("moved, snap button") << true << 1;
-        QTest::newRow("double click") << false << 2;
+        // clicks: on the snap button, or twice inside
+        const auto row = columns<bool, int>("moves", "clicks");
+        row("snap button", false, 1);
+        row("moved, snap button", true, 1);
+        row("double click", false, 2);
     }
 
     void areaIsCutByMouse()
@@ -88,14 +88,12 @@ private Q_SLOTS:
 
     void keyboardAndFocusAreTheCutters_data()
     {
-        QTest::addColumn<bool>("selects");
-        QTest::addColumn<QString>("key"); // none: another window is activated
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("enter") << true << QStringLiteral("KP_Enter") << QSize(101, 51);
-        QTest::newRow("return, nothing selected")
-                << false << QStringLiteral("Return") << QSize(0, 0);
-        QTest::newRow("escape") << true << QStringLiteral("Escape") << QSize(0, 0);
-        QTest::newRow("other window") << true << QString() << QSize(0, 0);
+        // key: none where another window is activated
+        const auto row = columns<bool, QString, QSize>("selects", "key", "size");
+        row("enter", true, "KP_Enter", {101, 51});
+        row("return, nothing selected", false, "Return", {0, 0});
+        row("escape", true, "Escape", {0, 0});
+        row("other window", true, QString(), {0, 0});
     }
 
     void keyboardAndFocusAreTheCutters()

@@ -3,8 +3,6 @@
 
 #include <ombrin/OmScreenShooter.h>
 
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QUrl>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusContext>
 #include <QtDBus/QDBusMessage>
@@ -13,7 +11,6 @@
 
 #include <unistd.h>
 
-#include <memory>
 #include <vector>
 
 namespace {
@@ -43,7 +40,7 @@ public:
     {
         m_bus.unregisterService(kService);
         m_bus.unregisterObject(kObject);
-        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+        QDBusConnection::disconnectFromBus("portal"_q);
     }
 
 public Q_SLOTS:
@@ -55,18 +52,17 @@ public Q_SLOTS:
         }
         const QString sender =
                 message().service().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
-        const QString path = QStringLiteral("%1/request/%2/%3")
-                                     .arg(kObject, sender,
-                                          options.value(QStringLiteral("handle_token")).toString());
+        const QString path = "%1/request/%2/%3"_q.arg(kObject, sender,
+                                                      options.value("handle_token"_q).toString());
         if (m_mood == Vanishes) {
             m_bus.unregisterService(kService);
             return QDBusObjectPath(path);
         }
-        QDBusMessage response = QDBusMessage::createSignal(
-                path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+        QDBusMessage response =
+                QDBusMessage::createSignal(path, "org.freedesktop.portal.Request"_q, "Response"_q);
         QVariantMap results;
         if (m_mood == Grants)
-            results.insert(QStringLiteral("uri"), QUrl::fromLocalFile(m_file).toString());
+            results.insert("uri"_q, QUrl::fromLocalFile(m_file).toString());
         response << uint(m_mood == Denies ? 1 : 0) << results;
         m_bus.send(response);
         return QDBusObjectPath(path);
@@ -75,8 +71,7 @@ public Q_SLOTS:
 private:
     Mood m_mood;
     QString m_file;
-    QDBusConnection m_bus =
-            QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal"));
+    QDBusConnection m_bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "portal"_q);
 };
 
 /// On a platform that lets nobody grab the screen.
@@ -101,14 +96,14 @@ private Q_SLOTS:
 
     void pictureComesFromThePortal_data()
     {
-        QTest::addColumn<int>("mood"); // -1: there is no portal
-        QTest::addColumn<bool>("succeeds");
-        QTest::newRow("granted") << int(Portal::Grants) << true;
-        QTest::newRow("denied") << int(Portal::Denies) << false;
-        QTest::newRow("no picture") << int(Portal::SendsNoPicture) << false;
-        QTest::newRow("refused") << int(Portal::Refuses) << false;
-        QTest::newRow("vanishes") << int(Portal::Vanishes) << false;
-        QTest::newRow("no portal") << -1 << false;
+        // mood: -1 where there is no portal
+        const auto row = columns<int, bool>("mood", "succeeds");
+        row("granted", Portal::Grants, true);
+        row("denied", Portal::Denies, false);
+        row("no picture", Portal::SendsNoPicture, false);
+        row("refused", Portal::Refuses, false);
+        row("vanishes", Portal::Vanishes, false);
+        row("no portal", -1, false);
     }
 
     void pictureComesFromThePortal()
@@ -120,11 +115,10 @@ private Q_SLOTS:
         const QSize size = QGuiApplication::primaryScreen()->virtualGeometry().size() * 2;
         QImage image(size, QImage::Format_RGB32);
         image.fill(Qt::darkGreen);
-        QVERIFY(image.save(folder.filePath(QStringLiteral("shot.png"))));
+        QVERIFY(image.save(folder.filePath("shot.png"_q)));
         std::unique_ptr<Portal> portal;
         if (mood >= 0)
-            portal = std::make_unique<Portal>(Portal::Mood(mood),
-                                              folder.filePath(QStringLiteral("shot.png")));
+            portal = std::make_unique<Portal>(Portal::Mood(mood), folder.filePath("shot.png"_q));
 
         m_reports = 0;
         m_picture = QPixmap();

@@ -4,15 +4,11 @@
 #include <ombrin/OmAvatar.h>
 #include <ombrin/OmFaderWidget.h>
 
-#include <QtCore/QBuffer>
 #include <QtGui/QMovie>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
 
-#include <memory>
-
-using ombrin::OmAvatar;
-using ombrin::OmFaderWidget;
+using namespace ombrin;
 
 namespace {
 
@@ -69,13 +65,12 @@ class tst_OmAvatar : public ombrin::test::TestCase
 private Q_SLOTS:
     void isAFramelessPopupOfThePicturesSize_data()
     {
-        QTest::addColumn<QPixmap>("pixmap");
-        QTest::addColumn<QSize>("size");
+        const auto row = columns<QPixmap, QSize>("pixmap", "size");
         QPixmap dense = picture(QSize(60, 40));
         dense.setDevicePixelRatio(2);
-        QTest::newRow("picture") << picture(QSize(60, 40)) << QSize(62, 42);
-        QTest::newRow("dense picture") << dense << QSize(32, 22);
-        QTest::newRow("null") << QPixmap() << QSize(2, 2);
+        row("picture", picture(QSize(60, 40)), {62, 42});
+        row("dense picture", dense, {32, 22});
+        row("null", QPixmap(), {2, 2});
     }
 
     void isAFramelessPopupOfThePicturesSize()
@@ -119,13 +114,11 @@ private Q_SLOTS:
 
     void fadesAwayAndDeletesItself_data()
     {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QPoint>("place");
-        QTest::addColumn<int>("clicks");
-        QTest::newRow("left button") << int(Qt::LeftButton) << QPoint(10, 10) << 1;
-        QTest::newRow("right button") << int(Qt::RightButton) << QPoint(10, 10) << 0;
-        QTest::newRow("outside") << int(Qt::LeftButton) << QPoint(62, 10) << 0;
-        QTest::newRow("mouse leaves") << int(Qt::NoButton) << QPoint() << 0;
+        const auto row = columns<int, QPoint, int>("button", "place", "clicks");
+        row("left button", Qt::LeftButton, {10, 10}, 1);
+        row("right button", Qt::RightButton, {10, 10}, 0);
+        row("outside", Qt::LeftButton, {62, 10}, 0);
+        row("mouse leaves", Qt::NoButton, {}, 0);
     }
 
     void fadesAwayAndDeletesItself()
@@ -161,7 +154,7 @@ private Q_SLOTS:
 
     void damagedFilesAreHarmless()
     {
-        expectWarning(QStringLiteral(".*")); // the decoders' own
+        expectWarning(".*"_q); // the decoders' own
         for (const QByteArray &contents :
              {gif_writer::animation(QSize(30, 20), QSize(30, 20)), encoded("jpg"), encoded("png"),
               QByteArray("This is no picture."), QByteArray()}) {
@@ -195,11 +188,9 @@ private Q_SLOTS:
 
     void playsAnimations_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("cacheMode");
-        QTest::newRow("small") << QSize(30, 20) << int(QMovie::CacheAll);
-        QTest::newRow("too large to keep all frames")
-                << QSize(4096, 2100) << int(QMovie::CacheNone);
+        const auto row = columns<QSize, int>("size", "cacheMode");
+        row("small", {30, 20}, QMovie::CacheAll);
+        row("too large to keep all frames", {4096, 2100}, QMovie::CacheNone);
     }
 
     void playsAnimations()

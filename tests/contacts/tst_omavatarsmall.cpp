@@ -7,16 +7,11 @@
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmFaderWidget.h>
 
-#include <QtCore/QResource>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 
-#include <memory>
-
 using namespace ombrin::test;
-using ombrin::OmAvatar;
-using ombrin::OmAvatarSmall;
-using ombrin::OmFaderWidget;
+using namespace ombrin;
 
 namespace {
 
@@ -78,11 +73,7 @@ class tst_OmAvatarSmall : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
-                                            + QStringLiteral("/testdata/contacts.res")));
-    }
+    void initTestCase() { QVERIFY(registerPictures("testdata/contacts.res")); }
 
     void startsWithThePlaceholder()
     {
@@ -96,32 +87,15 @@ private Q_SLOTS:
 
     void rendersThePictureIntoTheLabel_data()
     {
-        QTest::addColumn<QSize>("label");
-        QTest::addColumn<QSize>("avatar");
-        QTest::addColumn<QRect>("picture");
-        QTest::addColumn<bool>("hover");
-
-        const struct
-        {
-            const char *name;
-            QSize label;
-            QSize avatar;
-            QRect picture;
-        } rows[] = {
-                {"square", {50, 50}, {100, 100}, {2, 2, 46, 46}},
-                {"wide", {50, 50}, {100, 50}, {2, 13, 46, 23}},
-                {"high", {32, 32}, {40, 70}, {8, 2, 16, 28}},
-                {"small, blown up", {78, 78}, {2, 2}, {2, 2, 74, 74}},
-                {"wide label", {70, 40}, {60, 60}, {17, 2, 36, 36}},
-                {"high label", {40, 70}, {60, 60}, {2, 17, 36, 36}},
-                {"no room inside", {4, 4}, {60, 60}, {}},
-                {"no picture", {50, 50}, {}, {}},
-        };
-        for (const auto &row : rows) {
-            for (const bool hover : {false, true})
-                QTest::addRow("%s%s", row.name, hover ? ", hovered" : "")
-                        << row.label << row.avatar << row.picture << hover;
-        }
+        const auto row = columns<QSize, QSize, QRect>("label", "avatar", "picture");
+        row("square", {50, 50}, {100, 100}, {2, 2, 46, 46});
+        row("wide", {50, 50}, {100, 50}, {2, 13, 46, 23});
+        row("high", {32, 32}, {40, 70}, {8, 2, 16, 28});
+        row("small, blown up", {78, 78}, {2, 2}, {2, 2, 74, 74});
+        row("wide label", {70, 40}, {60, 60}, {17, 2, 36, 36});
+        row("high label", {40, 70}, {60, 60}, {2, 17, 36, 36});
+        row("no room inside", {4, 4}, {60, 60}, {});
+        row("no picture", {50, 50}, {}, {});
     }
 
     void rendersThePictureIntoTheLabel()
@@ -129,35 +103,34 @@ private Q_SLOTS:
         QFETCH(QSize, label);
         QFETCH(QSize, avatar);
         QFETCH(QRect, picture);
-        QFETCH(bool, hover);
-
         OmAvatarSmall small;
         small.resize(label);
         const QPixmap source = avatar.isEmpty() ? QPixmap() : ::picture(avatar);
-        small.setAvatar(source, hover);
-        QCOMPARE(small.avatar().cacheKey(), source.cacheKey());
-        QCOMPARE(small.isLink(), !source.isNull());
         const qreal ratio = small.devicePixelRatioF();
-        const QImage image = shown(small);
-        QCOMPARE(image.size(), (QSizeF(label) * ratio).toSize());
-        QCOMPARE(image.devicePixelRatio(), ratio);
-        QCOMPARE(small.sizeHint(), label);
-
         const int square = qMin(label.width(), label.height());
         const QRect white =
                 avatar.isEmpty() ? QRect() : QRect(QPoint(), label).adjusted(2, 2, -2, -2);
         const QRect magnifier(4, label.height() - 28, 24, 24);
-        for (int y = 0; y < label.height(); ++y) {
-            for (int x = 0; x < label.width(); ++x) {
-                const QPoint pixel(int((x + 0.5) * ratio), int((y + 0.5) * ratio));
-                QColor expected = x < square && y < square ? kPlaceholder : QColor(Qt::transparent);
-                if (white.contains(x, y))
-                    expected = Qt::white;
-                if (picture.contains(x, y))
-                    expected = kPicture;
-                if (hover && !avatar.isEmpty() && magnifier.contains(x, y))
-                    expected = under(kMagnifier, 0.7, expected);
-                QCOMPARE(image.pixelColor(pixel), expected);
+        for (const bool hover : {false, true}) {
+            small.setAvatar(source, hover);
+            QCOMPARE(small.avatar().cacheKey(), source.cacheKey());
+            QCOMPARE(small.isLink(), !source.isNull());
+            const QImage image = shown(small);
+            QCOMPARE(image.size(), (QSizeF(label) * ratio).toSize());
+            QCOMPARE(image.devicePixelRatio(), ratio);
+            QCOMPARE(small.sizeHint(), label);
+            for (int y = 0; y < label.height(); ++y) {
+                for (int x = 0; x < label.width(); ++x) {
+                    const QPoint pixel(int((x + 0.5) * ratio), int((y + 0.5) * ratio));
+                    QColor expected = x < square && y < square ? kPlaceholder : Qt::transparent;
+                    if (white.contains(x, y))
+                        expected = Qt::white;
+                    if (picture.contains(x, y))
+                        expected = kPicture;
+                    if (hover && !avatar.isEmpty() && magnifier.contains(x, y))
+                        expected = under(kMagnifier, 0.7, expected);
+                    QCOMPARE(image.pixelColor(pixel), expected);
+                }
             }
         }
     }

@@ -1,4 +1,5 @@
 #include "support/FileDialogUser.h"
+#include "support/TaggedLanguage.h"
 #include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
@@ -8,12 +9,6 @@
 #include <ombrin/OmSettings.h>
 
 #include <QAction>
-#include <QtCore/QAbstractEventDispatcher>
-#include <QtCore/QMimeData>
-#include <QtCore/QResource>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTranslator>
-#include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QMenu>
@@ -45,7 +40,7 @@ QPixmap picture()
 
 QToolBar *toolBar(const QWidget *card)
 {
-    return card->findChild<QToolBar *>(QStringLiteral("actionToolBar"));
+    return card->findChild<QToolBar *>("actionToolBar"_q);
 }
 
 QStringList ids(const QList<QAction *> &actions)
@@ -113,20 +108,6 @@ void release(QWidget *widget, Qt::MouseButton button, const QPoint &position)
     QCoreApplication::sendEvent(widget, &event);
 }
 
-// A language in which all texts are in brackets.
-class BracketLanguage : public QTranslator
-{
-public:
-    BracketLanguage() { QCoreApplication::installTranslator(this); }
-    ~BracketLanguage() override { QCoreApplication::removeTranslator(this); }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        const bool isOfCard = qstrcmp(context, "ombrin::OmContactCard") == 0;
-        return isOfCard ? QLatin1Char('[') + QLatin1String(text) + QLatin1Char(']') : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(OmContactCard *)>)
@@ -136,35 +117,27 @@ class tst_OmContactCard : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
-                                            + QStringLiteral("/testdata/contacts.res")));
-    }
+    void initTestCase() { QVERIFY(registerPictures("testdata/contacts.res")); }
 
     void offersWhatTheClientCanDo_data()
     {
-        QTest::addColumn<int>("client");
-        QTest::addColumn<QString>("expected");
+        columns<int, QString>("client", "expected");
         const char *all = "exit chat voip filetransfer webfolder profile block";
-        const struct
-        {
-            std::vector<int> clients;
-            const char *actions;
-        } rows[] = {{{1}, "profile voip filetransfer webfolder block"},
-                    {{2}, "exit chat filetransfer"},
-                    {{3}, "chat filetransfer"},
-                    {{4}, "exit auth"},
-                    {{5}, "auth"},
-                    {{10}, all},
-                    {{11}, all + 5},
-                    {{12}, "exit profile voip auth"},
-                    {{13, 15}, "profile voip auth"},
-                    {{19}, "chat voip filetransfer"},
-                    {{-1, 0, 6, 7, 8, 9, 14, 16, 17, 18, 20, 1000}, ""}};
-        for (const auto &row : rows) {
-            for (const int client : row.clients)
-                QTest::addRow("%d", client) << client << row.actions;
+        const std::pair<std::vector<int>, const char *> rows[] = {
+                {{1}, "profile voip filetransfer webfolder block"},
+                {{2}, "exit chat filetransfer"},
+                {{3}, "chat filetransfer"},
+                {{4}, "exit auth"},
+                {{5}, "auth"},
+                {{10}, all},
+                {{11}, all + 5},
+                {{12}, "exit profile voip auth"},
+                {{13, 15}, "profile voip auth"},
+                {{19}, "chat voip filetransfer"},
+                {{-1, 0, 6, 7, 8, 9, 14, 16, 17, 18, 20, 1000}, ""}};
+        for (const auto &[clients, actions] : rows) {
+            for (const int client : clients)
+                QTest::addRow("%d", client) << client << actions;
         }
     }
 
@@ -203,7 +176,7 @@ private Q_SLOTS:
         card.setBig(true);
         card.setBig(false);
         card.setBig(true);
-        QCOMPARE(ids(toolBar(&card)->actions()), {QStringLiteral("auth")});
+        QCOMPARE(ids(toolBar(&card)->actions()), {"auth"_q});
     }
 
     void writesOneTraceLine()
@@ -211,7 +184,7 @@ private Q_SLOTS:
         static QStringList lines;
         lines.clear();
         OmContactCard card;
-        card.setOmbrinId(QStringLiteral("anna"));
+        card.setOmbrinId("anna"_q);
         const auto previous = qInstallMessageHandler(
                 [](QtMsgType type, const QMessageLogContext &, const QString &line) {
                     lines.append(QString::number(type) + QLatin1Char(' ') + line);
@@ -221,10 +194,8 @@ private Q_SLOTS:
         card.setStatus(Om::Busy);
         card.setBig(false);
         qInstallMessageHandler(previous);
-        const QString line = QStringLiteral("0 setBig %1 ombrinId \"anna\"");
-        QCOMPARE(lines,
-                 QStringList({line.arg(QStringLiteral("true")), line.arg(QStringLiteral("true")),
-                              line.arg(QStringLiteral("false"))}));
+        const QString line = "0 setBig %1 ombrinId \"anna\""_q;
+        QCOMPARE(lines, QStringList({line.arg("true"_q), line.arg("true"_q), line.arg("false"_q)}));
     }
 
     void showsPresenceInTheUsersLanguage()
@@ -251,22 +222,20 @@ private Q_SLOTS:
         unseen.setStatus(Om::Away);
         card.setBlocked(true);
         {
-            const BracketLanguage language;
-            QCoreApplication::sendPostedEvents();
-            QVERIFY(label(card, QStringLiteral("[Invisible for everyone]")));
-            QCOMPARE(unseen.statusName(), QStringLiteral("[Away]"));
-            QCOMPARE(action(card, "unblock")->text(), QStringLiteral("[Unblock Contact]"));
-            QCOMPARE(action(card, "chat")->toolTip(), QStringLiteral("[Chat with contact]"));
+            const TaggedLanguage language;
+            const QString tagged = "ombrin::OmContactCard|%1|"_q;
+            QVERIFY(label(card, tagged.arg("Invisible for everyone"_q)));
+            QCOMPARE(unseen.statusName(), tagged.arg("Away"_q));
+            QCOMPARE(action(card, "unblock")->text(), tagged.arg("Unblock Contact"_q));
+            QCOMPARE(action(card, "chat")->toolTip(), tagged.arg("Chat with contact"_q));
         }
-        QCoreApplication::sendPostedEvents();
     }
 
     void aliasIsPlainTextOfOneLine()
     {
         OmContactCard card;
         QSignalSpy changed(&card, &OmContactCard::aliasChanged);
-        const QString alias =
-                QStringLiteral("<b>Anna</b>\n&Co \u2028") + QString(5000, QLatin1Char('x'));
+        const QString alias = "<b>Anna</b>\n&Co \u2028"_q + QString(5000, QLatin1Char('x'));
         card.setAlias(alias);
         card.setAlias(alias);
         QCOMPARE(changed, QList<QVariantList>{{alias}});
@@ -314,7 +283,7 @@ private Q_SLOTS:
     void clicksAreLeftReleasesInside()
     {
         OmContactCard card;
-        card.setAlias(QStringLiteral("Anna"));
+        card.setAlias("Anna"_q);
         card.resize(200, 48);
         card.show();
         QSignalSpy clicked(&card, &OmContactCard::clicked);
@@ -343,12 +312,11 @@ private Q_SLOTS:
             texts.clear();
             const QList<QAction *> actions = menu->actions();
             for (const QAction *entry : actions)
-                texts.append(entry->isSeparator() ? QStringLiteral("-") : entry->text());
+                texts.append(entry->isSeparator() ? "-"_q : entry->text());
         };
         QVERIFY(openMenu(&card, look));
-        const QStringList actions{QStringLiteral("Chat with Contact"), QStringLiteral("Send File")};
-        QCOMPARE(texts, QStringList({QStringLiteral("Save User Picture..."), QStringLiteral("-")})
-                                + actions);
+        const QStringList actions{"Chat with Contact"_q, "Send File"_q};
+        QCOMPARE(texts, QStringList({"Save User Picture..."_q, "-"_q}) + actions);
         card.setAvatar(QPixmap(), false);
         QVERIFY(openMenu(&card, look));
         QCOMPARE(texts, actions);
@@ -360,29 +328,29 @@ private Q_SLOTS:
             look(menu);
             menu->actions().constFirst()->trigger();
         }));
-        QCOMPARE(texts, {QStringLiteral("Change My User Picture...")});
+        QCOMPARE(texts, {"Change My User Picture..."_q});
         QCOMPARE(newAvatar.size(), 1);
     }
 
     void savesThePictureUnderAHarmlessName()
     {
         const QTemporaryDir folder;
-        OmSettings::instance().setFile(folder.filePath(QStringLiteral("settings.ini")));
+        OmSettings::instance().setFile(folder.filePath("settings.ini"_q));
         OmContactCard card;
-        card.setAlias(QStringLiteral("../../Anna\n"));
+        card.setAlias("../../Anna\n"_q);
         card.setGeneralApp(application(3));
         card.setAvatar(picture(), false);
-        const QString file = folder.filePath(QStringLiteral("a.jpg"));
+        const QString file = folder.filePath("a.jpg"_q);
         const FileDialogUser user([&](QFileDialog *dialog) {
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("Save User Picture as..."));
-            QCOMPARE(FileDialogUser::proposal(dialog), QStringLiteral("_._.._Anna"));
+            QCOMPARE(dialog->windowTitle(), "Save User Picture as..."_q);
+            QCOMPARE(FileDialogUser::proposal(dialog), "_._.._Anna"_q);
             FileDialogUser::save(dialog, file);
         });
         QVERIFY(openMenu(&card, [](QMenu *menu) { menu->actions().constFirst()->trigger(); }));
         QVERIFY(waitFor([&] { return QFileInfo::exists(file); }));
         QCOMPARE(QImage(file).size(), picture().size());
-        const QVariant saved = OmSettings::instance().get(QStringLiteral("save_avatar_path"),
-                                                          QString(), QStringLiteral("omchat"));
+        const QVariant saved =
+                OmSettings::instance().get("save_avatar_path"_q, QString(), "omchat"_q);
         QCOMPARE(QDir(saved.toString()), QDir(folder.path()));
         OmSettings::instance().setFile(QString());
     }
@@ -397,7 +365,7 @@ private Q_SLOTS:
         QVERIFY(!drop(&card, &data));
         QVERIFY(dropped.isEmpty());
 
-        QList<QUrl> urls{QUrl(QStringLiteral("http://x/y.png"))};
+        QList<QUrl> urls{QUrl("http://x/y.png"_q)};
         QStringList files{QString()};
         for (int index = 0; index < 10000; ++index) {
             files.append(QDir::rootPath() + QString::number(index));
@@ -409,7 +377,7 @@ private Q_SLOTS:
 
         data.setImageData(picture().toImage());
         QVERIFY(drop(&card, &data));
-        const QString file = QDir::tempPath() + QStringLiteral("/omchat.jpg");
+        const QString file = QDir::tempPath() + "/omchat.jpg"_q;
         QCOMPARE(dropped.takeFirst(), QVariantList{QStringList{file}});
         QCOMPARE(QImage(file).size(), picture().size());
         QFile::remove(file);
@@ -479,7 +447,7 @@ private Q_SLOTS:
         row("newAvatar, files", qOverload<const QStringList &>(&OmContactCard::newAvatar),
             [](OmContactCard *card) {
                 QMimeData data;
-                data.setUrls({QUrl::fromLocalFile(QStringLiteral("/x"))});
+                data.setUrls({QUrl::fromLocalFile("/x"_q)});
                 card->setOwn(true);
                 drop(card, &data);
             });
@@ -511,13 +479,13 @@ private Q_SLOTS:
     void assistiveTechnologySeesAListItem()
     {
         OmContactCard card;
-        card.setOmbrinId(QStringLiteral("anna@home"));
+        card.setOmbrinId("anna@home"_q);
         card.setStatus(Om::Busy);
         QCOMPARE(accessible(&card)->role(), QAccessible::ListItem);
-        QCOMPARE(accessibleName(&card), QStringLiteral("anna@home"));
-        card.setAlias(QStringLiteral("Anna"));
-        QCOMPARE(accessibleName(&card), QStringLiteral("Anna"));
-        QCOMPARE(accessible(&card)->text(QAccessible::Description), QStringLiteral("Busy"));
+        QCOMPARE(accessibleName(&card), "anna@home"_q);
+        card.setAlias("Anna"_q);
+        QCOMPARE(accessibleName(&card), "Anna"_q);
+        QCOMPARE(accessible(&card)->text(QAccessible::Description), "Busy"_q);
         QVERIFY(!accessible(&card)->state().selected);
         card.setBig(true);
         QVERIFY(accessible(&card)->state().selected);

@@ -4,8 +4,6 @@
 #include <ombrin/OmContactCardList.h>
 
 #include <QAction>
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QResource>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
@@ -73,11 +71,7 @@ class tst_OmContactCardList : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
-                                            + QStringLiteral("/testdata/contacts.res")));
-    }
+    void initTestCase() { QVERIFY(registerPictures("testdata/contacts.res")); }
 
     void keepsCardsInOrderAboveTheButton()
     {
@@ -97,10 +91,10 @@ private Q_SLOTS:
         QCOMPARE(list.size(), 3);
         QVERIFY(!list.card(3) && !list.card(-1));
         QCOMPARE(list.currentCard(), list.card(0));
-        QCOMPARE(bigCards(list), QStringLiteral("0"));
+        QCOMPARE(bigCards(list), "0"_q);
 
         auto *const button = list.findChild<QToolButton *>();
-        QCOMPARE(button->toolTip(), QStringLiteral("Add Contact(s)"));
+        QCOMPARE(button->toolTip(), "Add Contact(s)"_q);
         list.resize(200, 600);
         list.show();
         QSignalSpy addContact(&list, &OmContactCardList::addContact);
@@ -152,27 +146,23 @@ private Q_SLOTS:
         }
         click(list.card(2));
         QCOMPARE(list.currentCard(), list.card(2));
-        QCOMPARE(bigCards(list), QStringLiteral("0"));
-        QVERIFY(waitFor([&] { return bigCards(list) == QStringLiteral("2"); }));
+        QCOMPARE(bigCards(list), "0"_q);
+        QVERIFY(waitFor([&] { return bigCards(list) == "2"_q; }));
 
         // The last of three, and the current one.
         list.removeCard(list.card(2));
-        QCOMPARE(bigCards(list), QStringLiteral("1"));
+        QCOMPARE(bigCards(list), "1"_q);
         QCOMPARE(list.currentCard(), list.card(0));
         click(list.card(1));
         list.removeCard(list.card(1)); // before its time
         QTest::qWait(50);
-        QCOMPARE(bigCards(list), QStringLiteral("0"));
+        QCOMPARE(bigCards(list), "0"_q);
     }
 
     void neighbourTakesThePlaceOfTheCurrentCard()
     {
-        const struct
-        {
-            int clicked;
-            int removed;
-            const char *big;
-        } cases[] = {{0, 0, "0"}, {2, 0, "01"}, {0, 1, "0"}, {1, 1, ""}};
+        const std::tuple<int, int, const char *> cases[] = {
+                {0, 0, "0"}, {2, 0, "01"}, {0, 1, "0"}, {1, 1, ""}};
         for (const auto &[clicked, removed, big] : cases) {
             OmContactCardList list;
             fill(&list, 3);
@@ -200,15 +190,15 @@ private Q_SLOTS:
         other.addCard(moved);
         QCOMPARE(list.size(), 1);
         QCOMPARE(other.size(), 1);
-        Q_EMIT taken->actionId(QStringLiteral("chat"));
-        Q_EMIT moved->actionId(QStringLiteral("chat"));
+        Q_EMIT taken->actionId("chat"_q);
+        Q_EMIT moved->actionId("chat"_q);
         QVERIFY(chosen.isEmpty());
         click(taken);
         QVERIFY(!taken->isBig());
 
         list.addCard(taken);
-        Q_EMIT taken->actionId(QStringLiteral("chat"));
-        QCOMPARE(chosen, QList<QVariantList>({{QStringLiteral("chat"), QStringLiteral("id 2")}}));
+        Q_EMIT taken->actionId("chat"_q);
+        QCOMPARE(chosen, QList<QVariantList>({{"chat"_q, "id 2"_q}}));
     }
 
     void mayBeDeletedInAnySlot()
@@ -228,7 +218,7 @@ private Q_SLOTS:
                 connect(list, &OmContactCardList::actionId, list, [&] { end(list, card); });
                 if (isAction) {
                     card->setBig(true);
-                    card->findChild<QAction *>(QStringLiteral("chat"))->trigger();
+                    card->findChild<QAction *>("chat"_q)->trigger();
                 } else {
                     click(card);
                 }
@@ -309,8 +299,8 @@ private:
     {
         for (int index = 0; index < count; ++index) {
             auto *card = new OmContactCard;
-            card->setOmbrinId(QStringLiteral("id %1").arg(list->size()));
-            card->setAlias(QStringLiteral("Contact %1").arg(list->size()));
+            card->setOmbrinId("id %1"_q.arg(list->size()));
+            card->setAlias("Contact %1"_q.arg(list->size()));
             card->setGeneralApp(static_cast<Om::ClientApplication>(3));
             list->addCard(card);
         }

@@ -3,11 +3,9 @@
 
 #include <ombrin/OmRatingLabel.h>
 
-#include <QtCore/QResource>
 #include <QtGui/QAccessible>
 
 #include <cmath>
-#include <memory>
 
 using namespace ombrin::test;
 using ombrin::OmRatingLabel;
@@ -66,11 +64,7 @@ class tst_OmRatingLabel : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QResource::registerResource(QCoreApplication::applicationDirPath()
-                                            + QStringLiteral("/testdata/contacts.res")));
-    }
+    void initTestCase() { QVERIFY(registerPictures("testdata/contacts.res")); }
 
     void startsEmptyAndFrameless()
     {
@@ -85,14 +79,13 @@ private Q_SLOTS:
 
     void showsTheStoredRating_data()
     {
-        QTest::addColumn<int>("rating");
-        QTest::addColumn<QString>("stars");
-        QTest::newRow("0") << 0 << "eeeee";
-        QTest::newRow("1") << 1 << "heeee";
-        QTest::newRow("7") << 7 << "fffhe";
-        QTest::newRow("10") << 10 << "fffff";
-        QTest::newRow("above") << 11 << "fffff";
-        QTest::newRow("below") << -1 << "eeeee";
+        const auto row = columns<int, QString>("rating", "stars");
+        row("0", 0, "eeeee");
+        row("1", 1, "heeee");
+        row("7", 7, "fffhe");
+        row("10", 10, "fffff");
+        row("above", 11, "fffff");
+        row("below", -1, "eeeee");
     }
 
     void showsTheStoredRating()
@@ -112,41 +105,36 @@ private Q_SLOTS:
 
     void starsLightUpUpToThePointer_data()
     {
-        QTest::addColumn<int>("height");
-        QTest::addColumn<int>("x");
-        QTest::addColumn<int>("current");
-        QTest::addColumn<QString>("stars");
+        const auto row = columns<int, int, int, QString>("height", "x", "current", "stars");
 
         // The stored rating is 7.
-        QTest::newRow("before the first") << 34 << 0 << 0 << "fffhE";
-        QTest::newRow("first pixel") << 34 << 1 << 1 << "HffhE";
-        QTest::newRow("last of the half") << 34 << 17 << 1 << "HffhE";
-        QTest::newRow("first of the full") << 34 << 18 << 2 << "FffhE";
-        QTest::newRow("50") << 34 << 50 << 3 << "FHfhE";
-        QTest::newRow("last") << 34 << 160 << 10 << "FFFFF";
-        QTest::newRow("far right") << 34 << 500 << 10 << "FFFFF";
-        QTest::newRow("left of it") << 34 << -20 << 0 << "fffhE";
-        QTest::newRow("small, odd: half") << 19 << 10 << 1 << "HffhE";
-        QTest::newRow("small, odd: full") << 19 << 11 << 2 << "FffhE";
+        row("before the first", 34, 0, 0, "fffhE");
+        row("first pixel", 34, 1, 1, "HffhE");
+        row("last of the half", 34, 17, 1, "HffhE");
+        row("first of the full", 34, 18, 2, "FffhE");
+        row("50", 34, 50, 3, "FHfhE");
+        row("last", 34, 160, 10, "FFFFF");
+        row("far right", 34, 500, 10, "FFFFF");
+        row("left of it", 34, -20, 0, "fffhE");
+        row("small, odd: half", 19, 10, 1, "HffhE");
+        row("small, odd: full", 19, 11, 2, "FffhE");
     }
 
     void starsLightUpUpToThePointer()
     {
         QFETCH(int, height);
         QFETCH(int, x);
-        QFETCH(int, current);
-        QFETCH(QString, stars);
         OmRatingLabel label;
         label.resize(200, height);
         label.setRating(7);
         sendEnter(&label);
         for (const int y : {0, 10, 300}) {
             sendMouseMove(&label, QPoint(x, y));
-            QCOMPARE(shownStars(&label), stars);
-            QCOMPARE(label.currentRating(), current);
+            QTEST(shownStars(&label), "stars");
+            QTEST(label.currentRating(), "current");
         }
         sendLeave(&label);
-        QCOMPARE(shownStars(&label), QStringLiteral("fffhe"));
+        QCOMPARE(shownStars(&label), "fffhe"_q);
         QCOMPARE(label.rating(), 7);
     }
 
@@ -177,13 +165,11 @@ private Q_SLOTS:
 
     void aClickTakesTheRatingUnderThePointer_data()
     {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QPoint>("place");
-        QTest::addColumn<int>("rating");
-        QTest::newRow("left") << int(Qt::LeftButton) << QPoint(60, 10) << 4;
-        QTest::newRow("right") << int(Qt::RightButton) << QPoint(60, 10) << 7;
-        QTest::newRow("released below") << int(Qt::LeftButton) << QPoint(60, 40) << 7;
-        QTest::newRow("released left of it") << int(Qt::LeftButton) << QPoint(-1, 10) << 7;
+        const auto row = columns<int, QPoint, int>("button", "place", "rating");
+        row("left", Qt::LeftButton, {60, 10}, 4);
+        row("right", Qt::RightButton, {60, 10}, 7);
+        row("released below", Qt::LeftButton, {60, 40}, 7);
+        row("released left of it", Qt::LeftButton, {-1, 10}, 7);
     }
 
     void aClickTakesTheRatingUnderThePointer()
@@ -226,7 +212,7 @@ private Q_SLOTS:
         QCOMPARE(slider->minimumStepSize().toInt(), 1);
         label.setRating(7);
         QCOMPARE(slider->currentValue().toInt(), 7);
-        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("7"));
+        QCOMPARE(seen->text(QAccessible::Value), "7"_q);
         label.setRating(-4);
         QCOMPARE(slider->currentValue().toInt(), 0);
 

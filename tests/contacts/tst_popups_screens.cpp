@@ -10,9 +10,7 @@
 #include <QtGui/QScreen>
 
 using namespace ombrin::test;
-using ombrin::OmAvatar;
-using ombrin::OmAvatarSmall;
-using ombrin::OmInfoPopup;
+using namespace ombrin;
 
 // Two screens on a real X server, the second twice as dense as the first.
 class tst_PopupsScreens : public TestCase
@@ -29,17 +27,16 @@ private Q_SLOTS:
     void popupsOpenOnTheScreenOfTheirWidget_data()
     {
         QTest::addColumn<QString>("place");
-        QTest::newRow("second screen on the right") << QStringLiteral("--right-of");
-        QTest::newRow("second screen on the left") << QStringLiteral("--left-of");
-        QTest::newRow("second screen above") << QStringLiteral("--above");
-        QTest::newRow("second screen below") << QStringLiteral("--below");
+        QTest::newRow("second screen on the right") << "--right-of"_q;
+        QTest::newRow("second screen on the left") << "--left-of"_q;
+        QTest::newRow("second screen above") << "--above"_q;
+        QTest::newRow("second screen below") << "--below"_q;
     }
 
     void popupsOpenOnTheScreenOfTheirWidget()
     {
         QFETCH(QString, place);
-        runBeside(QStringLiteral("xrandr"), {QStringLiteral("--output"), QStringLiteral("DUMMY1"),
-                                             place, QStringLiteral("DUMMY0")});
+        runBeside("xrandr"_q, {"--output"_q, "DUMMY1"_q, place, "DUMMY0"_q});
         const QList<QScreen *> screens = QGuiApplication::screens();
         QCOMPARE(screens.size(), 2);
         const auto geometryOf = [&screens](const char *name) {
@@ -49,10 +46,10 @@ private Q_SLOTS:
         const auto isInPlace = [&] {
             const QRect first = geometryOf("DUMMY0");
             const QRect second = geometryOf("DUMMY1");
-            return place == QLatin1String("--right-of")  ? second.left() > first.right()
-                   : place == QLatin1String("--left-of") ? second.right() < first.left()
-                   : place == QLatin1String("--above")   ? second.bottom() < first.top()
-                                                         : second.top() > first.bottom();
+            return place == "--right-of"_q  ? second.left() > first.right()
+                   : place == "--left-of"_q ? second.right() < first.left()
+                   : place == "--above"_q   ? second.bottom() < first.top()
+                                            : second.top() > first.bottom();
         };
         QVERIFY(waitFor(isInPlace));
         for (const QScreen *screen : screens) {

@@ -2,7 +2,6 @@
 
 #include <ombrin/OmSafeHtml.h>
 
-#include <QtCore/QRandomGenerator>
 #include <QtGui/QTextDocument>
 
 using ombrin::OmSafeHtml;
@@ -66,8 +65,8 @@ int longestUnbroken(const QString &html)
     QTextDocument document;
     document.setHtml(html);
     int longest = 0;
-    const QStringList words = document.toPlainText().split(
-            QRegularExpression(QStringLiteral("[\\s\\x{200b}\\x{fffc}]")));
+    const QStringList words =
+            document.toPlainText().split(QRegularExpression("[\\s\\x{200b}\\x{fffc}]"_q));
     for (const QString &word : words)
         longest = qMax(longest, static_cast<int>(word.size()));
     return longest;
@@ -77,10 +76,10 @@ int deepestNesting(const QString &html)
 {
     int depth = 0;
     int deepest = 0;
-    auto tags = QRegularExpression(QStringLiteral("<(/?)([a-z0-9]+)")).globalMatch(html);
+    auto tags = QRegularExpression("<(/?)([a-z0-9]+)"_q).globalMatch(html);
     while (tags.hasNext()) {
         const QRegularExpressionMatch tag = tags.next();
-        if (tag.captured(2) != QLatin1String("br") && tag.captured(2) != QLatin1String("hr"))
+        if (tag.captured(2) != "br"_q && tag.captured(2) != "hr"_q)
             depth += tag.captured(1).isEmpty() ? 1 : -1;
         deepest = qMax(deepest, depth);
     }
@@ -103,10 +102,10 @@ private Q_SLOTS:
 
     void plainTextIsShownAsItIs()
     {
-        const QString text = QStringLiteral("<b>&amp;  a\n\n  b \tc\r\nd\rend");
+        const QString text = "<b>&amp;  a\n\n  b \tc\r\nd\rend"_q;
         QTextDocument document;
         document.setHtml(OmSafeHtml::fromPlainText(text));
-        QCOMPARE(document.toPlainText(), QStringLiteral("<b>&amp;  a\n\n  b  c\nd\nend"));
+        QCOMPARE(document.toPlainText(), "<b>&amp;  a\n\n  b  c\nd\nend"_q);
         QCOMPARE(OmSafeHtml::fromPlainText(QString()), QString());
     }
 
@@ -115,13 +114,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("html");
 
         QTest::newRow("nested tables") << repeated("<table><tr><td>", 18);
-        QTest::newRow("nested tags") << repeated("<b>", 10000) + QStringLiteral("x");
+        QTest::newRow("nested tags") << repeated("<b>", 10000) + "x"_q;
         QTest::newRow("nested lists") << repeated("<ul><li>", 10000);
         QTest::newRow("word") << repeated("a", 200000);
         QTest::newRow("word of entities") << repeated("&auml;", 20000);
         QTest::newRow("word of tags") << repeated("<i>a</i>", 10000);
         QTest::newRow("scripts") << repeated("a\u05d0", 30000);
-        QTest::newRow("marks") << QStringLiteral("a") + repeated("\u0301\u200d", 30000);
+        QTest::newRow("marks") << "a"_q + repeated("\u0301\u200d", 30000);
         QTest::newRow("lines") << repeated("<br>", 20000);
         QTest::newRow("paragraphs") << repeated("<p>x", 20000);
         QTest::newRow("tags without end") << repeated("<b a='", 10000);
@@ -134,11 +133,11 @@ private Q_SLOTS:
         const QString safe = OmSafeHtml::fromHtml(html);
         const int portions = static_cast<int>(html.size()) / 65536 + 1;
         QVERIFY(deepestNesting(safe) >= 0 && deepestNesting(safe) <= 16);
-        QVERIFY(safe.count(QStringLiteral("<br>")) <= 4000 * portions);
-        QVERIFY(safe.count(QStringLiteral("<p>")) <= 2000 * portions);
-        QVERIFY(safe.count(QStringLiteral("<li>")) <= 500 * portions);
+        QVERIFY(safe.count("<br>"_q) <= 4000 * portions);
+        QVERIFY(safe.count("<p>"_q) <= 2000 * portions);
+        QVERIFY(safe.count("<li>"_q) <= 500 * portions);
         QVERIFY(longestUnbroken(safe) <= 400);
-        if (html.contains(QStringLiteral("\u0301")))
+        if (html.contains("\u0301"_q))
             QVERIFY(safe.size() <= 9);
     }
 };

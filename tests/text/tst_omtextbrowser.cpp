@@ -5,9 +5,6 @@
 #include <ombrin/OmSettings.h>
 #include <ombrin/OmTextBrowser.h>
 
-#include <QtCore/QBuffer>
-#include <QtCore/QPointer>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QClipboard>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QTextCursor>
@@ -18,7 +15,7 @@
 #include <functional>
 
 using ombrin::OmTextBrowser;
-using ombrin::test::FileDialogUser;
+using namespace ombrin::test;
 
 namespace {
 
@@ -51,8 +48,8 @@ QStringList entries(const QMenu *menu)
 {
     QStringList texts;
     for (const QAction *action : menu->actions()) {
-        const QString state = action->isEnabled() ? QString() : QStringLiteral(" (off)");
-        texts.append(action->isSeparator() ? QStringLiteral("-") : action->text() + state);
+        const QString state = action->isEnabled() ? QString() : " (off)"_q;
+        texts.append(action->isSeparator() ? "-"_q : action->text() + state);
     }
     return texts;
 }
@@ -67,9 +64,9 @@ protected:
     void setUp() override
     {
         m_folder = std::make_unique<QTemporaryDir>();
-        m_received = m_folder->filePath(QStringLiteral("a smile&y#1.png"));
+        m_received = m_folder->filePath("a smile&y#1.png"_q);
         write(m_received, picture());
-        ombrin::OmSettings::instance().setFile(m_folder->filePath(QStringLiteral("settings.ini")));
+        ombrin::OmSettings::instance().setFile(m_folder->filePath("settings.ini"_q));
         QDir(ombrin::OmDir::smileysPath(false)).removeRecursively();
         m_browser = new OmTextBrowser;
         m_browser->QWidget::resize(kSize);
@@ -130,12 +127,7 @@ private:
 private Q_SLOTS:
     void linksExplainThemselves_data()
     {
-        QTest::addColumn<QString>("link");
-        QTest::addColumn<QString>("toolTip");
-
-        const auto row = [](const char *link, const char *toolTip) {
-            QTest::newRow(link) << QString::fromLatin1(link) << QString::fromLatin1(toolTip);
-        };
+        const auto row = columns<QString>("toolTip");
         row("https://user@example.com:80/a?b", "Open example.com in your web browser.");
         row("ftp://example.com", "Open example.com in your web browser.");
         row("mailto:a@b.de", "Write e-mail to a@b.de.");
@@ -150,9 +142,9 @@ private Q_SLOTS:
     }
     void linksExplainThemselves()
     {
-        QFETCH(QString, link);
-        m_browser->setToolTip(QStringLiteral("old"));
-        Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(QUrl(link));
+        m_browser->setToolTip("old"_q);
+        const QUrl link(QString::fromLatin1(QTest::currentDataTag()));
+        Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(link);
         QTEST(m_browser->toolTip(), "toolTip");
         Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(QUrl());
         QCOMPARE(m_browser->toolTip(), QString());
@@ -161,14 +153,14 @@ private Q_SLOTS:
     void toolTipsOfHostileLinksArePlainText()
     {
         QUrl link;
-        link.setScheme(QStringLiteral("mailto"));
-        link.setPath(QStringLiteral("<b>you</b>\u202e<img src=x>&lt;"));
+        link.setScheme("mailto"_q);
+        link.setPath("<b>you</b>\u202e<img src=x>&lt;"_q);
         Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(link);
         QTextDocument shown;
         shown.setHtml(m_browser->toolTip()); // as what Qt takes for rich text is shown
         QVERIFY(Qt::mightBeRichText(m_browser->toolTip()));
-        QVERIFY(shown.toPlainText().contains(QStringLiteral("%3Cb%3E"))
-                || shown.toPlainText().contains(QStringLiteral("<b>you</b><img src=x>")));
+        QVERIFY(shown.toPlainText().contains("%3Cb%3E"_q)
+                || shown.toPlainText().contains("<b>you</b><img src=x>"_q));
 
         link.setPath(QString(100000, QLatin1Char('x')));
         Q_EMIT static_cast<QTextBrowser *>(m_browser)->highlighted(link);
@@ -177,58 +169,55 @@ private Q_SLOTS:
 
     void clickedLinksLeaveTheHistoryOnShow()
     {
-        m_browser->setHtml(QStringLiteral("<a href='http://example.com'>a link</a>"));
+        m_browser->setHtml("<a href='http://example.com'>a link</a>"_q);
         show();
         QSignalSpy clicked(m_browser.data(), &QTextBrowser::anchorClicked);
         QTest::mouseClick(m_browser->viewport(), Qt::LeftButton, {}, placeOf(3));
         QCOMPARE(clicked.size(), 1);
-        QCOMPARE(m_browser->toPlainText(), QStringLiteral("a link"));
+        QCOMPARE(m_browser->toPlainText(), "a link"_q);
         QCOMPARE(m_browser->document()->defaultStyleSheet(),
-                 QStringLiteral("a { text-decoration: underline; color: #009cff }"));
+                 "a { text-decoration: underline; color: #009cff }"_q);
     }
 
     void menuFollowsTextSelectionAndLink()
     {
         show();
-        const QString copyOff = QStringLiteral("&Copy (off)");
-        const QString linkOff = QStringLiteral("Copy &Link Location (off)");
-        const QString bar = QStringLiteral("-");
-        QCOMPARE(menuAt({5, 5}),
-                 QStringList({copyOff, linkOff, bar, QStringLiteral("&Select All (off)")}));
+        const QString copyOff = "&Copy (off)"_q;
+        const QString linkOff = "Copy &Link Location (off)"_q;
+        const QString bar = "-"_q;
+        QCOMPARE(menuAt({5, 5}), QStringList({copyOff, linkOff, bar, "&Select All (off)"_q}));
 
-        m_browser->setHtml(QStringLiteral("<a href='tel:55'>a link</a>"));
+        m_browser->setHtml("<a href='tel:55'>a link</a>"_q);
         openMenu(placeOf(3), [](QMenu *menu) { choose(menu, 1); });
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("tel:55"));
+        QCOMPARE(QApplication::clipboard()->text(), "tel:55"_q);
         const auto selectAll = [](QMenu *menu) {
             QCOMPARE(menu->actions().at(3)->shortcut(), QKeySequence(QKeySequence::SelectAll));
             choose(menu, 3);
         };
         QCOMPARE(openMenu({250, 150}, selectAll),
-                 QStringList({copyOff, linkOff, bar, QStringLiteral("&Select All")}));
-        QCOMPARE(m_browser->textCursor().selectedText(), QStringLiteral("a link"));
+                 QStringList({copyOff, linkOff, bar, "&Select All"_q}));
+        QCOMPARE(m_browser->textCursor().selectedText(), "a link"_q);
         QCOMPARE(openMenu(placeOf(3), [](QMenu *menu) { choose(menu, 0); }),
-                 QStringList({QStringLiteral("&Copy"), QStringLiteral("Copy &Link Location"), bar,
-                              QStringLiteral("&Select All")}));
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a link"));
+                 QStringList({"&Copy"_q, "Copy &Link Location"_q, bar, "&Select All"_q}));
+        QCOMPARE(QApplication::clipboard()->text(), "a link"_q);
         m_browser->clear();
-        QCOMPARE(menuAt({5, 5}).at(3), QStringLiteral("&Select All (off)"));
+        QCOMPARE(menuAt({5, 5}).at(3), "&Select All (off)"_q);
     }
 
     void picturesOfOthersHaveAMenuOfTheirOwn()
     {
-        const QStringList pictureMenu{QStringLiteral("Add Smiley"),
-                                      QStringLiteral("Save Image as...")};
+        const QStringList pictureMenu{"Add Smiley"_q, "Save Image as..."_q};
         insertPicture(QUrl::fromLocalFile(m_received).toString());
         show();
         QCOMPARE(menuAt(placeOf(1)).size(), 4);
         m_browser->setSaveableImages(true);
         QCOMPARE(menuAt(placeOf(0)), pictureMenu); // from its left
         QCOMPARE(menuAt(placeOf(1)), pictureMenu); // and from its right
-        m_browser->append(QStringLiteral("text"));
+        m_browser->append("text"_q);
         QCOMPARE(menuAt(placeOf(4)).size(), 4);
-        m_browser->setHtml(QStringLiteral("<img src=':/smile'>"));
+        m_browser->setHtml("<img src=':/smile'>"_q);
         QCOMPARE(menuAt(placeOf(1)).size(), 4);
-        m_browser->setHtml(QStringLiteral("<a href='x:'><img src='/tmp/x.png'></a>"));
+        m_browser->setHtml("<a href='x:'><img src='/tmp/x.png'></a>"_q);
         QCOMPARE(menuAt(placeOf(1)).size(), 4);
     }
 
@@ -236,7 +225,7 @@ private Q_SLOTS:
     {
         m_browser->setSaveableImages(true);
         show();
-        const QString gone = m_folder->filePath(QStringLiteral("gone.png"));
+        const QString gone = m_folder->filePath("gone.png"_q);
         for (const QString &name : {m_received, m_received, gone, m_folder->path()}) {
             m_browser->clear();
             insertPicture(name);
@@ -260,21 +249,20 @@ private Q_SLOTS:
         m_browser->setSaveableImages(true);
         insertPicture(m_received);
         show();
-        const QString file = m_folder->filePath(QStringLiteral("saved.jpg"));
+        const QString file = m_folder->filePath("saved.jpg"_q);
         QString proposal;
         const FileDialogUser user([&](QFileDialog *dialog) {
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("Save Smiley as..."));
+            QCOMPARE(dialog->windowTitle(), "Save Smiley as..."_q);
             proposal = QFileInfo(FileDialogUser::proposal(dialog)).completeBaseName();
             FileDialogUser::save(dialog, file);
         });
         openMenu(placeOf(0), [](QMenu *menu) { choose(menu, 1); });
-        QCOMPARE(proposal, QStringLiteral("a smile&y#1"));
+        QCOMPARE(proposal, "a smile&y#1"_q);
         const QImage saved(file, "jpg");
         QCOMPARE(saved.size(), QSize(40, 30));
         QVERIFY(std::abs(saved.pixelColor(20, 15).green() - kColor.green()) < 4);
         QCOMPARE(ombrin::OmSettings::instance()
-                         .get(QStringLiteral("save_smiley_path"), QString(),
-                              QStringLiteral("omchat"))
+                         .get("save_smiley_path"_q, QString(), "omchat"_q)
                          .toString(),
                  QFileInfo(file).absolutePath());
     }
@@ -304,50 +292,48 @@ private Q_SLOTS:
     void hostilePicturesAreHarmless()
     {
         QFETCH(QString, kind);
-        const QString path = m_folder->filePath(QStringLiteral("hostile"));
+        const QString path = m_folder->filePath("hostile"_q);
         QHash<QString, QString> sources{
-                {QStringLiteral("remote"), QStringLiteral("http://127.0.0.1:1/x.png")},
-                {QStringLiteral("share"), QStringLiteral("//server/share/x.png")},
-                {QStringLiteral("folder"), m_folder->path()},
-                {QStringLiteral("missing"), m_folder->filePath(QStringLiteral("gone"))},
-                {QStringLiteral("huge data"),
-                 QStringLiteral("data:image/bmp;base64,")
-                         + QString::fromLatin1(hugePicture().toBase64())},
-                {QStringLiteral("no data"), QStringLiteral("data:")},
-                {QStringLiteral("device"), QStringLiteral("/dev/zero")},
-                {QStringLiteral("endless"), QStringLiteral("/proc/kmsg")},
-                {QStringLiteral("nothing"), QString()},
+                {"remote"_q, "http://127.0.0.1:1/x.png"_q},
+                {"share"_q, "//server/share/x.png"_q},
+                {"folder"_q, m_folder->path()},
+                {"missing"_q, m_folder->filePath("gone"_q)},
+                {"huge data"_q,
+                 "data:image/bmp;base64,"_q + QString::fromLatin1(hugePicture().toBase64())},
+                {"no data"_q, "data:"_q},
+                {"device"_q, "/dev/zero"_q},
+                {"endless"_q, "/proc/kmsg"_q},
+                {"nothing"_q, QString()},
         };
-        if (kind == QLatin1String("pipe"))
-            QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {path}), 0);
+        if (kind == "pipe"_q)
+            QCOMPARE(QProcess::execute("mkfifo"_q, {path}), 0);
         else
-            write(path, kind == QLatin1String("huge")         ? hugePicture()
-                        : kind == QLatin1String("no picture") ? QByteArray("GIF89a but no more")
-                        : kind == QLatin1String("drawing")
+            write(path, kind == "huge"_q         ? hugePicture()
+                        : kind == "no picture"_q ? QByteArray("GIF89a but no more")
+                        : kind == "drawing"_q
                                 ? QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>")
-                        : kind == QLatin1String("empty") ? QByteArray()
-                                                         : picture());
-        if (kind == QLatin1String("large file")) // which takes no room on the disk
+                        : kind == "empty"_q ? QByteArray()
+                                            : picture());
+        if (kind == "large file"_q) // which takes no room on the disk
             QVERIFY(QFile(path).resize(1024 * 1024 * 1024));
         const QString source = sources.value(kind, path);
         QCOMPARE(loaded(QUrl(source)).size(), QSize(16, 16));
         QCOMPARE(loaded(QUrl::fromLocalFile(source)).size(), QSize(16, 16));
 
         // The document must not look for it by itself.
-        m_browser->setHtml(
-                QStringLiteral("<img src='%1'><link rel=stylesheet href='%1'>x").arg(source));
+        m_browser->setHtml("<img src='%1'><link rel=stylesheet href='%1'>x"_q.arg(source));
         show();
         QVERIFY(m_browser->document()->idealWidth() < 60);
     }
 
     void copyLockKeepsTextInside()
     {
-        m_browser->setHtml(QStringLiteral("<b>secret</b> text"));
+        m_browser->setHtml("<b>secret</b> text"_q);
         show();
         m_browser->selectAll();
         QTest::keyClick(m_browser, Qt::Key_C, Qt::ControlModifier);
-        QVERIFY(QApplication::clipboard()->mimeData()->html().contains(QStringLiteral("secret")));
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("secret text"));
+        QVERIFY(QApplication::clipboard()->mimeData()->html().contains("secret"_q));
+        QCOMPARE(QApplication::clipboard()->text(), "secret text"_q);
 
         QVERIFY(m_browser->isCopyable());
         m_browser->setCopyable(false);

@@ -18,10 +18,9 @@ class tst_OmTextBrowserX11 : public TestCase
 private Q_SLOTS:
     void copyLockHoldsForSelectionAndDrag_data()
     {
-        QTest::addColumn<bool>("copyable");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("free") << true << QStringLiteral("secret");
-        QTest::newRow("locked") << false << QString();
+        const auto row = columns<bool, QString>("copyable", "text");
+        row("free", true, "secret");
+        row("locked", false, QString());
     }
     void copyLockHoldsForSelectionAndDrag()
     {
@@ -34,12 +33,12 @@ private Q_SLOTS:
         layout->addWidget(browser);
         layout->addWidget(target);
         browser->setCopyable(copyable);
-        browser->setPlainText(QStringLiteral("secret"));
+        browser->setPlainText("secret"_q);
         window.setGeometry(100, 100, 500, 150);
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window, 20000));
 
-        QApplication::clipboard()->setText(QStringLiteral("old"), QClipboard::Selection);
+        QApplication::clipboard()->setText("old"_q, QClipboard::Selection);
         QTextCursor cursor(browser->document());
         cursor.setPosition(3);
         QPoint middle;
@@ -47,8 +46,7 @@ private Q_SLOTS:
             middle = browser->viewport()->mapToGlobal(browser->cursorRect(cursor).center());
             clickAt(middle, 1, 2);
             return QTest::qWaitFor(
-                    [&] { return browser->textCursor().selectedText() == QLatin1String("secret"); },
-                    1000);
+                    [&] { return browser->textCursor().selectedText() == "secret"_q; }, 1000);
         }));
         QTRY_COMPARE_WITH_TIMEOUT(QApplication::clipboard()->text(QClipboard::Selection), text,
                                   20000);
@@ -56,7 +54,7 @@ private Q_SLOTS:
         QTest::qWait(QApplication::doubleClickInterval() + 100); // not a third click
         dragBy(middle, target->mapToGlobal(target->rect().center()) - middle);
         QTRY_COMPARE_WITH_TIMEOUT(target->toPlainText(), text, 20000);
-        QCOMPARE(browser->toPlainText(), QStringLiteral("secret"));
+        QCOMPARE(browser->toPlainText(), "secret"_q);
     }
 };
 

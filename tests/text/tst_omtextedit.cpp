@@ -4,15 +4,10 @@
 #include <ombrin/OmTextEdit.h>
 #include <ombrin/OmTextEditSyntax.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QMimeData>
-#include <QtCore/QPointer>
-#include <QtCore/QTimer>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
-#include <QtTest/QSignalSpy>
 #include <QtWidgets/QMenu>
 
 #include <random>
@@ -21,18 +16,10 @@
 #include <sys/stat.h>
 #endif
 
-using ombrin::OmSpelling;
-using ombrin::OmTextEdit;
-using ombrin::OmTextEditSyntax;
-using ombrin::test::SpellingFolder;
-using ombrin::test::WordListBackend;
+using namespace ombrin;
+using namespace ombrin::test;
 
 namespace {
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 class Edit : public OmTextEdit
 {
@@ -40,12 +27,12 @@ public:
     Edit()
     {
         resize(300, 100);
-        setDict(QStringLiteral("aa"));
+        setDict("aa"_q);
         setSpellChecking(true);
         show();
         QCoreApplication::processEvents();
     }
-    void paste(const QString &html, const QString &format = QStringLiteral("text/html"))
+    void paste(const QString &html, const QString &format = "text/html"_q)
     {
         QMimeData mime;
         mime.setData(format, html.toUtf8());
@@ -71,7 +58,7 @@ QStringList underlined(const QTextDocument *document)
 // What is to be underlined, found in the plainest way.
 QStringList misspelt(const QTextDocument *document, const QStringList &words)
 {
-    const QString ends = QStringLiteral(" ,?!.");
+    const QString ends = " ,?!."_q;
     QStringList found;
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         const QString paragraph = block.text();
@@ -112,7 +99,7 @@ QStringList entries(const QMenu *menu)
     QStringList texts;
     const QList<QAction *> actions = menu->actions();
     for (const QAction *action : actions)
-        texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+        texts.append(action->isSeparator() ? "-"_q : action->text());
     return texts;
 }
 
@@ -136,10 +123,10 @@ protected:
     void setUp() override
     {
         const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-        QDir(data + QStringLiteral("/spelling")).removeRecursively();
+        QDir(data + "/spelling"_q).removeRecursively();
         SpellingFolder::needBackend();
         m_folder = std::make_unique<SpellingFolder>();
-        m_folder->add(QStringLiteral("aa"), {"hello", "world", "don't", "cat", "x&y"});
+        m_folder->add("aa"_q, {"hello", "world", "don't", "cat", "x&y"});
         m_edit = std::make_unique<Edit>();
     }
     void tearDown() override
@@ -151,18 +138,17 @@ protected:
 private Q_SLOTS:
     void wrongWordIsUnderlinedWhenItEnds_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QStringList>("expected");
-        const QString helo = text("helo");
+        const auto row = columns<QString, QStringList>("typed", "expected");
+        const QString helo = "helo"_q;
         for (const char *end : {" ", ",", "?", "!", "."})
-            QTest::newRow(end) << helo + text(end) << QStringList(helo);
+            row(end, helo + QLatin1String(end), QStringList(helo));
         for (const char *right :
              {"helo", "helo;", "hello ", "HELLO ", "(helo) ", "don't ", " ", "... "})
-            QTest::newRow(right) << text(right) << QStringList();
-        QTest::newRow("four") << text("world helo hello helo ") << QStringList({helo, helo});
-        QTest::newRow("inside") << text("helox helo ") << QStringList({text("helox"), helo});
-        QTest::newRow("brackets") << text("(helo) helo ") << QStringList(helo);
-        QTest::newRow("other script") << text("слон ") << QStringList(text("слон"));
+            row(right, right, QStringList());
+        row("four", "world helo hello helo ", {helo, helo});
+        row("inside", "helox helo ", {"helox"_q, helo});
+        row("brackets", "(helo) helo ", QStringList(helo));
+        row("other script", "слон ", QStringList("слон"_q));
     }
     void wrongWordIsUnderlinedWhenItEnds()
     {
@@ -183,38 +169,38 @@ private Q_SLOTS:
 
     void underlinesFollowEverywhereAndSurviveSwitchingOff()
     {
-        m_edit->setPlainText(text("qelu one.\ncat\nqelu two qelu\n"));
+        m_edit->setPlainText("qelu one.\ncat\nqelu two qelu\n"_q);
         m_edit->moveCursor(QTextCursor::End);
         QCOMPARE(underlined(m_edit->document()), QStringList());
-        QTest::keyClicks(m_edit.get(), text("qelu "));
-        const QStringList three = {text("qelu"), text("qelu"), text("qelu")};
+        QTest::keyClicks(m_edit.get(), "qelu "_q);
+        const QStringList three = {"qelu"_q, "qelu"_q, "qelu"_q};
         QCOMPARE(underlined(m_edit->document()), three);
 
         const int listeners = m_edit->listeners();
         m_edit->setSpellChecking(false);
         QCOMPARE(underlined(m_edit->document()), QStringList());
-        QTest::keyClicks(m_edit.get(), text("wrold "));
+        QTest::keyClicks(m_edit.get(), "wrold "_q);
         m_edit->setSpellChecking(true);
         m_edit->setSpellChecking(true);
         QCOMPARE(m_edit->listeners(), listeners);
         QCOMPARE(underlined(m_edit->document()), three);
 
         // A word that became correct.
-        OmSpelling::instance()->addToDictionary(text("qelu"));
-        QTest::keyClicks(m_edit.get(), text("qelu "));
+        OmSpelling::instance()->addToDictionary("qelu"_q);
+        QTest::keyClicks(m_edit.get(), "qelu "_q);
         QCOMPARE(underlined(m_edit->document()), QStringList());
     }
 
     void compositionIsLeftAlone()
     {
-        QInputMethodEvent composing(text("helo "), {});
+        QInputMethodEvent composing("helo "_q, {});
         QCoreApplication::sendEvent(m_edit.get(), &composing);
-        QCOMPARE(m_edit->textCursor().block().layout()->preeditAreaText(), text("helo "));
+        QCOMPARE(m_edit->textCursor().block().layout()->preeditAreaText(), "helo "_q);
         QCOMPARE(underlined(m_edit->document()), QStringList());
         QInputMethodEvent committing;
-        committing.setCommitString(text("helo "));
+        committing.setCommitString("helo "_q);
         QCoreApplication::sendEvent(m_edit.get(), &committing);
-        QCOMPARE(underlined(m_edit->document()), QStringList(text("helo")));
+        QCOMPARE(underlined(m_edit->document()), QStringList("helo"_q));
     }
 
     void serviceThatIsNotAvailableChangesNothing()
@@ -224,34 +210,30 @@ private Q_SLOTS:
         ombrin::setSpellingBackendFactory({});
         m_edit->setSpellChecking(true);
         QVERIFY(!m_edit->useSpellChecking());
-        QTest::keyClicks(m_edit.get(), text("helo "));
+        QTest::keyClicks(m_edit.get(), "helo "_q);
         QCOMPARE(underlined(m_edit->document()), QStringList());
         ombrin::setSpellingBackendFactory(factory);
     }
 
     void pastedTextIsPlain_data()
     {
-        QTest::addColumn<QString>("html");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const QString &html, const char *expected) {
-            QTest::newRow(name) << html << text(expected);
-        };
-        row("white space", text("<pre>  a \n\n  b  </pre>"), "a b");
-        row("paragraphs", text("<p>a</p><p><b>b</b> c</p>"), "a\nb c");
+        const auto row = columns<QString, QString>("html", "expected");
+        row("white space", "<pre>  a \n\n  b  </pre>", "a b");
+        row("paragraphs", "<p>a</p><p><b>b</b> c</p>", "a\nb c");
         row("word processor",
-            text("<html xmlns:o='urn:o'><head><style><!-- p.Mso {margin:0cm;} --></style>"
-                 "<title>no</title><!--[if gte mso 9]><xml><o:x>no</o:x></xml><![endif]--></head>"
-                 "<body><p class=Mso><span lang=EN>One&nbsp; <o:p></o:p></span></p>"
-                 "<p class=Mso>two<o:p>&nbsp;</o:p></p></body></html>"),
+            "<html xmlns:o='urn:o'><head><style><!-- p.Mso {margin:0cm;} --></style>"
+            "<title>no</title><!--[if gte mso 9]><xml><o:x>no</o:x></xml><![endif]--></head>"
+            "<body><p class=Mso><span lang=EN>One&nbsp; <o:p></o:p></span></p>"
+            "<p class=Mso>two<o:p>&nbsp;</o:p></p></body></html>"_q,
             "One two");
-        row("script and picture", text("<script>no()</script>a<img src='x.png'>b"), "ab");
-        row("nothing", text("<img src='x.png'>"), "");
-        row("deep", text("<table><tr><td>").repeated(500) + text("a"), "a");
+        row("script and picture", "<script>no()</script>a<img src='x.png'>b", "ab");
+        row("nothing", "<img src='x.png'>", "");
+        row("deep", "<table><tr><td>"_q.repeated(500) + "a"_q, "a");
 #ifdef Q_OS_UNIX
-        const QString pipe = QDir::temp().filePath(QStringLiteral("tst_omtextedit.pipe"));
+        const QString pipe = QDir::temp().filePath("tst_omtextedit.pipe"_q);
         mkfifo(QFile::encodeName(pipe).constData(), 0600); // May be left of an earlier run.
         row("style sheet that is a pipe",
-            text("<head><link rel='stylesheet' href='file://%1'></head>a").arg(pipe), "a");
+            "<head><link rel='stylesheet' href='file://%1'></head>a"_q.arg(pipe), "a");
 #endif
     }
     void pastedTextIsPlain()
@@ -262,80 +244,72 @@ private Q_SLOTS:
         QTEST(m_edit->toPlainText(), "expected");
 
         m_edit->clear();
-        m_edit->paste(html, QStringLiteral("application/x-qrichtext"));
+        m_edit->paste(html, "application/x-qrichtext"_q);
         QTEST(m_edit->toPlainText(), "expected");
     }
 
     void keysObeyTheLimit()
     {
-        struct Case
-        {
-            Qt::Key key;
-            Qt::KeyboardModifier modifier;
-            const char *typed, *expected;
-            int sent;
-        };
-        constexpr Case cases[] = {{Qt::Key_X, Qt::NoModifier, "x", "abc", 0},
-                                  {Qt::Key_X, Qt::ShiftModifier, "X", "abcX", 0},
-                                  {Qt::Key_Home, Qt::NoModifier, "", "abc", 0},
-                                  {Qt::Key_Backspace, Qt::NoModifier, "", "ab", 0},
-                                  {Qt::Key_Tab, Qt::NoModifier, "\t", "abc\t", 0},
-                                  {Qt::Key_Return, Qt::NoModifier, "", "abc", 1},
-                                  {Qt::Key_Enter, Qt::KeypadModifier, "", "abc", 1},
-                                  {Qt::Key_Return, Qt::ShiftModifier, "", "abc\n", 0}};
+        const std::tuple<Qt::Key, Qt::KeyboardModifier, QString, QString, int> cases[] = {
+                {Qt::Key_X, Qt::NoModifier, "x"_q, "abc"_q, 0},
+                {Qt::Key_X, Qt::ShiftModifier, "X"_q, "abcX"_q, 0},
+                {Qt::Key_Home, Qt::NoModifier, ""_q, "abc"_q, 0},
+                {Qt::Key_Backspace, Qt::NoModifier, ""_q, "ab"_q, 0},
+                {Qt::Key_Tab, Qt::NoModifier, "\t"_q, "abc\t"_q, 0},
+                {Qt::Key_Return, Qt::NoModifier, ""_q, "abc"_q, 1},
+                {Qt::Key_Enter, Qt::KeypadModifier, ""_q, "abc"_q, 1},
+                {Qt::Key_Return, Qt::ShiftModifier, ""_q, "abc\n"_q, 0}};
         m_edit->setMaxLength(3);
-        for (const Case &test : cases) {
+        for (const auto &[key, modifier, typed, expected, count] : cases) {
             QSignalSpy sent(m_edit.get(), &OmTextEdit::enterPressed);
             m_edit->clear();
-            QTest::keyClicks(m_edit.get(), text("abcd"));
-            QTest::sendKeyEvent(QTest::Click, m_edit.get(), test.key, text(test.typed),
-                                test.modifier);
-            QCOMPARE(m_edit->toPlainText(), text(test.expected));
-            QCOMPARE(int(sent.count()), test.sent);
+            QTest::keyClicks(m_edit.get(), "abcd"_q);
+            QTest::sendKeyEvent(QTest::Click, m_edit.get(), key, typed, modifier);
+            QCOMPARE(m_edit->toPlainText(), expected);
+            QCOMPARE(int(sent.count()), count);
             QCOMPARE(m_edit->textCursor().atEnd(), true);
         }
     }
 
     void suggestionReplacesTheWordInOneStep()
     {
-        QTest::keyClicks(m_edit.get(), text("cat helo world"));
-        QVERIFY(OmSpelling::instance()->prepareSuggestions(text("helo"), 20000));
+        QTest::keyClicks(m_edit.get(), "cat helo world"_q);
+        QVERIFY(OmSpelling::instance()->prepareSuggestions("helo"_q, 20000));
         openMenu(m_edit.get(), 6, [](QMenu *menu) {
-            QCOMPARE(menu->title(), text("Spelling"));
-            QCOMPARE(entries(menu),
-                     QStringList({text("hello"), text("-"), text("Add to Dictionary")}));
-            choose(menu, text("hello"));
+            QCOMPARE(menu->title(), "Spelling"_q);
+            QCOMPARE(entries(menu), QStringList({"hello"_q, "-"_q, "Add to Dictionary"_q}));
+            choose(menu, "hello"_q);
         });
-        QCOMPARE(m_edit->toPlainText(), text("cat hello world"));
+        QCOMPARE(m_edit->toPlainText(), "cat hello world"_q);
         QCOMPARE(m_edit->textCursor().position(), 15);
         m_edit->undo();
-        QCOMPARE(m_edit->toPlainText(), text("cat helo world"));
-        OmSpelling::instance()->replaceWord(text("helo"), text("x&y"));
-        QVERIFY(OmSpelling::instance()->prepareSuggestions(text("helo"), 20000));
+        QCOMPARE(m_edit->toPlainText(), "cat helo world"_q);
+        OmSpelling::instance()->replaceWord("helo"_q, "x&y"_q);
+        QVERIFY(OmSpelling::instance()->prepareSuggestions("helo"_q, 20000));
         openMenu(m_edit.get(), 6, [](QMenu *menu) {
-            QCOMPARE(entries(menu).first(), text("x&&y"));
-            choose(menu, text("x&&y"));
+            QCOMPARE(entries(menu).first(), "x&&y"_q);
+            choose(menu, "x&&y"_q);
         });
-        QCOMPARE(m_edit->toPlainText(), text("cat x&y world"));
+        QCOMPARE(m_edit->toPlainText(), "cat x&y world"_q);
     }
 
     void otherMenus()
     {
         openMenu(m_edit.get(), 0, [](QMenu *menu) { QVERIFY(menu->title().isEmpty()); });
-        QTest::keyClicks(m_edit.get(), text("hello zzkqv "));
+        QTest::keyClicks(m_edit.get(), "hello zzkqv "_q);
         openMenu(m_edit.get(), 2, [](QMenu *menu) { QVERIFY(menu->title().isEmpty()); });
-        QVERIFY(OmSpelling::instance()->prepareSuggestions(text("zzkqv"), 20000));
+        QVERIFY(OmSpelling::instance()->prepareSuggestions("zzkqv"_q, 20000));
         openMenu(m_edit.get(), 8, [](QMenu *menu) {
-            QCOMPARE(entries(menu).first(), text("No Suggestions Found"));
-            choose(menu, text("No Suggestions Found"));
+            QCOMPARE(entries(menu).first(), "No Suggestions Found"_q);
+            choose(menu, "No Suggestions Found"_q);
         });
-        QCOMPARE(m_edit->toPlainText(), text("hello zzkqv "));
-        QCOMPARE(underlined(m_edit->document()), QStringList(text("zzkqv")));
-        openMenu(m_edit.get(), 8, [](QMenu *menu) { choose(menu, text("Add to Dictionary")); });
+        QCOMPARE(m_edit->toPlainText(), "hello zzkqv "_q);
+        QCOMPARE(underlined(m_edit->document()), QStringList("zzkqv"_q));
+        openMenu(m_edit.get(), 8, [](QMenu *menu) { choose(menu, "Add to Dictionary"_q); });
         QCOMPARE(underlined(m_edit->document()), QStringList());
-        QCOMPARE(OmSpelling::instance()->checkWord(text("zzkqv")), 1);
+        QCOMPARE(OmSpelling::instance()->checkWord("zzkqv"_q), 1);
         m_edit->setSpellChecking(false);
-        m_edit->setPlainText(text("helo"));
+        m_edit->setPlainText("helo"_q);
         openMenu(m_edit.get(), 2, [](QMenu *menu) { QVERIFY(menu->title().isEmpty()); });
     }
 
@@ -347,15 +321,15 @@ private Q_SLOTS:
         QList<QByteArray> many;
         for (int i = 0; i < 200; ++i)
             many.append("z" + QByteArray::number(i));
-        m_folder->add(text("many"), many);
-        m_edit->setDict(text("many"));
-        m_edit->setPlainText(text("zz"));
+        m_folder->add("many"_q, many);
+        m_edit->setDict("many"_q);
+        m_edit->setPlainText("zz"_q);
         WordListBackend::hold().lock();
         openMenu(m_edit.get(), 1, [](QMenu *menu) {
             QCOMPARE(entries(menu).size(), 3);
             QVERIFY(!menu->actions().first()->isEnabled());
             WordListBackend::hold().unlock();
-            QTRY_COMPARE_WITH_TIMEOUT(entries(menu).first(), text("z0"), 20000);
+            QTRY_COMPARE_WITH_TIMEOUT(entries(menu).first(), "z0"_q, 20000);
             // No more than the screen holds.
             QVERIFY(menu->screen()->availableGeometry().contains(menu->geometry()));
             QVERIFY(entries(menu).size() < 200);
@@ -366,14 +340,14 @@ private Q_SLOTS:
 
     void editMayBeDeletedAtAnyTime()
     {
-        QTest::keyClicks(m_edit.get(), text("helo hello "));
+        QTest::keyClicks(m_edit.get(), "helo hello "_q);
         openMenu(m_edit.get(), 2, [this](QMenu *menu) {
             m_edit.reset();
-            choose(menu, text("hello"));
+            choose(menu, "hello"_q);
         });
         for (const int position : {2, 8}) {
             m_edit = std::make_unique<Edit>();
-            m_edit->setPlainText(text("hello hello "));
+            m_edit->setPlainText("hello hello "_q);
             openMenu(m_edit.get(), position, [this](QMenu *) { m_edit.reset(); });
         }
     }
@@ -388,11 +362,11 @@ private Q_SLOTS:
     {
         QTextEdit edit;
         OmTextEditSyntax syntax(&edit);
-        edit.setPlainText(text("a.b a.b a.bc "));
-        for (const QString &word : {QString(), text("a.b")})
+        edit.setPlainText("a.b a.b a.bc "_q);
+        for (const QString &word : {QString(), "a.b"_q})
             syntax.addMisspelledWord(word);
         syntax.rehighlight();
-        QCOMPARE(underlined(edit.document()), QStringList({text("a.b"), text("a.b")}));
+        QCOMPARE(underlined(edit.document()), QStringList({"a.b"_q, "a.b"_q}));
     }
 
 private:
@@ -411,10 +385,9 @@ private:
             syntax.setSpellChecking(true);
         syntax.rehighlight();
 
-        const QStringList words = {text("teh"), text("cat"), text("te"), text("a\xCC\x88"),
-                                   text("\xF0\x9F\x98\x80")};
-        const QStringList pieces = {text(" "),    text("."),  text("\n"),  text("x"),  text("teh "),
-                                    text("cat,"), text("te"), words.at(3), words.at(4)};
+        const QStringList words = {"teh"_q, "cat"_q, "te"_q, "a\xCC\x88"_q, "\xF0\x9F\x98\x80"_q};
+        const QStringList pieces = {" "_q,    "."_q,  "\n"_q,      "x"_q,      "teh "_q,
+                                    "cat,"_q, "te"_q, words.at(3), words.at(4)};
         QStringList known;
         std::mt19937 random(7);
         const auto below = [&random](int limit) {

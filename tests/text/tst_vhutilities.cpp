@@ -2,8 +2,6 @@
 
 #include <ombrin/vhutilities.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
 #include <QtWidgets/QComboBox>
 
@@ -118,9 +116,9 @@ private Q_SLOTS:
         QCOMPARE(answeredOtherThan(false, kLooseAddresses, strict), QStringList());
         QCOMPARE(answeredOtherThan(true, kLooseAddresses, loose), QStringList());
         QCOMPARE(answeredOtherThan(false, kNoAddresses, loose), QStringList());
-        const QString end = QStringLiteral(".com");
-        QVERIFY(IsPossibleEMailAddress(QStringLiteral("x@") + repeated("a", 255) + end, true));
-        QVERIFY(!IsPossibleEMailAddress(QStringLiteral("x@") + repeated("a", 256) + end, true));
+        const QString end = ".com"_q;
+        QVERIFY(IsPossibleEMailAddress("x@"_q + repeated("a", 255) + end, true));
+        QVERIFY(!IsPossibleEMailAddress("x@"_q + repeated("a", 256) + end, true));
     }
 
     void matchesWholeTextsWithAnyPattern()
@@ -150,7 +148,7 @@ private Q_SLOTS:
     void emptyFilesAreCreatedOnlyWhereFilesCanBe()
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("file"));
+        const QString path = folder.filePath("file"_q);
         QVERIFY(CreateEmptyFile(path));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
@@ -159,11 +157,11 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(path).size(), 0);
 
         QVERIFY(!CreateEmptyFile(folder.path()));
-        QVERIFY(!CreateEmptyFile(folder.filePath(QStringLiteral("missing/file"))));
+        QVERIFY(!CreateEmptyFile(folder.filePath("missing/file"_q)));
         QVERIFY(!CreateEmptyFile(QString()));
 #ifdef Q_OS_UNIX
-        const QString pipe = folder.filePath(QStringLiteral("pipe"));
-        QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {pipe}), 0);
+        const QString pipe = folder.filePath("pipe"_q);
+        QCOMPARE(QProcess::execute("mkfifo"_q, {pipe}), 0);
         QVERIFY(!CreateEmptyFile(pipe)); // and does not wait for a reader
 #endif
     }
@@ -178,29 +176,27 @@ private Q_SLOTS:
             QVERIFY(box.itemText(i - 1).localeAwareCompare(box.itemText(i)) <= 0);
         QCOMPARE(box.count(), data);
         const int first = box.findData(2);
-        QCOMPARE(box.itemText(first), QStringLiteral("b"));
+        QCOMPARE(box.itemText(first), "b"_q);
         QVERIFY(box.findData(5) > first); // behind its equal
     }
 
     void areasAreMovedOntoTheDesktop_data()
     {
-        QTest::addColumn<QRect>("area");
-        QTest::addColumn<QRect>("expected");
+        const auto row = columns<QRect, QRect>("area", "expected");
 
         const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
         const QRect small(desktop.topLeft() + QPoint(7, 9), QSize(100, 50));
         const int most = std::numeric_limits<int>::max();
         const QRect rightmost(desktop.right() - 99, desktop.top(), 100, 50);
-        QTest::newRow("inside") << small << small;
-        QTest::newRow("larger") << desktop.adjusted(-50, -10, 70, 30) << desktop;
-        QTest::newRow("left and above")
-                << small.translated(-300, -300) << QRect(desktop.topLeft(), small.size());
-        QTest::newRow("right") << rightmost.translated(500, 0) << rightmost;
-        QTest::newRow("below") << QRect(desktop.left(), desktop.bottom() + 5, 10, 20)
-                               << QRect(desktop.left(), desktop.bottom() - 19, 10, 20);
-        QTest::newRow("everything") << QRect(QPoint(-most, -most), QPoint(most, most)) << desktop;
-        QTest::newRow("far off") << QRect(QPoint(most - 9, most - 9), QPoint(most, most))
-                                 << QRect(desktop.bottomRight() - QPoint(9, 9), QSize(10, 10));
+        row("inside", small, small);
+        row("larger", desktop.adjusted(-50, -10, 70, 30), desktop);
+        row("left and above", small.translated(-300, -300), {desktop.topLeft(), small.size()});
+        row("right", rightmost.translated(500, 0), rightmost);
+        row("below", {desktop.left(), desktop.bottom() + 5, 10, 20},
+            {desktop.left(), desktop.bottom() - 19, 10, 20});
+        row("everything", {QPoint(-most, -most), QPoint(most, most)}, desktop);
+        row("far off", {QPoint(most - 9, most - 9), QPoint(most, most)},
+            {desktop.bottomRight() - QPoint(9, 9), QSize(10, 10)});
     }
     void areasAreMovedOntoTheDesktop()
     {

@@ -4,7 +4,6 @@
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmLabel.h>
 
-#include <QtCore/QPointer>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QListWidget>
 
@@ -38,7 +37,7 @@ private:
     {
         QStringList texts;
         for (int row = 0; row < rows()->count(); ++row) {
-            const QString mark = checkBox(row)->isChecked() ? QStringLiteral("*") : QString();
+            const QString mark = checkBox(row)->isChecked() ? "*"_q : QString();
             texts.append(checkBox(row)->text() + mark);
         }
         return texts.join(QLatin1Char(' '));
@@ -58,18 +57,18 @@ private Q_SLOTS:
         OmCheckBoxAssortmentItem *a = add("A", true, Qt::red);
         QCOMPARE(m_view->sizeHint(), QSize(250, 43));
         QCOMPARE(checkBox(0)->palette().color(QPalette::WindowText), QColor(Qt::red));
-        m_view->items().prepend(QStringLiteral("B"), false, Qt::blue, 7);
-        m_view->items().insert(1, QStringLiteral("C"), true, Qt::green, QVariant());
-        QCOMPARE(shown(), QStringLiteral("B C* A*"));
+        m_view->items().prepend("B"_q, false, Qt::blue, 7);
+        m_view->items().insert(1, "C"_q, true, Qt::green, QVariant());
+        QCOMPARE(shown(), "B C* A*"_q);
         QCOMPARE(m_view->items().first()->data(), QVariant(7));
 
-        a->setText(QStringLiteral("a"));
+        a->setText("a"_q);
         a->setColor(Qt::blue);
         m_view->items().move(2, 0);
-        QCOMPARE(shown(), QStringLiteral("a* B C*"));
+        QCOMPARE(shown(), "a* B C*"_q);
         QCOMPARE(checkBox(0)->palette().color(QPalette::WindowText), QColor(Qt::blue));
         delete m_view->items().takeFirst();
-        QCOMPARE(shown(), QStringLiteral("B C*"));
+        QCOMPARE(shown(), "B C*"_q);
         m_view->items().append(nullptr);
         m_view->items().clear();
         QCOMPARE(shown(), QString());
@@ -77,7 +76,7 @@ private Q_SLOTS:
 
     void colorsSurviveStyleSheets()
     {
-        qApp->setStyleSheet(QStringLiteral("QToolTip { color: blue }"));
+        qApp->setStyleSheet("QToolTip { color: blue }"_q);
         add("A", true, Qt::red);
         QWidget window;
         m_view->setParent(&window);
@@ -99,10 +98,10 @@ private Q_SLOTS:
         b->setValue(false);
         QCOMPARE(changed.size(), 2);
         b->setValue(false);
-        b->setText(QStringLiteral("b"));
+        b->setText("b"_q);
         m_view->items().move(0, 1);
         QCOMPARE(changed.size(), 2);
-        QCOMPARE(shown(), QStringLiteral("b A*"));
+        QCOMPARE(shown(), "b A*"_q);
         checkBox(1)->setTristate(true);
         checkBox(1)->setCheckState(Qt::PartiallyChecked);
         QCOMPARE(changed.size(), 2);
@@ -114,10 +113,10 @@ private Q_SLOTS:
         OmCheckBoxAssortmentItem *b = add("B");
         add("C");
         delete b;
-        QCOMPARE(shown(), QStringLiteral("A* C*"));
+        QCOMPARE(shown(), "A* C*"_q);
         OmCheckBoxAssortmentView other(nullptr);
         other.items().append(a); // which leaves its view
-        QCOMPARE(shown(), QStringLiteral("C*"));
+        QCOMPARE(shown(), "C*"_q);
         QCOMPARE(a->parentWidget(), &other);
         const QPointer<OmCheckBoxAssortmentItem> last = m_view->items().last();
         OmCheckBoxAssortmentItem *taken = add("D");
@@ -129,8 +128,7 @@ private Q_SLOTS:
 
     void hostsMayDeleteAnythingWhileAClickIsTold_data()
     {
-        QTest::addColumn<bool>("deletesView");
-        QTest::addColumn<bool>("byClick");
+        columns<bool, bool>("deletesView", "byClick");
         for (int row = 0; row < 4; ++row)
             QTest::addRow("%d", row) << (row > 1) << (row % 2 == 1);
     }
@@ -150,14 +148,14 @@ private Q_SLOTS:
             a->setValue(false);
         QCOMPARE(m_view.isNull(), deletesView);
         if (m_view)
-            QCOMPARE(shown(), QStringLiteral("B*"));
+            QCOMPARE(shown(), "B*"_q);
     }
 
     void headerHoldsCaptionAndButtons()
     {
         auto *label = m_view->findChild<OmLabel *>();
-        m_view->setText(QStringLiteral("Groups"));
-        QCOMPARE(label->text(), QStringLiteral("Groups"));
+        m_view->setText("Groups"_q);
+        QCOMPARE(label->text(), "Groups"_q);
         QVERIFY(label->font().bold());
         QCOMPARE(label->geometry(), QRect(8, 0, 160, 24));
         QVERIFY(button(0)->isHidden());

@@ -60,10 +60,10 @@ private:
 private Q_SLOTS:
     void entriesAreTallerThanPlainOnes()
     {
-        show({QStringLiteral("A")});
+        show({"A"_q});
         QListWidget plain;
         plain.setItemDelegate(new QItemDelegate(&plain));
-        plain.addItem(QStringLiteral("A"));
+        plain.addItem("A"_q);
         QCOMPARE(m_list->sizeHintForRow(0), plain.sizeHintForRow(0) + 6);
     }
 
@@ -78,7 +78,7 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, selected);
         m_list->setSelectionMode(QAbstractItemView::MultiSelection);
-        show({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+        show({"A"_q, "B"_q, "C"_q});
         for (const int row : selected)
             m_list->item(row)->setSelected(true);
         const QImage image = m_list->grab().toImage();
@@ -123,7 +123,7 @@ private Q_SLOTS:
 
     void entryUnderTheMouseLooksLikeALink()
     {
-        show({QStringLiteral("Alpha"), QStringLiteral("Beta"), QStringLiteral("Gamma")});
+        show({"Alpha"_q, "Beta"_q, "Gamma"_q});
         m_list->item(2)->setFlags(Qt::NoItemFlags);
         const auto text = [this](int row) { return rowRect(row).topLeft() + QPoint(15, 10); };
         moveTo(text(0));
@@ -148,7 +148,7 @@ private Q_SLOTS:
 
     void selectionFollowsPressAndKeysButNoDrag()
     {
-        show({QStringLiteral("Alpha"), QStringLiteral("Beta"), QStringLiteral("Gamma")});
+        show({"Alpha"_q, "Beta"_q, "Gamma"_q});
         QTest::mousePress(m_list->viewport(), Qt::LeftButton, {}, rowRect(1).center());
         QCOMPARE(m_list->currentRow(), 1);
         moveTo(rowRect(2).center(), Qt::LeftButton);

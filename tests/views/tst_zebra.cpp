@@ -6,7 +6,6 @@
 #include <ombrin/OmScribbledZebraItemLink.h>
 #include <ombrin/OmScribbledZebraView.h>
 
-#include <QtCore/QRandomGenerator>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QGraphicsRectItem>
 #include <QtWidgets/QScrollBar>
@@ -14,7 +13,6 @@
 #include <algorithm>
 #include <climits>
 #include <functional>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -114,7 +112,8 @@ public:
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void(OmScribbledZebraItemLink *)>)
+using Setter = std::function<void(OmScribbledZebraItemLink *)>;
+Q_DECLARE_METATYPE(Setter)
 
 class tst_Zebra : public ombrin::test::TestCase
 {
@@ -124,18 +123,13 @@ private Q_SLOTS:
 
     void settersTellOfChangesOnly_data()
     {
-        QTest::addColumn<std::function<void(OmScribbledZebraItemLink *)>>("set");
-        QTest::addColumn<bool>("remeasured");
-        const auto row = [](const char *name, bool remeasured, auto set) {
-            QTest::newRow(name) << std::function<void(OmScribbledZebraItemLink *)>(set)
-                                << remeasured;
-        };
+        const auto row = columns<bool, Setter>("remeasured", "set");
         QFont large = QApplication::font();
         large.setPixelSize(40);
         row("row", false, [](auto *link) { link->setRow(3); });
         row("column", false, [](auto *link) { link->setColumn(3); });
         row("alignment", false, [](auto *link) { link->setIsAlignedLeftOrRight(false); });
-        row("text", true, [](auto *link) { link->setText(QStringLiteral("much longer")); });
+        row("text", true, [](auto *link) { link->setText("much longer"_q); });
         row("font", true, [large](auto *link) { link->setFont(large); });
         row("pen", false, [](auto *link) { link->setPen(QPen(Qt::red)); });
         row("brush", false, [](auto *link) { link->setBrush(Qt::red); });
@@ -146,11 +140,9 @@ private Q_SLOTS:
 
     void settersTellOfChangesOnly()
     {
-        QFETCH(std::function<void(OmScribbledZebraItemLink *)>, set);
-        QFETCH(bool, remeasured);
+        QFETCH(Setter, set);
         OmScribbledZebraItemList list(nullptr);
-        auto *const link =
-                new OmScribbledZebraItemLink(0, 0, true, QStringLiteral("text"), nullptr);
+        auto *const link = new OmScribbledZebraItemLink(0, 0, true, "text"_q, nullptr);
         list << link;
         QCOMPARE(link->parent(), &list);
         QSize told = link->size();
@@ -162,7 +154,7 @@ private Q_SLOTS:
         set(link);
         link->setData(5);
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(told != before, remeasured);
+        QTEST(told != before, "remeasured");
         QCOMPARE(told, link->recalcSize());
 
         const std::unique_ptr<QGraphicsItem> shown(link->CreateGraphicsItem());
@@ -199,23 +191,15 @@ private Q_SLOTS:
 
     void itemsStandAtTheirPoles_data()
     {
-        QTest::addColumn<bool>("poleLeft");
-        QTest::addColumn<bool>("itemLeft");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QPoint>("place");
-        QTest::addColumn<QPoint>("placeIfWider"); // viewport of 400 pixels instead of 300
-        QTest::addColumn<QSize>("scene");
+        // placeIfWider: in a viewport of 400 pixels instead of 300
+        const auto row = columns<bool, bool, QSize, QPoint, QPoint, QSize>(
+                "poleLeft", "itemLeft", "size", "place", "placeIfWider", "scene");
         const QSize viewport(300, 100);
-        QTest::newRow("starts at the left")
-                << true << true << QSize(50, 14) << QPoint(10, 3) << QPoint(10, 3) << viewport;
-        QTest::newRow("ends at the right")
-                << false << false << QSize(50, 15) << QPoint(240, 3) << QPoint(340, 3) << viewport;
-        QTest::newRow("starts at the right")
-                << false << true << QSize(50, 0) << QPoint(290, 10) << QPoint(390, 10) << viewport;
-        QTest::newRow("just fits")
-                << true << true << QSize(290, 100) << QPoint(10, 0) << QPoint(10, 0) << viewport;
-        QTest::newRow("too large") << true << true << QSize(291, 101) << QPoint(10, 0)
-                                   << QPoint(10, 0) << QSize(301, 101);
+        row("starts at the left", true, true, {50, 14}, {10, 3}, {10, 3}, viewport);
+        row("ends at the right", false, false, {50, 15}, {240, 3}, {340, 3}, viewport);
+        row("starts at the right", false, true, {50, 0}, {290, 10}, {390, 10}, viewport);
+        row("just fits", true, true, {290, 100}, {10, 0}, {10, 0}, viewport);
+        row("too large", true, true, {291, 101}, {10, 0}, {10, 0}, {301, 101});
     }
 
     void itemsStandAtTheirPoles()
@@ -235,19 +219,16 @@ private Q_SLOTS:
 
     void stripesFollowTheLines_data()
     {
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<QVector<QPoint>>("items"); // row, height
-        QTest::addColumn<int>("scrolledTo");
-        QTest::addColumn<QString>("stripes");
+        // items: their rows and heights
+        const auto row = columns<int, QVector<QPoint>, int, QString>("minimum", "items",
+                                                                     "scrolledTo", "stripes");
         using Items = QVector<QPoint>;
-        QTest::newRow("empty") << 20 << Items() << 0 << "w20 g20 w20 g20 w10";
-        QTest::newRow("high line") << 20 << Items{{1, 30}, {1, 25}} << 0 << "w20 g30 w20 g20";
-        QTest::newRow("hidden rows") << 20 << Items{{-1, 50}, {0, 5}} << 0 << "w20 g20 w20 g20 w10";
-        QTest::newRow("far, scrolled")
-                << 20 << Items{{1000000, 30}} << 19999935 << "w5 g20 w20 g20 w25";
-        QTest::newRow("low minimum")
-                << 0 << Items{{0, 60}, {2, 20}} << 0 << "w60 g1 w20 g1 w1 g1 w1 g1 w1 g1 w1 g1";
-        QTest::newRow("minimum below 0") << -7 << Items{{0, 88}} << 0 << "w88 g1 w1";
+        row("empty", 20, Items(), 0, "w20 g20 w20 g20 w10");
+        row("high line", 20, Items{{1, 30}, {1, 25}}, 0, "w20 g30 w20 g20");
+        row("hidden rows", 20, Items{{-1, 50}, {0, 5}}, 0, "w20 g20 w20 g20 w10");
+        row("far, scrolled", 20, Items{{1000000, 30}}, 19999935, "w5 g20 w20 g20 w25");
+        row("low minimum", 0, Items{{0, 60}, {2, 20}}, 0, "w60 g1 w20 g1 w1 g1 w1 g1 w1 g1 w1 g1");
+        row("minimum below 0", -7, Items{{0, 88}}, 0, "w88 g1 w1");
     }
 
     void stripesFollowTheLines()
@@ -349,19 +330,19 @@ private Q_SLOTS:
                 result += QString::number(std::exchange(box->adjustments, 0));
             return result;
         };
-        QCOMPARE(adjustments(), QStringLiteral("1111111111"));
+        QCOMPARE(adjustments(), "1111111111"_q);
         QCOMPARE(sceneRects.count(), 1);
         boxes[4]->setSize(QSize(10, 31));
-        QCOMPARE(adjustments(), QStringLiteral("0000100000"));
+        QCOMPARE(adjustments(), "0000100000"_q);
         QCOMPARE(boxes[5]->place(), QPoint(0, 151));
         view.items().swap(0, 1);
-        QCOMPARE(adjustments(), QStringLiteral("1111111111"));
+        QCOMPARE(adjustments(), "1111111111"_q);
         view.setMinimumLineHeight(40);
-        QCOMPARE(adjustments(), QStringLiteral("1111111111"));
+        QCOMPARE(adjustments(), "1111111111"_q);
         view.poles().at(0)->setIndent(5);
-        QCOMPARE(adjustments(), QStringLiteral("1111111111"));
+        QCOMPARE(adjustments(), "1111111111"_q);
         view.resize(200, 50);
-        QCOMPARE(adjustments(), QStringLiteral("1111111111"));
+        QCOMPARE(adjustments(), "1111111111"_q);
 
         // Also while the view must not lay itself out.
         view.blockRefresh(true);
@@ -377,7 +358,7 @@ private Q_SLOTS:
     {
         View view;
         view.poles().append(10, true);
-        OmScribbledZebraItemLink link(0, 0, true, QStringLiteral("link"), nullptr);
+        OmScribbledZebraItemLink link(0, 0, true, "link"_q, nullptr);
         view.items() << &link;
         int clicks = 0;
         connect(&link, &OmScribbledZebraItemLink::signalOnLinkActivated, this,
@@ -415,8 +396,7 @@ private Q_SLOTS:
         for (const int victim : {0, 1, 2}) {
             auto view = std::make_unique<View>();
             view->poles().append(0, true);
-            auto *const link =
-                    new OmScribbledZebraItemLink(0, 0, true, QStringLiteral("link"), nullptr);
+            auto *const link = new OmScribbledZebraItemLink(0, 0, true, "link"_q, nullptr);
             view->items() << link;
             int clicks = 0;
             connect(link, &OmScribbledZebraItemLink::signalOnLinkActivated, this, [&] {
@@ -454,9 +434,9 @@ private Q_SLOTS:
 
         second->onAdjust = nullptr;
         connect(&view->items(), &OmScribbledZebraItemList::signalOnChanged, this,
-                [&] { view->items().first()->setObjectName(QStringLiteral("seen")); });
+                [&] { view->items().first()->setObjectName("seen"_q); });
         second->setRow(3);
-        QCOMPARE(second->objectName(), QStringLiteral("seen"));
+        QCOMPARE(second->objectName(), "seen"_q);
         connect(&view->items(), &OmScribbledZebraItemList::signalOnChanged, this,
                 [&] { view.reset(); });
         view->items().append(new Block(0, 0, true, QSize(1, 1)));

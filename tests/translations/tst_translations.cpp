@@ -8,10 +8,6 @@
 #include <ombrin/OmTranslation.h>
 #include <ombrin/OmWindow.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QStandardPaths>
-#include <QtCore/QTranslator>
-
 using ombrin::OmTranslation;
 
 namespace {
@@ -29,7 +25,7 @@ public:
     {
         const bool isOurs =
                 qstrcmp(context, "QWidgetTextControl") == 0 && qstrcmp(source, "&Copy") == 0;
-        return isOurs ? QStringLiteral("host") : QString();
+        return isOurs ? "host"_q : QString();
     }
     bool isEmpty() const override { return false; }
 };
@@ -45,106 +41,97 @@ private Q_SLOTS:
     void setUp() override { QVERIFY(OmTranslation::load(QLocale(QLocale::English))); }
     void tearDown() override { OmTranslation::load(QLocale(QLocale::English)); }
 
-    void languageFollowsTheLocale_data();
-    void languageFollowsTheLocale();
-    void languagesAreListed();
-    void unusableFileChangesNothing();
-    void openWidgetsChangeTheirLanguage();
-    void hostKeepsItsOwnTranslationOfQt();
+    void languageFollowsTheLocale_data()
+    {
+        const auto row = columns<QString, bool, QString>("locale", "known", "fromGerman");
+        const QString german = "&Ja"_q;
+        const QString english = "&Yes"_q;
+        row("German", "de", true, german);
+        row("a variant of German", "de_AT", true, german);
+        row("English", "en_GB", true, english);
+        row("no language", "C", true, english);
+        row("a language without a file", "sw_KE", false, german);
+    }
+    void languageFollowsTheLocale()
+    {
+        QFETCH(QString, locale);
+        // Twice, so that one of the two would be left if the second did not replace the first.
+        QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+        QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+        QTEST(OmTranslation::load(QLocale(locale)), "known");
+        QTEST(yesInThisLanguage(), "fromGerman");
+    }
+
+    void languagesAreListed()
+    {
+        const QStringList languages = OmTranslation::languages();
+        QVERIFY(languages.contains("de"_q));
+        QVERIFY(languages.contains("en"_q));
+    }
+
+    void unusableFileChangesNothing()
+    {
+        const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                          + "/ombrin/translations"_q);
+        QVERIFY(folder.mkpath("."_q));
+        QFile file(folder.filePath("ombringui_sw.qm"_q));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no translation") > 0);
+        file.close();
+        QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+        QVERIFY(!OmTranslation::load(QLocale(QLocale::Swahili)));
+        QCOMPARE(yesInThisLanguage(), "&Ja"_q);
+        QVERIFY(file.remove());
+    }
+
+    void openWidgetsChangeTheirLanguage()
+    {
+        using namespace ombrin;
+        OmWindow window;
+        auto *const content = new QWidget;
+        window.setWidget(content);
+        auto *const tabs = new OmTabWidget(content);
+        tabs->enableCloseTabButton(true);
+        auto *const card = new OmContactCard(content);
+        card->setStatus(Om::Away);
+        auto *const checkBoxes = new OmCheckBoxAssortmentView(content);
+        checkBoxes->setIsRetracted(true);
+
+        const auto names = [&window] {
+            QStringList found;
+            const auto widgets = window.findChildren<QWidget *>();
+            for (QWidget *const widget : widgets)
+                found.append(widget->accessibleName());
+            return found;
+        };
+        const auto speaks = [&](const char *texts) {
+            const QStringList expected = QString::fromUtf8(texts).split(QLatin1Char('|'));
+            // With the comment that tells it apart.
+            const QString next =
+                    COmWizard_Standard::tr("&Next >", "next-button in standard-wizard");
+            const QStringList found = names() << card->statusName() << next;
+            return std::all_of(expected.begin(), expected.end(),
+                               [&found](const QString &text) { return found.contains(text); });
+        };
+        const char *const english = "Minimize|Close|Close tab|Add|Unfold|Away|&Next >";
+        const char *const german =
+                "Minimieren|Schließen|Tab schließen|Hinzufügen|Aufklappen|Abwesend|"
+                "&Weiter >";
+        QVERIFY(speaks(english));
+        QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+        QTRY_VERIFY_WITH_TIMEOUT(speaks(german), 10000);
+        QVERIFY(OmTranslation::load(QLocale(QLocale::English)));
+        QTRY_VERIFY_WITH_TIMEOUT(speaks(english), 10000);
+    }
+
+    void hostKeepsItsOwnTranslationOfQt()
+    {
+        HostTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
+        QCOMPARE(QCoreApplication::translate("QWidgetTextControl", "&Copy"), "host"_q);
+        QCOMPARE(yesInThisLanguage(), "&Ja"_q);
+    }
 };
-
-void tst_Translations::languageFollowsTheLocale_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<bool>("known");
-    QTest::addColumn<QString>("fromGerman");
-    const QString german = QStringLiteral("&Ja");
-    const QString english = QStringLiteral("&Yes");
-    QTest::newRow("German") << QStringLiteral("de") << true << german;
-    QTest::newRow("a variant of German") << QStringLiteral("de_AT") << true << german;
-    QTest::newRow("English") << QStringLiteral("en_GB") << true << english;
-    QTest::newRow("no language") << QStringLiteral("C") << true << english;
-    QTest::newRow("a language without a file") << QStringLiteral("sw_KE") << false << german;
-}
-
-void tst_Translations::languageFollowsTheLocale()
-{
-    QFETCH(QString, locale);
-    QFETCH(bool, known);
-    // Twice, so that one of the two would be left if the second did not replace the first.
-    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
-    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
-    QCOMPARE(OmTranslation::load(QLocale(locale)), known);
-    QTEST(yesInThisLanguage(), "fromGerman");
-}
-
-void tst_Translations::languagesAreListed()
-{
-    const QStringList languages = OmTranslation::languages();
-    QVERIFY(languages.contains(QStringLiteral("de")));
-    QVERIFY(languages.contains(QStringLiteral("en")));
-}
-
-void tst_Translations::unusableFileChangesNothing()
-{
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-                      + QStringLiteral("/ombrin/translations"));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
-    QFile file(folder.filePath(QStringLiteral("ombringui_sw.qm")));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no translation") > 0);
-    file.close();
-    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
-    QVERIFY(!OmTranslation::load(QLocale(QLocale::Swahili)));
-    QCOMPARE(yesInThisLanguage(), QStringLiteral("&Ja"));
-    QVERIFY(file.remove());
-}
-
-void tst_Translations::openWidgetsChangeTheirLanguage()
-{
-    using namespace ombrin;
-    OmWindow window;
-    auto *const content = new QWidget;
-    window.setWidget(content);
-    auto *const tabs = new OmTabWidget(content);
-    tabs->enableCloseTabButton(true);
-    auto *const card = new OmContactCard(content);
-    card->setStatus(Om::Away);
-    auto *const checkBoxes = new OmCheckBoxAssortmentView(content);
-    checkBoxes->setIsRetracted(true);
-
-    const auto names = [&window] {
-        QStringList found;
-        const auto widgets = window.findChildren<QWidget *>();
-        for (QWidget *const widget : widgets)
-            found.append(widget->accessibleName());
-        return found;
-    };
-    const auto speaks = [&](const char *texts) {
-        const QStringList expected = QString::fromUtf8(texts).split(QLatin1Char('|'));
-        // With the comment that tells it apart.
-        const QString next = COmWizard_Standard::tr("&Next >", "next-button in standard-wizard");
-        const QStringList found = names() << card->statusName() << next;
-        return std::all_of(expected.begin(), expected.end(),
-                           [&found](const QString &text) { return found.contains(text); });
-    };
-    const char *const english = "Minimize|Close|Close tab|Add|Unfold|Away|&Next >";
-    const char *const german = "Minimieren|Schließen|Tab schließen|Hinzufügen|Aufklappen|Abwesend|"
-                               "&Weiter >";
-    QVERIFY(speaks(english));
-    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
-    QTRY_VERIFY_WITH_TIMEOUT(speaks(german), 10000);
-    QVERIFY(OmTranslation::load(QLocale(QLocale::English)));
-    QTRY_VERIFY_WITH_TIMEOUT(speaks(english), 10000);
-}
-
-void tst_Translations::hostKeepsItsOwnTranslationOfQt()
-{
-    HostTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
-    QCOMPARE(QCoreApplication::translate("QWidgetTextControl", "&Copy"), QStringLiteral("host"));
-    QCOMPARE(yesInThisLanguage(), QStringLiteral("&Ja"));
-}
 
 OMBRIN_TEST_MAIN(tst_Translations)
 #include "tst_translations.moc"

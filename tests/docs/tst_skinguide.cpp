@@ -3,10 +3,6 @@
 
 #include <ombrin/OmSkin.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QMap>
-#include <QtCore/QSettings>
 #include <QtGui/QImageReader>
 
 namespace {
@@ -36,7 +32,7 @@ QStringList expanded(const QString &name)
 
 Sizes imagesOfGuide()
 {
-    static const QRegularExpression row(QStringLiteral("^\\| `([^`]+)` \\| (\\d+ x \\d+) \\|"));
+    static const QRegularExpression row("^\\| `([^`]+)` \\| (\\d+ x \\d+) \\|"_q);
     Sizes images;
     const QStringList lines = guideLines();
     for (const QString &line : lines) {
@@ -51,21 +47,21 @@ Sizes imagesOfGuide()
 Sizes imagesOfSkin()
 {
     Sizes images;
-    const QStringList files = QDir(QStringLiteral(":/")).entryList(QDir::Files);
+    const QStringList files = QDir(":/"_q).entryList(QDir::Files);
     for (const QString &file : files) {
-        const QSize size = QImageReader(QStringLiteral(":/") + file).size();
-        if (!file.contains(QStringLiteral("@2x")) && !file.contains(QStringLiteral("@3x")))
-            images.insert(file, QStringLiteral("%1 x %2").arg(size.width()).arg(size.height()));
+        const QSize size = QImageReader(":/"_q + file).size();
+        if (!file.contains("@2x"_q) && !file.contains("@3x"_q))
+            images.insert(file, "%1 x %2"_q.arg(size.width()).arg(size.height()));
     }
     return images;
 }
 
 QStringList keysOfGuide()
 {
-    static const QRegularExpression key(QStringLiteral("`([A-Za-z]+)`"));
+    static const QRegularExpression key("`([A-Za-z]+)`"_q);
     QStringList keys;
     const QStringList lines = guideLines();
-    const auto table = lines.indexOf(QStringLiteral("| Key | Where it shows |"));
+    const auto table = lines.indexOf("| Key | Where it shows |"_q);
     for (auto line = table + 2; table >= 0 && lines.at(line).startsWith(QLatin1Char('|')); ++line) {
         auto match = key.globalMatch(lines.at(line).section(QLatin1Char('|'), 1, 1));
         while (match.hasNext())

@@ -3,7 +3,6 @@
 
 #include <ombrin/OmDesktop.h>
 
-#include <QtCore/QTimer>
 #include <QtGui/QWindow>
 
 namespace NativeWindow = ombrin::NativeWindow;
@@ -15,34 +14,30 @@ namespace {
 
 QString xProperty(Handle window, const char *name)
 {
-    return runBeside(QStringLiteral("xprop"), {QStringLiteral("-id"), QString::number(window),
-                                               QStringLiteral("-notype"), QLatin1String(name)});
+    return runBeside("xprop"_q,
+                     {"-id"_q, QString::number(window), "-notype"_q, QLatin1String(name)});
 }
 
 bool isKeptAbove(Handle window)
 {
-    return xProperty(window, "_NET_WM_STATE").contains(QLatin1String("_STATE_ABOVE"));
+    return xProperty(window, "_NET_WM_STATE").contains("_STATE_ABOVE"_q);
 }
 
 bool demandsAttention(Handle window)
 {
-    return xProperty(window, "_NET_WM_STATE").contains(QLatin1String("DEMANDS_ATTENTION"));
+    return xProperty(window, "_NET_WM_STATE").contains("DEMANDS_ATTENTION"_q);
 }
 
 bool isMapped(Handle window)
 {
-    return runBeside(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::number(window)})
-            .contains(QLatin1String("IsViewable"));
+    return runBeside("xwininfo"_q, {"-id"_q, QString::number(window)}).contains("IsViewable"_q);
 }
 
 QVector<Handle> rootWindows(const char *name)
 {
-    const QString list =
-            runBeside(QStringLiteral("xprop"),
-                      {QStringLiteral("-root"), QStringLiteral("-notype"), QLatin1String(name)});
+    const QString list = runBeside("xprop"_q, {"-root"_q, "-notype"_q, QLatin1String(name)});
     QVector<Handle> windows;
-    QRegularExpressionMatchIterator match =
-            QRegularExpression(QStringLiteral("0x([0-9a-f]+)")).globalMatch(list);
+    QRegularExpressionMatchIterator match = QRegularExpression("0x([0-9a-f]+)"_q).globalMatch(list);
     while (match.hasNext())
         windows.append(Handle(match.next().captured(1).toULongLong(nullptr, 16)));
     return windows;
@@ -78,8 +73,7 @@ public:
     {
         const QVector<Handle> before = rootWindows("_NET_CLIENT_LIST");
         m_process.setStandardOutputFile(QProcess::nullDevice());
-        m_process.start(QStringLiteral("xev"),
-                        {QStringLiteral("-geometry"), QStringLiteral("400x300+50+50")});
+        m_process.start("xev"_q, {"-geometry"_q, "400x300+50+50"_q});
         const bool isThere = TestCase::waitFor([this, &before] {
             const QVector<Handle> now = rootWindows("_NET_CLIENT_LIST");
             m_window = now.size() > before.size() ? now.last() : 0;
@@ -166,7 +160,7 @@ private Q_SLOTS:
         NativeWindow::addSystemBoxes(handle);
         window.showAndWait();
         const QString frameless = xProperty(handle, "_MOTIF_WM_HINTS");
-        QVERIFY2(frameless.contains(QLatin1String("0x2, 0x1, 0x0")), qPrintable(frameless));
+        QVERIFY2(frameless.contains("0x2, 0x1, 0x0"_q), qPrintable(frameless));
 
         NativeWindow::setMaximizeBox(handle, false);
         QVERIFY(!native->flags().testFlag(Qt::WindowMaximizeButtonHint));
@@ -197,10 +191,8 @@ private Q_SLOTS:
         // No X event arrives while the observer sleeps.
         QTimer::singleShot(300, &window, [&child] { OmDesktop::flashWindow(&child, true); });
         const QString state =
-                runBeside(QStringLiteral("sh"),
-                          {QStringLiteral("-c"),
-                           QStringLiteral("sleep 1.5; xprop -id %1 _NET_WM_STATE").arg(handle)});
-        QVERIFY2(state.contains(QLatin1String("DEMANDS_ATTENTION")), qPrintable(state));
+                runBeside("sh"_q, {"-c"_q, "sleep 1.5; xprop -id %1 _NET_WM_STATE"_q.arg(handle)});
+        QVERIFY2(state.contains("DEMANDS_ATTENTION"_q), qPrintable(state));
 
         window.activateWindow();
         QVERIFY(waitFor([handle] { return active() == handle && !demandsAttention(handle); }));

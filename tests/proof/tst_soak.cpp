@@ -34,13 +34,11 @@
 #include <ombrin/OmTrayPopup.h>
 #include <ombrin/OmWindow.h>
 
-#include <QtCore/QLoggingCategory>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QMenuBar>
 
 #include <algorithm>
 #include <functional>
-#include <memory>
 #include <vector>
 
 using namespace ombrin;
@@ -152,7 +150,7 @@ QPixmap picture()
 
 QString text()
 {
-    return QStringLiteral("soak");
+    return "soak"_q;
 }
 
 void fillWindow(OmWindow *window)
@@ -197,7 +195,7 @@ void fillTabs(OmTabWidget *tabs)
 void typeMisspelt(OmTextEdit *edit)
 {
     edit->setSpellChecking(true);
-    edit->setPlainText(QStringLiteral("helo you. "));
+    edit->setPlainText("helo you. "_q);
 }
 
 void openIcons()
@@ -282,7 +280,7 @@ std::vector<Subject> subjects()
             {"countdown", countDown},
             {"screen cutter", [] { showAndClose(new OmScreenShooter_FullscreenCutter(nullptr)); }},
             {"browser", filled<OmTextBrowser>([](OmTextBrowser *b) {
-                 b->append(OmSafeHtml::fromHtml(QStringLiteral("<a href='http://a.de'>x</a>")));
+                 b->append(OmSafeHtml::fromHtml("<a href='http://a.de'>x</a>"_q));
              })},
             {"text edit", filled<OmTextEdit>(typeMisspelt)},
             {"icon combo box", openIcons, kOfIcons},
@@ -306,11 +304,11 @@ class tst_Soak : public test::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+        QLoggingCategory::setFilterRules("default.debug=false"_q);
         OmSkin::init(true);
         test::SpellingFolder::needBackend();
-        m_spelling.add(QStringLiteral("aa"), {"hello", "you"});
-        OmSpelling::instance()->setDict(QStringLiteral("aa"));
+        m_spelling.add("aa"_q, {"hello", "you"});
+        OmSpelling::instance()->setDict("aa"_q);
         // What the application keeps for all windows is not to be counted for the first.
         for (const Subject &subject : subjects())
             subject.cycle();
@@ -353,7 +351,7 @@ private Q_SLOTS:
         constexpr qint64 kLimit = 96;
         const qint64 least = *std::min_element(growths.begin(), growths.end());
         QVERIFY2(least < (kLimit + subject.ofQt) * batch,
-                 qPrintable(QStringLiteral("%1 bytes in each cycle").arg(least / batch)));
+                 qPrintable("%1 bytes in each cycle"_q.arg(least / batch)));
     }
 
 private:

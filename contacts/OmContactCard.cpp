@@ -80,10 +80,12 @@ void OmContactCard::setAlias(const QString &alias)
 {
     if (m_alias == alias)
         return;
-    m_alias = alias;
+    // A slot may set another alias, or delete the card and whatever the argument belongs to.
+    const QString newAlias = alias;
+    m_alias = newAlias;
     showAlias();
     announceContactName(this);
-    Q_EMIT aliasChanged(m_alias);
+    Q_EMIT aliasChanged(newAlias);
 }
 
 Om::ContactStatus OmContactCard::status() const
@@ -285,9 +287,10 @@ void OmContactCard::changeEvent(QEvent *event)
         showStatus();
     }
     QGroupBox::changeEvent(event);
-    const bool isOfLook =
-            event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
-    if (isOfLook && m_layout)
+    const QEvent::Type type = event->type();
+    const bool movesParts = type == QEvent::FontChange || type == QEvent::StyleChange
+                            || type == QEvent::LayoutDirectionChange;
+    if (movesParts && m_layout)
         m_layout->layOut();
 }
 

@@ -218,18 +218,20 @@ void OmTextEdit::resizeEvent(QResizeEvent *event)
 void OmTextEdit::insertFromMimeData(const QMimeData *source)
 {
     const QString html = source ? htmlOf(*source) : QString();
-    if (html.isNull()) {
+    if (html.isNull() || isReadOnly()) {
         QTextEdit::insertFromMimeData(source);
         return;
     }
     insertPlainText(pastedText(html));
+    ensureCursorVisible();
     setFocus(Qt::OtherFocusReason);
 }
 
 void OmTextEdit::contextMenuEvent(QContextMenuEvent *event)
 {
     OmSpelling *spelling = OmSpelling::instance();
-    if (!spelling->isAvailable() || !m_spellChecking || document()->isEmpty()) {
+    const bool isChecked = spelling->isAvailable() && m_spellChecking;
+    if (!isChecked || isReadOnly() || document()->isEmpty()) {
         showStandardMenu(event->globalPos());
         return;
     }

@@ -2,6 +2,7 @@
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>
+#include <QtWidgets/QStyle>
 
 namespace ombrin {
 
@@ -64,7 +65,7 @@ bool OmSmoothDelegate::isOverText(const QStyleOptionViewItem &option,
     QRect decoration = rect(entry, index, Qt::DecorationRole);
     QRect text = rect(entry, index, Qt::DisplayRole);
     doLayout(entry, &check, &decoration, &text, false);
-    return isOverText(text, entry.font, index.data().toString());
+    return isOverText(text, entry, index.data().toString());
 }
 
 // The row is erased over its own height only.
@@ -94,7 +95,7 @@ QSize OmSmoothDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
 void OmSmoothDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &option,
                                    const QRect &rect, const QString &text) const
 {
-    if (m_paintedRow != m_hoveredRow || !isOverText(rect, option.font, text))
+    if (m_paintedRow != m_hoveredRow || !isOverText(rect, option, text))
         return QItemDelegate::drawDisplay(painter, option, rect, text);
     QStyleOptionViewItem link = option;
     link.font.setUnderline(true);
@@ -122,12 +123,14 @@ void OmSmoothDelegate::paintTab(QPainter *painter, const QRect &rect) const
     painter->restore();
 }
 
-bool OmSmoothDelegate::isOverText(const QRect &textRect, const QFont &font,
+// The text begins at the left, or at the right where one reads from there.
+bool OmSmoothDelegate::isOverText(const QRect &textRect, const QStyleOptionViewItem &option,
                                   const QString &text) const
 {
-    const int width = QFontMetrics(font).horizontalAdvance(text);
-    return textRect.contains(m_mousePosition)
-           && m_mousePosition.x() < textRect.left() + width + kBesideText;
+    QRect link = textRect;
+    link.setWidth(QFontMetrics(option.font).horizontalAdvance(text) + kBesideText);
+    link = QStyle::visualRect(option.direction, textRect, link);
+    return textRect.contains(m_mousePosition) && link.contains(m_mousePosition);
 }
 
 } // namespace ombrin

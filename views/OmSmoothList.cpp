@@ -17,9 +17,10 @@ constexpr int kRowsBeyond = 1000;
 constexpr QColor kLine(192, 192, 192);
 constexpr QColor kHoveredText(128, 128, 128);
 
-// Compares first: each change is told to the view.
+// Compares first: each change is told to the view. Not to the host, for which nothing has changed.
 void setLook(QListWidgetItem *entry, const QColor &color, bool underline)
 {
+    const QSignalBlocker blocker(entry->listWidget());
     if (entry->foreground() != QBrush(color))
         entry->setForeground(color);
     QFont font = entry->font();
@@ -102,21 +103,20 @@ void OmSmoothList::restoreEntries()
 {
     for (int row = 0; row < count(); ++row)
         setLook(item(row), m_textColor, false);
-    m_hoveredRow = -1;
+    m_hovered = QModelIndex();
 }
 
 // Entries are looked through only when the mouse has come to another one.
 void OmSmoothList::hover(QListWidgetItem *entry, const QPoint &position)
 {
     const bool isLink = entry && (entry->flags() & Qt::ItemIsEnabled) != 0;
-    const int hoveredRow = isLink ? row(entry) : -1;
-    if (hoveredRow != m_hoveredRow)
+    const QModelIndex hovered = isLink ? indexFromItem(entry) : QModelIndex();
+    if (m_hovered != hovered)
         restoreEntries();
-    if (isLink) {
+    if (isLink)
         setLook(entry, kHoveredText, true);
-        m_hoveredRow = hoveredRow;
-    }
-    m_delegate->setHovered(isLink ? hoveredRow : count() + kRowsBeyond, position);
+    m_hovered = hovered;
+    m_delegate->setHovered(isLink ? hovered.row() : count() + kRowsBeyond, position);
     setCursor(isLink && isOverText(entry) ? Qt::PointingHandCursor : Qt::ArrowCursor);
     viewport()->update();
 }

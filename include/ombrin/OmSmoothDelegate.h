@@ -39,7 +39,7 @@ public:
     /// The geometry of the list.
     void setListRect(const QRect &rect);
     /// The row under the mouse, or one that there is not, and where in the list the mouse is. The
-    /// entry is drawn as a link while the mouse is over its text or up to 6 pixels right of it.
+    /// entry is drawn as a link while the mouse is over its text or up to 6 pixels beyond its end.
     void setHovered(int row, const QPoint &mousePosition);
 
     /// Whether the mouse is over the text of the entry \a index in the hovered row, where \a option
@@ -56,7 +56,8 @@ protected:
 
 private:
     void paintTab(QPainter *painter, const QRect &rect) const;
-    bool isOverText(const QRect &textRect, const QFont &font, const QString &text) const;
+    bool isOverText(const QRect &textRect, const QStyleOptionViewItem &option,
+                    const QString &text) const;
 
     QColor m_fillColor;
     QColor m_outlineColor;

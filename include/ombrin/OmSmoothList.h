@@ -2,6 +2,7 @@
 
 #include <ombrin/OmGlobal.h>
 
+#include <QtCore/QPersistentModelIndex>
 #include <QtGui/QColor>
 #include <QtWidgets/QListWidget>
 
@@ -59,8 +60,8 @@ private:
     QColor m_windowColor;
     QColor m_lineColor;
     QColor m_tabTextColor;
-    // The row that looks like a link, or -1.
-    int m_hoveredRow = -1;
+    // The entry that looks like a link, if there is one.
+    QPersistentModelIndex m_hovered;
 };
 
 } // namespace ombrin

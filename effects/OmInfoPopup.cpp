@@ -16,6 +16,13 @@ constexpr QSize kIconSize(16, 16);
 constexpr QSize kPopupSize(150, 150);
 constexpr QRgb kPopupColor = 0xfffffc00;
 
+// The end of a fade may be on its way to \a listener already, from the last paint on.
+void cancel(OmFaderWidget *fader, const QObject *listener)
+{
+    fader->disconnect(listener);
+    fader->close();
+}
+
 } // namespace
 
 OmInfoPopup::OmInfoPopup(QWidget *parent)
@@ -118,7 +125,7 @@ void OmInfoPopup::hidePopup()
 void OmInfoPopup::keepPopup()
 {
     if (m_fadeOut)
-        m_fadeOut->close();
+        cancel(m_fadeOut, this);
     m_fadeOut.clear();
 }
 
@@ -150,7 +157,7 @@ void OmInfoPopup::endFades()
     const auto faders =
             m_popup->findChildren<OmFaderWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (OmFaderWidget *fader : faders)
-        fader->close();
+        cancel(fader, this);
     m_fadeOut.clear();
 }
 

@@ -223,12 +223,12 @@ void OmCheckBoxAssortmentView::refreshRows()
     const int count = m_items.size();
     const bool countChanges = count != static_cast<int>(m_rows.size());
     for (int i = 0; i < count; ++i) {
-        const OmCheckBoxAssortmentItem &item = *m_items.at(i);
+        const OmCheckBoxAssortmentItem *const item = m_items.at(i);
         if (i == static_cast<int>(m_rows.size()))
             m_rows.push_back({addRow(), 0});
         Row &row = m_rows[static_cast<std::size_t>(i)];
-        if (row.stamp != item.m_stamp)
-            refreshRow(&row, item);
+        if (item && row.stamp != item->m_stamp) // null only if put there past the hooks
+            refreshRow(&row, *item);
     }
     removeRowsFrom(count);
     if (countChanges)

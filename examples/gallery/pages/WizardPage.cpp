@@ -43,7 +43,7 @@ public:
 
 private:
     template <typename Wizard>
-    static Wizard *exhibit(Wizard *wizard, AccountMission::Step step);
+    static Wizard *exhibit(Wizard *wizard, int step);
     static QWidget *createStandard();
     static QWidget *createCompact();
     QWidget *createRunCard();
@@ -72,7 +72,7 @@ WizardPage::WizardPage()
 }
 
 template <typename Wizard>
-Wizard *WizardPage::exhibit(Wizard *wizard, AccountMission::Step step)
+Wizard *WizardPage::exhibit(Wizard *wizard, int step)
 {
     auto *mission = new AccountMission(wizard);
     mission->setAccount({QStringLiteral("chat.example.org"), tr("Max"), QStringLiteral("sesame")});

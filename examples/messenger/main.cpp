@@ -2,7 +2,7 @@
 #include "app/Client.h"
 #include "app/CommandLine.h"
 #include "app/Languages.h"
-#include "common/ScreenshotJob.h"
+#include "common/Program.h"
 #include "common/SkinPictures.h"
 #include "common/WindowCamera.h"
 #include "model/ContactBook.h"
@@ -12,36 +12,16 @@
 #include <ombrin/OmSkin.h>
 
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QTextStream>
 #include <QtWidgets/QApplication>
-
-#include <cstdio>
 
 namespace messenger {
 
 namespace {
 
-constexpr int kExitSuccess = 0;
-constexpr int kExitFailure = 1;
-constexpr int kExitWrongArguments = 2;
+using example::kExitFailure;
+using example::kExitSuccess;
+using example::print;
 constexpr int kMostGuests = 20;
-
-void print(FILE *file, const QString &text)
-{
-    QTextStream(file) << text << Qt::endl;
-}
-
-void nameApplication()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("ombrin"));
-    QCoreApplication::setApplicationName(QStringLiteral("ombrin_messenger"));
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-#endif
-}
 
 ContactBook loadBook()
 {
@@ -68,26 +48,9 @@ std::unique_ptr<ProfileFolder> takeProfile(const QString &name)
     return nullptr;
 }
 
-int takeScreenshots(const CommandLine &commandLine)
-{
-    example::ScreenshotJob job(commandLine.directory,
-                               CommandLine::oneDensityArguments(commandLine));
-    QObject::connect(&job, &example::ScreenshotJob::finished, &job,
-                     [](bool ok, const QString &message) {
-                         print(ok ? stdout : stderr, message);
-                         QCoreApplication::exit(ok ? kExitSuccess : kExitFailure);
-                     });
-    job.start();
-    return QCoreApplication::exec();
-}
-
 int takeOneDensity(const CommandLine &commandLine)
 {
-    const QString error = Camera(commandLine.directory, loadBook()).takeAll();
-    if (error.isEmpty())
-        return kExitSuccess;
-    print(stderr, error);
-    return kExitFailure;
+    return example::exitCodeOf(Camera(commandLine.directory, loadBook()).takeAll());
 }
 
 int chat(const CommandLine &commandLine)
@@ -113,26 +76,17 @@ int chat(const CommandLine &commandLine)
 
 int run(int argc, char *argv[])
 {
-    nameApplication();
+    example::prepareApplication(QStringLiteral("ombrin_messenger"));
 
-    // What needs no window must work where there is no display.
     CommandLine commandLine;
     {
         const QCoreApplication application(argc, argv);
+        const Languages languages{QString()};
         commandLine = CommandLine::parse(QCoreApplication::arguments());
-        switch (commandLine.task) {
-        case CommandLine::Task::Print:
-            print(stdout, commandLine.message);
-            return kExitSuccess;
-        case CommandLine::Task::Refuse:
-            print(stderr, commandLine.message);
-            return kExitWrongArguments;
-        case CommandLine::Task::TakeScreenshots:
-            return takeScreenshots(commandLine);
-        case CommandLine::Task::TakeOneDensity:
-        case CommandLine::Task::Chat:
-            break;
-        }
+        const std::optional<int> exitCode =
+                example::runWithoutWindows(commandLine, commandLine.oneDensityArguments());
+        if (exitCode)
+            return *exitCode;
     }
 
     const QApplication application(argc, argv);

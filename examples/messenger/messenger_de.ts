@@ -23,18 +23,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>Try --help.</source>
-        <translation>Versuchen Sie --help.</translation>
-    </message>
-    <message>
-        <source>Print this help.</source>
-        <translation>Diese Hilfe ausgeben.</translation>
-    </message>
-    <message>
-        <source>Be somebody of your own: account, contacts and conversations are kept under this name. Without it the first copy is &quot;main&quot;, the second &quot;guest-2&quot; and so on.</source>
-        <translation>Jemand Eigenes sein: Konto, Kontakte und Gespräche werden unter diesem Namen aufbewahrt. Ohne ihn heißt das erste laufende Programm „main“, das zweite „guest-2“ und so weiter.</translation>
-    </message>
-    <message>
         <source>name</source>
         <translation>Name</translation>
     </message>
@@ -51,28 +39,20 @@
         <translation>Bilder der Fenster in diesem Ordner speichern, in einfacher und doppelter Dichte.</translation>
     </message>
     <message>
-        <source>folder</source>
-        <translation>Ordner</translation>
-    </message>
-    <message>
         <source>A small messenger built with ombrin gui. Start it twice and chat.</source>
         <translation>Ein kleiner Messenger, gebaut mit ombrin gui. Starten Sie ihn zweimal und plaudern Sie.</translation>
-    </message>
-    <message>
-        <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Unerwartetes Argument „%1“.</translation>
     </message>
     <message>
         <source>The name of a profile has letters a to z, digits and hyphens.</source>
         <translation>Der Name eines Profils besteht aus Buchstaben von a bis z, Ziffern und Bindestrichen.</translation>
     </message>
     <message>
-        <source>--screenshots needs the name of a folder.</source>
-        <translation>--screenshots braucht den Namen eines Ordners.</translation>
-    </message>
-    <message>
         <source>This profile cannot be used: another copy has it, or its folder cannot be written to.</source>
         <translation>Dieses Profil kann nicht verwendet werden: Ein anderes laufendes Programm hat es, oder sein Ordner ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>Use a profile of your own: account, contacts and conversations are kept under this name. Without it the first copy uses &quot;main&quot;, the second &quot;guest-2&quot; and so on.</source>
+        <translation>Ein eigenes Profil verwenden: Konto, Kontakte und Gespräche werden unter diesem Namen aufbewahrt. Ohne ihn verwendet das erste laufende Programm „main“, das zweite „guest-2“ und so weiter.</translation>
     </message>
 </context>
 <context>
@@ -108,8 +88,8 @@
         <translation>&amp;Name:</translation>
     </message>
     <message>
-        <source>Your contacts read this on your card.</source>
-        <translation>Das lesen Ihre Kontakte auf Ihrer Karte.</translation>
+        <source>Your contacts see this on your card.</source>
+        <translation>Das sehen Ihre Kontakte auf Ihrer Karte.</translation>
     </message>
 </context>
 <context>
@@ -131,12 +111,15 @@
         <translation>Ihr Bild auswählen</translation>
     </message>
     <message>
+        <source>This is not a picture, or it is too large.</source>
+        <translation>Das ist kein Bild, oder es ist zu groß.</translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
         <source>Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)</source>
         <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp *.webp)</translation>
-    </message>
-    <message>
-        <source>This is no picture, or it is too large.</source>
-        <translation>Das ist kein Bild, oder es ist zu groß.</translation>
     </message>
 </context>
 <context>
@@ -148,10 +131,6 @@
     <message>
         <source>Away</source>
         <translation>Abwesend</translation>
-    </message>
-    <message>
-        <source>Away for longer</source>
-        <translation>Länger abwesend</translation>
     </message>
     <message>
         <source>Busy</source>
@@ -169,16 +148,16 @@
         <source>Offline</source>
         <translation>Offline</translation>
     </message>
+    <message>
+        <source>Extended away</source>
+        <translation>Länger abwesend</translation>
+    </message>
 </context>
 <context>
     <name>SampleDay</name>
     <message>
         <source>Will you come to the rehearsal tomorrow?</source>
         <translation>Kommst du morgen zur Probe?</translation>
-    </message>
-    <message>
-        <source>Of course! I bring the new score :-)</source>
-        <translation>Natürlich! Ich bringe die neue Partitur mit :-)</translation>
     </message>
     <message>
         <source>Good morning! Look where I am:</source>
@@ -193,16 +172,20 @@
         <translation>Ich beneide dich ;-)</translation>
     </message>
     <message>
-        <source>It is. Write to anna@example.org if you want the key, I send it by post.</source>
-        <translation>Ja. Schreib an anna@example.org, wenn du den Schlüssel willst, ich schicke ihn mit der Post.</translation>
-    </message>
-    <message>
         <source>Mira Sandberg</source>
         <translation>Mira Sandberg</translation>
     </message>
     <message>
         <source>Off to the lake</source>
         <translation>Ab an den See</translation>
+    </message>
+    <message>
+        <source>Of course! I will bring the new score :-)</source>
+        <translation>Natürlich! Ich bringe die neue Partitur mit :-)</translation>
+    </message>
+    <message>
+        <source>It is. Write to anna@example.org if you want the key: I will post it.</source>
+        <translation>Ja. Schreib an anna@example.org, wenn du den Schlüssel willst: Ich schicke ihn mit der Post.</translation>
     </message>
 </context>
 <context>
@@ -212,8 +195,8 @@
         <translation>&amp;Server:</translation>
     </message>
     <message>
-        <source>For example chat.example.org. Letters, digits, dots and hyphens, and maybe a port.</source>
-        <translation>Zum Beispiel chat.example.org. Buchstaben, Ziffern, Punkte und Bindestriche, vielleicht ein Port.</translation>
+        <source>For example chat.example.org: letters, digits, dots and hyphens, and a port if need be.</source>
+        <translation>Zum Beispiel chat.example.org: Buchstaben, Ziffern, Punkte und Bindestriche, falls nötig ein Port.</translation>
     </message>
 </context>
 <context>
@@ -223,8 +206,31 @@
         <translation>Fertig. „Beenden“ bringt Sie zu Ihren Kontakten.</translation>
     </message>
     <message>
-        <source>&quot;Complete&quot; adds the account.</source>
-        <translation>„Fertigstellen“ fügt das Konto hinzu.</translation>
+        <source>&quot;Complete&quot; saves the account.</source>
+        <translation>„Fertigstellen“ speichert das Konto.</translation>
+    </message>
+</context>
+<context>
+    <name>example::CommandLine</name>
+    <message>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>Unerwartetes Argument „%1“.</translation>
+    </message>
+    <message>
+        <source>--screenshots needs the name of a folder.</source>
+        <translation>--screenshots braucht den Namen eines Ordners.</translation>
+    </message>
+    <message>
+        <source>Try --help.</source>
+        <translation>Versuchen Sie --help.</translation>
     </message>
 </context>
 <context>
@@ -277,20 +283,20 @@
         <translation>Wo Ihr Konto zu Hause ist. Dorthin wird nichts gesendet: Dieses Beispiel findet andere laufende Programme auf diesem Rechner.</translation>
     </message>
     <message>
-        <source>What others call you. You can change it later by adding your account again.</source>
-        <translation>Wie andere Sie nennen. Sie können es später ändern, indem Sie Ihr Konto neu hinzufügen.</translation>
-    </message>
-    <message>
-        <source>What others see of you. You may choose one later, too.</source>
-        <translation>Was andere von Ihnen sehen. Sie können es auch später auswählen.</translation>
-    </message>
-    <message>
         <source>Your account is ready.</source>
         <translation>Ihr Konto ist fertig.</translation>
     </message>
     <message>
         <source>Please check what you entered.</source>
         <translation>Bitte prüfen Sie Ihre Angaben.</translation>
+    </message>
+    <message>
+        <source>What others call you. You can change it later: Messenger &gt; Account.</source>
+        <translation>Wie andere Sie nennen. Sie können es später ändern: Messenger &gt; Konto.</translation>
+    </message>
+    <message>
+        <source>What others see of you. You can choose one later, too.</source>
+        <translation>Was andere von Ihnen sehen. Sie können es auch später auswählen.</translation>
     </message>
 </context>
 <context>
@@ -324,20 +330,6 @@
         <translation>Bild senden</translation>
     </message>
     <message>
-        <source>Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)</source>
-        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp *.webp)</translation>
-    </message>
-    <message>
-        <source>This is no picture, or it is too large.
-Only pictures can be sent.</source>
-        <translation>Das ist kein Bild, oder es ist zu groß.
-Nur Bilder können gesendet werden.</translation>
-    </message>
-    <message>
-        <source>No picture of the screen was taken.</source>
-        <translation>Es wurde kein Bild des Bildschirms aufgenommen.</translation>
-    </message>
-    <message>
         <source>Call</source>
         <translation>Anrufen</translation>
     </message>
@@ -350,16 +342,8 @@ Nur Bilder können gesendet werden.</translation>
         <translation>Bild</translation>
     </message>
     <message>
-        <source>Send a picture; or drop one here</source>
-        <translation>Ein Bild senden; oder hierher ziehen</translation>
-    </message>
-    <message>
         <source>Screenshot</source>
         <translation>Bildschirmfoto</translation>
-    </message>
-    <message>
-        <source>Cut out a part of the screen, in three seconds, and send it</source>
-        <translation>In drei Sekunden einen Teil des Bildschirms ausschneiden und senden</translation>
     </message>
     <message>
         <source>Nudge</source>
@@ -393,21 +377,27 @@ Nur Bilder können gesendet werden.</translation>
         <source>Smileys</source>
         <translation>Smileys</translation>
     </message>
+    <message>
+        <source>This is not a picture, or it is too large.
+Only pictures can be sent.</source>
+        <translation>Das ist kein Bild, oder es ist zu groß.
+Nur Bilder können gesendet werden.</translation>
+    </message>
+    <message>
+        <source>No screenshot was taken.</source>
+        <translation>Es wurde kein Bildschirmfoto aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Send a picture, or paste or drop one here</source>
+        <translation>Ein Bild senden, oder eines hier einfügen oder hierher ziehen</translation>
+    </message>
+    <message>
+        <source>Cut out a part of the screen in three seconds and send it</source>
+        <translation>In drei Sekunden einen Teil des Bildschirms ausschneiden und senden</translation>
+    </message>
 </context>
 <context>
     <name>messenger::Client</name>
-    <message>
-        <source>sends you a picture.</source>
-        <translation>schickt Ihnen ein Bild.</translation>
-    </message>
-    <message>
-        <source>nudges you.</source>
-        <translation>stupst Sie an.</translation>
-    </message>
-    <message>
-        <source>sends you a formatted message.</source>
-        <translation>schickt Ihnen eine formatierte Nachricht.</translation>
-    </message>
     <message>
         <source>Messenger</source>
         <translation>Messenger</translation>
@@ -425,18 +415,12 @@ Nur Bilder können gesendet werden.</translation>
         <translation>Anrufen</translation>
     </message>
     <message>
-        <source>This example has no telephone in it.
-%1: %2</source>
-        <translation>In diesem Beispiel steckt kein Telefon.
-%1: %2</translation>
-    </message>
-    <message>
         <source>You have blocked %1.</source>
-        <translation>Sie haben %1 blockiert.</translation>
+        <translation>Sie haben %1 gesperrt.</translation>
     </message>
     <message>
         <source>You have unblocked %1.</source>
-        <translation>Sie blockieren %1 nicht mehr.</translation>
+        <translation>Sie haben %1 entsperrt.</translation>
     </message>
     <message>
         <source>Delete Contact</source>
@@ -475,6 +459,24 @@ Sein Quelltext ist zum Lesen da: examples/messenger.</translation>
     <message>
         <source>is here now.</source>
         <translation>ist jetzt da.</translation>
+    </message>
+    <message>
+        <source>has sent you a picture.</source>
+        <translation>hat Ihnen ein Bild geschickt.</translation>
+    </message>
+    <message>
+        <source>has nudged you.</source>
+        <translation>hat Sie angestupst.</translation>
+    </message>
+    <message>
+        <source>has sent you a formatted message.</source>
+        <translation>hat Ihnen eine formatierte Nachricht geschickt.</translation>
+    </message>
+    <message>
+        <source>This example cannot make calls.
+%1: %2</source>
+        <translation>Dieses Beispiel kann nicht telefonieren.
+%1: %2</translation>
     </message>
 </context>
 <context>
@@ -520,7 +522,7 @@ Sein Quelltext ist zum Lesen da: examples/messenger.</translation>
     </message>
     <message>
         <source>Your &amp;picture...</source>
-        <translation>Ihr &amp;Bild ...</translation>
+        <translation>Ihr B&amp;ild ...</translation>
     </message>
     <message>
         <source>P&amp;references...</source>
@@ -548,11 +550,11 @@ Sein Quelltext ist zum Lesen da: examples/messenger.</translation>
     </message>
     <message>
         <source>&amp;Block</source>
-        <translation>&amp;Blockieren</translation>
+        <translation>Sp&amp;erren</translation>
     </message>
     <message>
         <source>&amp;Unblock</source>
-        <translation>&amp;Nicht mehr blockieren</translation>
+        <translation>E&amp;ntsperren</translation>
     </message>
     <message>
         <source>&amp;Delete...</source>
@@ -578,6 +580,26 @@ Sein Quelltext ist zum Lesen da: examples/messenger.</translation>
         <source>%1 of %2 contacts</source>
         <translation>%1 von %2 Kontakten</translation>
     </message>
+    <message>
+        <source>Ca&amp;ll</source>
+        <translation>An&amp;rufen</translation>
+    </message>
+    <message>
+        <source>Send p&amp;icture...</source>
+        <translation>&amp;Bild senden ...</translation>
+    </message>
+    <message>
+        <source>&amp;Web folder</source>
+        <translation>&amp;Webordner</translation>
+    </message>
+    <message>
+        <source>Write &amp;e-mail</source>
+        <translation>E-&amp;Mail schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Filters</source>
+        <translation>&amp;Filter</translation>
+    </message>
 </context>
 <context>
     <name>messenger::OwnPanel</name>
@@ -598,26 +620,28 @@ Sein Quelltext ist zum Lesen da: examples/messenger.</translation>
         <translation>Was Sie gerade tun, zum Lesen für andere</translation>
     </message>
     <message>
-        <source>What is up?</source>
-        <translation>Was gibt es?</translation>
-    </message>
-    <message>
         <source>Choose Your Picture</source>
         <translation>Ihr Bild auswählen</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)</source>
-        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp *.webp)</translation>
     </message>
     <message>
         <source>Your Picture</source>
         <translation>Ihr Bild</translation>
     </message>
     <message>
-        <source>This is no picture, or it is too large.
-Your picture stays as it was.</source>
-        <translation>Das ist kein Bild, oder es ist zu groß.
-Ihr Bild bleibt, wie es war.</translation>
+        <source>What&apos;s up?</source>
+        <translation>Was gibt es?</translation>
+    </message>
+    <message>
+        <source>This is not a picture, or it is too large.</source>
+        <translation>Das ist kein Bild, oder es ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be stored.</source>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Your picture stays as it was.</source>
+        <translation>Ihr Bild bleibt, wie es war.</translation>
     </message>
 </context>
 <context>
@@ -719,7 +743,7 @@ Ihr Bild bleibt, wie es war.</translation>
     </message>
     <message>
         <source>Blocked</source>
-        <translation>Blockiert</translation>
+        <translation>Gesperrt</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -731,23 +755,20 @@ Ihr Bild bleibt, wie es war.</translation>
     </message>
     <message>
         <source>Unblock</source>
-        <translation>Freigeben</translation>
+        <translation>Entsperren</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation>Blockieren</translation>
+        <translation>Sperren</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <comment>as QLocale::toString() takes it</comment>
+        <translation>d. MMMM yyyy</translation>
     </message>
 </context>
 <context>
     <name>messenger::ScriptedContact</name>
-    <message>
-        <source>Hello %1, and welcome! I am the guide of this messenger: a script, but a friendly one. Write &quot;help&quot; and I tell you what we can try together.</source>
-        <translation>Hallo %1, willkommen! Ich führe durch diesen Messenger: ein Skript, aber ein freundliches. Schreiben Sie „Hilfe“, und ich sage, was wir zusammen ausprobieren können.</translation>
-    </message>
-    <message>
-        <source>Write one of these words: nudge, picture, link, html, spelling, away, copy. Or send me a picture or a nudge, with the buttons above.</source>
-        <translation>Schreiben Sie eines dieser Wörter: Stups, Bild, Link, HTML, Schreibung, Pause, Kopie. Oder schicken Sie mir ein Bild oder einen Stups, mit den Knöpfen oben.</translation>
-    </message>
     <message>
         <source>Hold on to your window!</source>
         <translation>Halten Sie Ihr Fenster fest!</translation>
@@ -781,18 +802,6 @@ Ihr Bild bleibt, wie es war.</translation>
         <translation>Das fette Wort und der ehrliche Link werden gezeigt. Das Skript, die Datei und der böse Link erreichen das Fenster nie.</translation>
     </message>
     <message>
-        <source>Write a word that is wrong and a blank behind it: it gets underlined. Its context menu knows better ones.</source>
-        <translation>Schreiben Sie ein falsches Wort und ein Leerzeichen dahinter: Es wird unterstrichen. Sein Kontextmenü weiß es besser.</translation>
-    </message>
-    <message>
-        <source>I fetch a coffee. Look at my card!</source>
-        <translation>Ich hole einen Kaffee. Schauen Sie auf meine Karte!</translation>
-    </message>
-    <message>
-        <source>Back again.</source>
-        <translation>Wieder da.</translation>
-    </message>
-    <message>
         <source>Start me a second time. The copies find each other, and you can write to yourself.</source>
         <translation>Starten Sie mich ein zweites Mal. Die Programme finden einander, und Sie können sich selbst schreiben.</translation>
     </message>
@@ -813,20 +822,40 @@ Ihr Bild bleibt, wie es war.</translation>
         <translation>Ich verstehe. Und was geschah dann?</translation>
     </message>
     <message>
-        <source>That is more than a script can judge. Write &quot;help&quot; and I show you what I am good at.</source>
-        <translation>Das übersteigt ein Skript. Schreiben Sie „Hilfe“, und ich zeige, was ich kann.</translation>
-    </message>
-    <message>
-        <source>What a beautiful picture, thank you! I keep it.</source>
-        <translation>Was für ein schönes Bild, danke! Ich behalte es.</translation>
-    </message>
-    <message>
         <source>Ouch! Yes, I am listening.</source>
         <translation>Autsch! Ja, ich höre zu.</translation>
     </message>
     <message>
         <source>Point at these to see where they lead: https://www.example.org/ and anna@example.org.</source>
         <translation>Zeigen Sie darauf, um zu sehen, wohin es führt: https://www.example.org/ und anna@example.org.</translation>
+    </message>
+    <message>
+        <source>Hello %1, and welcome! I am the guide of this messenger: a script, but a friendly one. Write &quot;help&quot; and I will tell you what we can try together.</source>
+        <translation>Hallo %1, willkommen! Ich führe durch diesen Messenger: ein Skript, aber ein freundliches. Schreiben Sie „Hilfe“, und ich sage, was wir zusammen ausprobieren können.</translation>
+    </message>
+    <message>
+        <source>Write one of these words: nudge, picture, link, html, spelling, away, copy. Or send me a picture or a nudge with the buttons above.</source>
+        <translation>Schreiben Sie eines dieser Wörter: Stups, Bild, Link, HTML, Rechtschreibung, Pause, Kopie. Oder schicken Sie mir ein Bild oder einen Stups mit den Knöpfen oben.</translation>
+    </message>
+    <message>
+        <source>Misspell a word and type a space after it: it is underlined. Its context menu suggests better ones.</source>
+        <translation>Schreiben Sie ein falsches Wort und ein Leerzeichen dahinter: Es wird unterstrichen. Sein Kontextmenü weiß bessere.</translation>
+    </message>
+    <message>
+        <source>I am getting a coffee. Look at my card!</source>
+        <translation>Ich hole einen Kaffee. Schauen Sie auf meine Karte!</translation>
+    </message>
+    <message>
+        <source>I am back.</source>
+        <translation>Ich bin wieder da.</translation>
+    </message>
+    <message>
+        <source>That is more than a script can judge. Write &quot;help&quot; and I will show you what I am good at.</source>
+        <translation>Das übersteigt ein Skript. Schreiben Sie „Hilfe“, und ich zeige, was ich kann.</translation>
+    </message>
+    <message>
+        <source>What a beautiful picture, thank you! I will keep it.</source>
+        <translation>Was für ein schönes Bild, danke! Ich behalte es.</translation>
     </message>
 </context>
 <context>
@@ -841,7 +870,15 @@ Ihr Bild bleibt, wie es war.</translation>
     </message>
     <message>
         <source>%1 is an example of the contact book and cannot answer. The guide can, and so can a second copy of this program.</source>
-        <translation>%1 ist ein Beispiel aus dem Kontaktbuch und kann nicht antworten. Der Führer kann es, und ein zweites laufendes Programm auch.</translation>
+        <translation>%1 ist ein Beispiel aus dem Kontaktbuch und kann nicht antworten. Der Begleiter kann es, und ein zweites laufendes Programm auch.</translation>
+    </message>
+    <message>
+        <source>This could not be stored. Is the disk full?</source>
+        <translation>Das konnte nicht gespeichert werden. Ist die Festplatte voll?</translation>
+    </message>
+    <message>
+        <source>%1 has sent a picture that cannot be stored.</source>
+        <translation>%1 hat ein Bild geschickt, das nicht gespeichert werden kann.</translation>
     </message>
 </context>
 </TS>

@@ -11,18 +11,25 @@
 #include "windows/ChatWindow.h"
 #include "windows/ContactList.h"
 #include "windows/MainWindow.h"
+#include "windows/MessageInput.h"
 
 #include <ombrin/COmWizard_Standard.h>
+#include <ombrin/OmAvatar.h>
+#include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmContactCard.h>
 #include <ombrin/OmMessageBox.h>
-#include <ombrin/OmTextEdit.h>
 
+#include <QShortcut>
+#include <QtCore/QMimeData>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QClipboard>
+#include <QtGui/QDropEvent>
 #include <QtGui/QImage>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
 #include <functional>
 
 using namespace messenger;
@@ -187,6 +194,14 @@ private Q_SLOTS:
         QCOMPARE(happened.first(), annForBob + u'+');
         QCOMPARE(bob.session().roster().unread(annForBob), 3);
 
+        // Who was deleted and writes is a contact again.
+        bob.session().roster().remove(annForBob);
+        ann.session().sendText(bobForAnn, QStringLiteral("Again"));
+        QVERIFY(waitFor([&] { return bob.session().roster().contains(annForBob); }, kPatienceMs));
+        QVERIFY(waitFor([&] { return bob.heardFrom(annForBob).contains(QStringLiteral("Again")); },
+                        kPatienceMs));
+        QVERIFY(!bob.contact(annForBob).picture.isEmpty());
+
         // Blocked peers are not heard; invisible ones are offline; who is gone has not got
         // anything.
         bob.session().roster().setBlocked(annForBob, true);
@@ -210,7 +225,7 @@ private Q_SLOTS:
         bob.start();
         QCOMPARE(bob.contact(annForBob).alias, QStringLiteral("ANN"));
         QVERIFY(bob.contact(annForBob).isBlocked);
-        QCOMPARE(bob.heardFrom(annForBob), heard);
+        QCOMPARE(bob.heardFrom(annForBob), heard + QStringList{QStringLiteral("Again")});
     }
 
     void hostilePeersAreTurnedAway_data()
@@ -325,6 +340,136 @@ private Q_SLOTS:
         QVERIFY(waitFor([&] { return user.heardFrom(QStringLiteral("guide")).size() >= 2; },
                         kPatienceMs));
         chat->close();
+    }
+
+    void whatCannotBeStoredIsSaidToBeSo()
+    {
+        const QTemporaryDir folder;
+        const ProfileFolder profile(folder.path());
+        Session session(profile, ContactBook::load(shippedBook()));
+        // Something else stands in the way of the conversation.
+        QVERIFY(QDir().mkpath(profile.historyFile(QStringLiteral("guide"))));
+        QVector<Message> shown;
+        connect(&session, &Session::messageAdded, this,
+                [&](const QString &, const Message &message) { shown.append(message); });
+        session.sendText(QStringLiteral("guide"), QStringLiteral("Hello"));
+        QCOMPARE(shown.size(), 2);
+        QCOMPARE(shown.at(0).text, QStringLiteral("Hello"));
+        QCOMPARE(shown.at(1).from, Message::From::Messenger);
+    }
+
+    void noPartOfALongMessageIsLost()
+    {
+        User user(QStringLiteral("ada"));
+        const QString smile = QString::fromUtf8("\xf0\x9f\x98\x80");
+        const QString text = QLatin1Char('x') + smile.repeated(kLongestText);
+        user.session().sendText(QStringLiteral("anna"), text);
+        QString sent;
+        for (const Message &message : user.session().messages(QStringLiteral("anna"), 100)) {
+            if (message.from == Message::From::Me)
+                sent += message.text;
+        }
+        QCOMPARE(sent, text);
+    }
+
+    void draftsAndPicturesFindTheirWay()
+    {
+        User user(QStringLiteral("ada"));
+        const QString anna = QStringLiteral("anna");
+        const auto pictureCount = [&] {
+            const QVector<Message> messages = user.session().messages(anna, 100);
+            return std::count_if(messages.begin(), messages.end(), [](const Message &message) {
+                return message.kind == Message::Kind::Picture;
+            });
+        };
+        QImage picture(20, 10, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        {
+            Client client(&user.session());
+            QVERIFY(client.start());
+            ChatWindow *chat = client.openChat(anna);
+            QTest::keyClicks(chat->input(), QStringLiteral("Half a sent"));
+            QGuiApplication::clipboard()->setImage(picture);
+            chat->input()->paste();
+            QVERIFY(waitFor([&] { return pictureCount() == 1; }, kPatienceMs));
+
+            // What is dropped may be anything, also a list of files with none in it.
+            QMimeData garbage;
+            garbage.setData(QStringLiteral("text/uri-list"), "\n\xff");
+            QMimeData dropped;
+            dropped.setImageData(picture);
+            for (const QMimeData *data : {&garbage, &dropped}) {
+                QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, data, Qt::LeftButton,
+                                      Qt::NoModifier);
+                QCoreApplication::sendEvent(chat, &enter);
+                QDropEvent drop(QPoint(9, 9), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+                QCoreApplication::sendEvent(chat, &drop);
+            }
+            QVERIFY(waitFor([&] { return pictureCount() == 2; }, kPatienceMs));
+            const QPointer<ChatWindow> open(chat);
+            const auto shortcuts = chat->findChildren<QShortcut *>();
+            for (QShortcut *shortcut : shortcuts) {
+                if (shortcut->key() == QKeySequence(Qt::Key_Escape))
+                    Q_EMIT shortcut->activated();
+            }
+            QVERIFY(waitFor([&] { return open.isNull(); }, kPatienceMs));
+        }
+        Client client(&user.session());
+        QVERIFY(client.start());
+        ChatWindow *chat = client.openChat(anna);
+        QCOMPARE(chat->input()->toPlainText(), QStringLiteral("Half a sent"));
+        QTest::keyClick(chat->input(), Qt::Key_Return);
+        chat->close();
+        QVERIFY(user.session().draft(anna).isEmpty());
+    }
+
+    void contactsAreChosenByKey()
+    {
+        User user(QStringLiteral("ada"));
+        Client client(&user.session());
+        QVERIFY(client.start());
+        ContactList *contacts = client.mainWindow()->contacts();
+        QStringList actions;
+        connect(contacts, &ContactList::actionId, this,
+                [&](const QString &id, const QString &contact) { actions.append(id + contact); });
+        QCOMPARE(contacts->currentContactId(), QStringLiteral("guide"));
+        QTest::keyClick(contacts, Qt::Key_Down);
+        QCOMPARE(contacts->currentContactId(), QStringLiteral("anna"));
+
+        // A peer that comes changes the order, and nothing else.
+        Contact peer;
+        peer.id = contactIdOfPeer(QStringLiteral("bob"));
+        peer.alias = QStringLiteral("Bob");
+        peer.status = ombrin::Om::Online;
+        user.session().roster().putPeer(peer);
+        QCOMPARE(contacts->card(1)->alias(), QStringLiteral("Bob"));
+        QCOMPARE(contacts->currentContactId(), QStringLiteral("anna"));
+        QTest::keyClick(contacts, Qt::Key_Up);
+        QCOMPARE(contacts->currentContactId(), peer.id);
+        ombrin::OmContactCard *bela = contacts->cardOf(QStringLiteral("bela"));
+        QVERIFY(waitFor([&] { return bela->findChild<ombrin::OmAvatarSmall *>() != nullptr; },
+                        kPatienceMs));
+        Q_EMIT bela->avatarClicked();
+        QVERIFY(bela->findChild<ombrin::OmAvatar *>());
+
+        // What the filter hides cannot be meant.
+        ContactFilter filter;
+        filter.words = QStringLiteral("Lena");
+        contacts->setFilter(filter);
+        QVERIFY(contacts->currentContactId().isEmpty());
+        contacts->takeKeys();
+        QTest::keyClick(contacts, Qt::Key_Return);
+        QCOMPARE(actions, QStringList({QStringLiteral("chatlena")}));
+    }
+
+    void messengerMayEndWhileADialogIsOpen()
+    {
+        User user(QStringLiteral("ada"));
+        auto client = std::make_unique<Client>(&user.session());
+        QVERIFY(client->start());
+        const DialogUser ending([&](QWidget *) { client.reset(); });
+        Q_EMIT client->mainWindow()->preferencesWanted();
+        QVERIFY(!client);
     }
 
     void whatIsDoneToContactsIsRemembered()

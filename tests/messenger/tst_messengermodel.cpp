@@ -172,6 +172,23 @@ private Q_SLOTS:
         QCOMPARE(StateFile(name).value(QStringLiteral("key")).toInt(), 7);
     }
 
+    void stateThatCannotBeReadOrWrittenIsNotLost()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("later/state"));
+        StateFile state(name);
+        state.setValue(QStringLiteral("first"), 1);
+        // There is a folder now, but for something else, which stays.
+        QVERIFY(QDir().mkpath(name));
+        state.setValue(QStringLiteral("second"), 2);
+        StateFile other(name);
+        QVERIFY(QFile::exists(name + QStringLiteral(".damaged")));
+        state.setValue(QStringLiteral("second"), 2); // once more: it is not in the file yet
+        StateFile written(name);
+        QCOMPARE(written.value(QStringLiteral("first")).toInt(), 1);
+        QCOMPARE(written.value(QStringLiteral("second")).toInt(), 2);
+    }
+
     void filterShowsWhatTheUserAsksFor_data()
     {
         QTest::addColumn<QString>("words");

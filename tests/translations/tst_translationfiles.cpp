@@ -61,6 +61,18 @@ QStringList languageFiles()
     return found;
 }
 
+/// The texts that Qt finds in sources; \a arguments say where.
+QList<QStringList> extractedTexts(QStringList arguments)
+{
+    const QTemporaryDir folder;
+    const QString extracted = folder.filePath(QStringLiteral("texts.ts"));
+    arguments << QStringLiteral("-ts") << extracted;
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(OMBRIN_LUPDATE), arguments);
+    const bool hasWorked = lupdate.waitForFinished(120000) && lupdate.exitCode() == 0;
+    return hasWorked ? readFile(extracted).keys() : QList<QStringList>();
+}
+
 QStringList listed(const char *items)
 {
     return QString::fromUtf8(items).split(QLatin1Char('|'));
@@ -110,19 +122,13 @@ class tst_TranslationFiles : public ombrin::test::TestCase
 private Q_SLOTS:
     void filesHoldTheTextsOfTheSources();
     void everyTextIsTranslated();
+    void messengerIsTranslatedToo();
     void noTextEscapesTranslation();
 };
 
 void tst_TranslationFiles::filesHoldTheTextsOfTheSources()
 {
-    QTemporaryDir folder;
-    const QString extracted = folder.filePath(QStringLiteral("texts.ts"));
-    QProcess lupdate;
-    lupdate.start(QStringLiteral(OMBRIN_LUPDATE), listed(OMBRIN_EXTRACTION)
-                                                          << QStringLiteral("-ts") << extracted);
-    QVERIFY(lupdate.waitForFinished(120000));
-    QCOMPARE(lupdate.exitCode(), 0);
-    const QList<QStringList> expected = readFile(extracted).keys();
+    const QList<QStringList> expected = extractedTexts(listed(OMBRIN_EXTRACTION));
     QVERIFY(expected.size() > 100);
 
     const Messages empty = readFile(QStringLiteral(OMBRIN_TRANSLATIONS "/ombringui_template.ts"));
@@ -143,7 +149,8 @@ void tst_TranslationFiles::filesHoldTheTextsOfTheSources()
 
 void tst_TranslationFiles::everyTextIsTranslated()
 {
-    const QStringList files = languageFiles();
+    const QStringList files = languageFiles()
+                              << QStringLiteral(OMBRIN_EXAMPLES "/messenger/messenger_de.ts");
     for (const QString &file : files) {
         const Messages messages = readFile(file);
         for (auto message = messages.begin(); message != messages.end(); ++message) {
@@ -152,6 +159,17 @@ void tst_TranslationFiles::everyTextIsTranslated()
             QVERIFY2(shapeOf(message->translation) == shapeOf(message.key().at(1)), where);
         }
     }
+}
+
+void tst_TranslationFiles::messengerIsTranslatedToo()
+{
+    const QString folder = QStringLiteral(OMBRIN_EXAMPLES);
+    const QString messenger = folder + QStringLiteral("/messenger");
+    const QList<QStringList> expected = extractedTexts(
+            {QStringLiteral("-silent"), QStringLiteral("-I"), folder, QStringLiteral("-I"),
+             messenger, messenger, folder + QStringLiteral("/common")});
+    QVERIFY(expected.size() > 100);
+    QCOMPARE(readFile(messenger + QStringLiteral("/messenger_de.ts")).keys(), expected);
 }
 
 /// Looks for calls that show texts to the user and have letters in a literal that no function for

@@ -8,6 +8,7 @@
 #include "windows/ContactList.h"
 #include "windows/FilterPanel.h"
 #include "windows/MainWindow.h"
+#include "windows/MessageInput.h"
 #include "windows/Pictures.h"
 #include "windows/PreferencesDialog.h"
 #include "windows/ProfileWindow.h"
@@ -16,7 +17,6 @@
 
 #include <ombrin/COmWizard_Standard.h>
 #include <ombrin/OmContactCard.h>
-#include <ombrin/OmTextEdit.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QCursor>
@@ -60,7 +60,7 @@ QString Camera::takeAll()
     takeProfile(&client);
     takeWizard(session.ownPicture());
     takePreferences();
-    takeToast(session);
+    takeToast();
     return m_error;
 }
 
@@ -118,14 +118,13 @@ void Camera::takePreferences()
     take(&dialog, QStringLiteral("preferences"));
 }
 
-void Camera::takeToast(const Session &session)
+void Camera::takeToast()
 {
     Contact contact;
     for (const Contact &candidate : m_book.contacts()) {
         if (candidate.id == QLatin1String("kofi"))
             contact = candidate;
     }
-    Q_UNUSED(session)
     Toast toast(roundPortrait(portraitOf(contact), 40), contact.alias,
                 tr("Shall we meet at the station?"));
     toast.setAttribute(Qt::WA_DeleteOnClose, false);

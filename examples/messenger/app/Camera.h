@@ -31,7 +31,7 @@ private:
     void takeProfile(Client *client);
     void takeWizard(const QImage &picture);
     void takePreferences();
-    void takeToast(const Session &session);
+    void takeToast();
     void take(QWidget *window, const QString &name);
 
     QString m_directory;

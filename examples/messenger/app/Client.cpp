@@ -48,11 +48,11 @@ QString noteOf(const Message &message)
 {
     switch (message.kind) {
     case Message::Kind::Picture:
-        return Client::tr("sends you a picture.");
+        return Client::tr("has sent you a picture.");
     case Message::Kind::Nudge:
-        return Client::tr("nudges you.");
+        return Client::tr("has nudged you.");
     case Message::Kind::Html:
-        return Client::tr("sends you a formatted message.");
+        return Client::tr("has sent you a formatted message.");
     case Message::Kind::Text:
         break;
     }
@@ -130,24 +130,29 @@ bool Client::runAccountWizard()
         mission.setName(old.name);
         mission.setPicture(m_session->ownPicture());
     }
-    connect(&mission, &AccountMission::finished, this, [this, &mission, old] {
-        Account account = Account::create(mission.name(), mission.server());
-        if (old.exists()) {
-            account.id = old.id;
-            account.status = old.status;
-            account.remark = old.remark;
-        }
-        m_session->setAccount(account);
-        if (!mission.picture().isNull())
-            m_session->setOwnPicture(mission.picture());
-        if (!old.exists() && m_session->script())
-            m_session->script()->greet(account.name);
-    });
+    connect(&mission, &AccountMission::finished, this,
+            [this, &mission, old] { takeAccount(old, mission); });
     COmWizard_Standard wizard;
     wizard.Set_Mission(&mission);
     wizard.FixSize(true, kWizardSize);
+    wizard.setWindowModality(Qt::ApplicationModal); // it belongs to no window that it could block
     wizard.exec();
     return mission.isDone();
+}
+
+void Client::takeAccount(const Account &old, const AccountMission &mission)
+{
+    Account account = Account::create(mission.name(), mission.server());
+    if (old.exists()) {
+        account.id = old.id;
+        account.status = old.status;
+        account.remark = old.remark;
+        account.picture = old.picture;
+    }
+    m_session->setAccount(account);
+    m_session->setOwnPicture(mission.picture());
+    if (!old.exists() && m_session->script())
+        m_session->script()->greet(account.name);
 }
 
 // What contact cards and windows ask for
@@ -155,6 +160,9 @@ bool Client::runAccountWizard()
 void Client::perform(const QString &actionId, const QString &contactId)
 {
     const QLatin1String opening("open:");
+    // Balloons and windows may outlive a contact.
+    if (!m_session->roster().contains(contactId))
+        return;
     if (actionId.startsWith(opening))
         openLink(actionId.mid(opening.size()));
     else if (actionId == QLatin1String("chat"))
@@ -162,7 +170,9 @@ void Client::perform(const QString &actionId, const QString &contactId)
     else if (actionId == QLatin1String("profile"))
         openProfile(contactId);
     else if (actionId == QLatin1String("filetransfer"))
-        openChat(contactId)->choosePicture();
+        sendPicture(contactId);
+    else if (actionId == QLatin1String("mail"))
+        openLink(QStringLiteral("mailto:") + m_session->roster().contact(contactId).email);
     else if (actionId == QLatin1String("webfolder"))
         openLink(m_session->roster().contact(contactId).web.toString());
     else if (actionId == QLatin1String("voip"))
@@ -206,6 +216,13 @@ ProfileWindow *Client::openProfile(const QString &contactId)
     return profile;
 }
 
+void Client::sendPicture(const QString &contactId)
+{
+    ChatWindow *chat = openChat(contactId);
+    if (!m_session->roster().contact(contactId).isBlocked)
+        chat->choosePicture();
+}
+
 // Only what a browser or a mail program opens: links come from other people.
 void Client::openLink(const QString &link)
 {
@@ -223,8 +240,7 @@ void Client::call(const QString &contactId)
     const QString number = contact.phone.isEmpty() ? tr("no number is known") : contact.phone;
     OmMessageBox::information(
             parentWindow(), tr("Call"),
-            asRichText(
-                    tr("This example has no telephone in it.\n%1: %2").arg(contact.alias, number)));
+            asRichText(tr("This example cannot make calls.\n%1: %2").arg(contact.alias, number)));
 }
 
 void Client::setBlocked(const QString &contactId, bool isBlocked)
@@ -276,10 +292,15 @@ void Client::addContacts()
 void Client::editPreferences()
 {
     const QPointer<Client> guard(this);
-    PreferencesDialog dialog(m_preferences, m_mainWindow.get());
-    if (dialog.exec() != QDialog::Accepted || !guard)
+    // Not on the stack: it goes with its window.
+    const QPointer<PreferencesDialog> dialog =
+            new PreferencesDialog(m_preferences, m_mainWindow.get());
+    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
+    const Preferences chosen = isAccepted ? dialog->preferences() : Preferences();
+    delete dialog;
+    if (!isAccepted || !guard)
         return;
-    m_preferences = dialog.preferences();
+    m_preferences = chosen;
     m_session->state().setValue(preferencesKey(), m_preferences.toJson());
     for (const QPointer<ChatWindow> &chat : std::as_const(m_chats)) {
         if (chat)
@@ -329,7 +350,8 @@ void Client::showToast(const QString &contactId, const QString &text)
     // One at a time; the newest is what counts.
     delete m_toast;
     m_toast = new Toast(roundPortrait(portraitOf(contact), 40), contact.alias, text);
-    connect(m_toast, &Toast::clicked, this, [this, contactId] { openChat(contactId); });
+    connect(m_toast, &Toast::clicked, this,
+            [this, contactId] { perform(QStringLiteral("chat"), contactId); });
     m_toast->popUp();
 }
 

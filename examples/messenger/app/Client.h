@@ -10,11 +10,13 @@
 
 namespace messenger {
 
+class AccountMission;
 class ChatWindow;
 class MainWindow;
 class ProfileWindow;
 class Session;
 class Toast;
+struct Account;
 struct Message;
 
 /// Opens the windows of a session and does what the user asks for in them.
@@ -41,6 +43,7 @@ public:
 
 private:
     bool runAccountWizard();
+    void takeAccount(const Account &old, const AccountMission &mission);
     void createMainWindow();
     void call(const QString &contactId);
     void setBlocked(const QString &contactId, bool isBlocked);
@@ -48,6 +51,7 @@ private:
     void addContacts();
     void editPreferences();
     void showAbout();
+    void sendPicture(const QString &contactId);
     static void openLink(const QString &link);
     void tellOfMessage(const QString &contactId, const Message &message);
     void tellOfPeer(const QString &contactId);

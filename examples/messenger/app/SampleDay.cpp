@@ -32,7 +32,7 @@ void talkWithAnna(const History &history, const QString &picture)
     history.append({at(-1, 21, 4), From::Contact, Kind::Text,
                     SampleDay::tr("Will you come to the rehearsal tomorrow?")});
     history.append({at(-1, 21, 6), From::Me, Kind::Text,
-                    SampleDay::tr("Of course! I bring the new score :-)")});
+                    SampleDay::tr("Of course! I will bring the new score :-)")});
     history.append({at(0, 9, 41), From::Contact, Kind::Text,
                     SampleDay::tr("Good morning! Look where I am:")});
     history.append({at(0, 9, 41), From::Contact, Kind::Picture, picture});
@@ -44,7 +44,7 @@ void talkWithAnna(const History &history, const QString &picture)
     history.append(
             {at(0, 9, 47), From::Contact, Kind::Text,
              SampleDay::tr(
-                     "It is. Write to anna@example.org if you want the key, I send it by post.")});
+                     "It is. Write to anna@example.org if you want the key: I will post it.")});
 }
 
 } // namespace

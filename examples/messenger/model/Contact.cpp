@@ -1,5 +1,7 @@
 #include "model/Contact.h"
 
+#include <ombrin/vhutilities.h>
+
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
@@ -42,6 +44,11 @@ bool isIdCharacter(QChar c)
 QString peerGroup()
 {
     return QCoreApplication::translate("Contact", "On this machine");
+}
+
+bool hasMail(const Contact &contact)
+{
+    return ombrin::vhutilities::IsPossibleEMailAddress(contact.email, false);
 }
 
 bool isContactId(const QString &id)
@@ -90,7 +97,10 @@ QString asLine(const QString &text, int length)
         if (c.category() != QChar::Other_Control && c.category() != QChar::Other_Format)
             line.append(c);
     }
-    return line.left(length);
+    line.truncate(length);
+    if (!line.isEmpty() && line.at(line.size() - 1).isHighSurrogate())
+        line.chop(1); // half a character
+    return line;
 }
 
 } // namespace messenger

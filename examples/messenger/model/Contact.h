@@ -39,6 +39,9 @@ constexpr int kPeerApplication = 11;
 /// The group of all peers, in the user's language.
 QString peerGroup();
 
+/// Whether mail can be written to \a contact.
+bool hasMail(const Contact &contact);
+
 /// Whether \a id may name a contact: one to 64 of the characters a to z, 0 to 9 and "-". Only such
 /// ids become names of files.
 bool isContactId(const QString &id);

@@ -13,40 +13,13 @@ namespace Om = ombrin::Om;
 // Nobody knows more people on one machine.
 constexpr int kMostPeers = 200;
 
-QString stateKey()
-{
-    return QStringLiteral("contacts");
-}
-
-QString blockedKey()
-{
-    return QStringLiteral("blocked");
-}
-
-QString removedKey()
-{
-    return QStringLiteral("removed");
-}
-
-QString ratingKey()
-{
-    return QStringLiteral("rating");
-}
-
-QString unreadKey()
-{
-    return QStringLiteral("unread");
-}
-
-QString peerNameKey()
-{
-    return QStringLiteral("peer");
-}
-
-QString peerPictureKey()
-{
-    return QStringLiteral("picture");
-}
+constexpr QLatin1String kStateKey("contacts");
+constexpr QLatin1String kBlockedKey("blocked");
+constexpr QLatin1String kRemovedKey("removed");
+constexpr QLatin1String kRatingKey("rating");
+constexpr QLatin1String kUnreadKey("unread");
+constexpr QLatin1String kPeerNameKey("peer");
+constexpr QLatin1String kPeerPictureKey("picture");
 
 } // namespace
 
@@ -56,7 +29,7 @@ Roster::Roster(const QVector<Contact> &book, StateFile *state, QObject *parent)
     , m_book(book)
 {
     for (Contact contact : book) {
-        if (remembered(contact.id, removedKey()).toBool())
+        if (remembered(contact.id, kRemovedKey).toBool())
             continue;
         applyMemory(&contact);
         m_contacts.append(contact);
@@ -68,18 +41,18 @@ Roster::~Roster() = default;
 
 void Roster::addKnownPeers()
 {
-    const QJsonObject contacts = m_state->value(stateKey()).toObject();
+    const QJsonObject contacts = m_state->value(kStateKey).toObject();
     for (auto entry = contacts.begin(); entry != contacts.end(); ++entry) {
         const QJsonObject values = entry.value().toObject();
-        const QString name = values.value(peerNameKey()).toString();
+        const QString name = values.value(kPeerNameKey).toString();
         if (name.isEmpty() || !isContactId(entry.key()) || contains(entry.key())
-            || values.value(removedKey()).toBool())
+            || values.value(kRemovedKey).toBool())
             continue;
         Contact peer;
         peer.id = entry.key();
         peer.alias = name;
         peer.isPeer = true;
-        peer.picture = values.value(peerPictureKey()).toString();
+        peer.picture = values.value(kPeerPictureKey).toString();
         applyMemory(&peer);
         m_contacts.append(peer);
     }
@@ -87,8 +60,8 @@ void Roster::addKnownPeers()
 
 void Roster::applyMemory(Contact *contact) const
 {
-    contact->isBlocked = remembered(contact->id, blockedKey()).toBool(contact->isBlocked);
-    contact->rating = remembered(contact->id, ratingKey()).toInt();
+    contact->isBlocked = remembered(contact->id, kBlockedKey).toBool(contact->isBlocked);
+    contact->rating = remembered(contact->id, kRatingKey).toInt();
     if (contact->isPeer) {
         contact->application = kPeerApplication;
         contact->group = peerGroup();
@@ -134,13 +107,15 @@ void Roster::putPeer(const Contact &peer)
 {
     if (!contains(peer.id) && m_contacts.size() >= m_book.size() + kMostPeers)
         return;
-    remember(peer.id, peerNameKey(), peer.alias);
-    remember(peer.id, peerPictureKey(), peer.picture);
-    remember(peer.id, removedKey(), false);
+    const int index = indexOf(peer.id);
     Contact contact = peer;
+    if (index < 0 && peer.picture.isEmpty()) // as it was before the user deleted it
+        contact.picture = remembered(peer.id, kPeerPictureKey).toString();
+    remember(peer.id, kPeerNameKey, peer.alias);
+    remember(peer.id, kPeerPictureKey, contact.picture);
+    remember(peer.id, kRemovedKey, false);
     contact.isPeer = true;
     applyMemory(&contact);
-    const int index = indexOf(peer.id);
     if (index >= 0) {
         m_contacts[index] = contact;
         Q_EMIT changed(contact);
@@ -157,13 +132,13 @@ void Roster::setStatus(const QString &id, Om::ContactStatus status)
 
 void Roster::setBlocked(const QString &id, bool isBlocked)
 {
-    remember(id, blockedKey(), isBlocked);
+    remember(id, kBlockedKey, isBlocked);
     change(id, &Contact::isBlocked, isBlocked);
 }
 
 void Roster::setRating(const QString &id, int rating)
 {
-    remember(id, ratingKey(), rating);
+    remember(id, kRatingKey, rating);
     change(id, &Contact::rating, rating);
 }
 
@@ -171,13 +146,13 @@ void Roster::setUnread(const QString &id, int count)
 {
     if (unread(id) == count || !contains(id))
         return;
-    remember(id, unreadKey(), count);
+    remember(id, kUnreadKey, count);
     Q_EMIT changed(contact(id));
 }
 
 int Roster::unread(const QString &id) const
 {
-    return remembered(id, unreadKey()).toInt();
+    return remembered(id, kUnreadKey).toInt();
 }
 
 void Roster::remove(const QString &id)
@@ -185,7 +160,7 @@ void Roster::remove(const QString &id)
     const int index = indexOf(id);
     if (index < 0)
         return;
-    remember(id, removedKey(), true);
+    remember(id, kRemovedKey, true);
     m_contacts.remove(index);
     Q_EMIT removedContact(id);
 }
@@ -205,7 +180,7 @@ void Roster::restore(const QString &id)
     for (Contact contact : removed()) {
         if (contact.id != id)
             continue;
-        remember(id, removedKey(), false);
+        remember(id, kRemovedKey, false);
         applyMemory(&contact);
         m_contacts.append(contact);
         Q_EMIT added(contact);
@@ -215,18 +190,18 @@ void Roster::restore(const QString &id)
 
 // Memory
 
-QJsonValue Roster::remembered(const QString &id, const QString &key) const
+QJsonValue Roster::remembered(const QString &id, QLatin1String key) const
 {
-    return m_state->value(stateKey()).toObject().value(id).toObject().value(key);
+    return m_state->value(kStateKey).toObject().value(id).toObject().value(key);
 }
 
-void Roster::remember(const QString &id, const QString &key, const QJsonValue &value)
+void Roster::remember(const QString &id, QLatin1String key, const QJsonValue &value)
 {
-    QJsonObject contacts = m_state->value(stateKey()).toObject();
+    QJsonObject contacts = m_state->value(kStateKey).toObject();
     QJsonObject contact = contacts.value(id).toObject();
     contact.insert(key, value);
     contacts.insert(id, contact);
-    m_state->setValue(stateKey(), contacts);
+    m_state->setValue(kStateKey, contacts);
 }
 
 } // namespace messenger

@@ -49,8 +49,8 @@ Q_SIGNALS:
 
 private:
     int indexOf(const QString &id) const;
-    void remember(const QString &id, const QString &key, const QJsonValue &value);
-    QJsonValue remembered(const QString &id, const QString &key) const;
+    void remember(const QString &id, QLatin1String key, const QJsonValue &value);
+    QJsonValue remembered(const QString &id, QLatin1String key) const;
     void applyMemory(Contact *contact) const;
     void addKnownPeers();
     template <typename Value>

@@ -47,8 +47,7 @@ ScriptedContact::~ScriptedContact() = default;
 void ScriptedContact::greet(const QString &userName)
 {
     write(tr("Hello %1, and welcome! I am the guide of this messenger: a script, but a friendly "
-             "one. "
-             "Write \"help\" and I tell you what we can try together.")
+             "one. Write \"help\" and I will tell you what we can try together.")
                   .arg(userName));
 }
 
@@ -62,8 +61,7 @@ void ScriptedContact::answer(const QString &text)
 {
     if (mentions(text, {"help", "hilfe"})) {
         write(tr("Write one of these words: nudge, picture, link, html, spelling, away, copy. Or "
-                 "send me "
-                 "a picture or a nudge, with the buttons above."));
+                 "send me a picture or a nudge with the buttons above."));
     } else if (mentions(text, {"nudge", "stups", "shake"})) {
         write(tr("Hold on to your window!"));
         add(Deed::Nudge, QString(), kThinkMs);
@@ -78,17 +76,15 @@ void ScriptedContact::answer(const QString &text)
         add(Deed::Html,
             hostileHtml().arg(tr("Bold"), tr("your files"), tr("no link"), tr("a link")), kThinkMs);
         write(tr("The bold word and the honest link are shown. The script, the file and the bad "
-                 "link never "
-                 "reach the window."));
+                 "link never reach the window."));
     } else if (mentions(text, {"spell", "schreib"})) {
-        write(tr("Write a word that is wrong and a blank behind it: it gets underlined. Its "
-                 "context menu "
-                 "knows better ones."));
+        write(tr("Misspell a word and type a space after it: it is underlined. Its context menu "
+                 "suggests better ones."));
     } else if (mentions(text, {"away", "pause", "bye", "weg"})) {
-        write(tr("I fetch a coffee. Look at my card!"));
+        write(tr("I am getting a coffee. Look at my card!"));
         add(Deed::Leave, QString(), kThinkMs);
         add(Deed::Return, QString(), kAwayMs);
-        write(tr("Back again."));
+        write(tr("I am back."));
     } else if (mentions(text, {"copy", "second", "kopie", "zweite"})) {
         write(tr("Start me a second time. The copies find each other, and you can write to "
                  "yourself."));
@@ -99,15 +95,15 @@ void ScriptedContact::answer(const QString &text)
     } else {
         const QString replies[] = {
                 tr("Tell me more."), tr("I see. And what happened then?"),
-                tr("That is more than a script can judge. Write \"help\" and I show you "
-                   "what I am good at.")};
+                tr("That is more than a script can judge. Write \"help\" and I will show you what "
+                   "I am good at.")};
         write(replies[m_topic++ % 3]);
     }
 }
 
 void ScriptedContact::seePicture()
 {
-    write(tr("What a beautiful picture, thank you! I keep it."));
+    write(tr("What a beautiful picture, thank you! I will keep it."));
 }
 
 void ScriptedContact::feelNudge()

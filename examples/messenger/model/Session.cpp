@@ -9,6 +9,8 @@
 
 #include <QtCore/QDir>
 
+#include <algorithm>
+
 namespace messenger {
 
 namespace {
@@ -19,9 +21,15 @@ constexpr int kPortraitExtent = 320;
 constexpr int kLargestPortrait = 400 << 10;
 constexpr int kNudgePauseMs = 4000;
 
-QString accountKey()
+constexpr QLatin1String kAccountKey("account");
+constexpr QLatin1String kDraftsKey("drafts");
+
+/// How much of \a text from \a start on goes into one message: never half a character.
+int messageLength(const QString &text, int start)
 {
-    return QStringLiteral("account");
+    const int length = std::min(kLongestText, static_cast<int>(text.size()) - start);
+    const bool isCut = start + length < text.size();
+    return isCut && text.at(start + length - 1).isHighSurrogate() ? length - 1 : length;
 }
 
 // Who is invisible is offline to everybody.
@@ -36,7 +44,7 @@ Session::Session(const ProfileFolder &folder, const ContactBook &book, QObject *
     : QObject(parent)
     , m_folder(folder)
     , m_state(folder.stateFile())
-    , m_account(Account::fromJson(m_state.value(accountKey()).toObject()))
+    , m_account(Account::fromJson(m_state.value(kAccountKey).toObject()))
     , m_roster(std::make_unique<Roster>(book.contacts(), &m_state))
 {
     for (const Contact &contact : book.contacts()) {
@@ -98,7 +106,7 @@ void Session::introduce()
 void Session::setAccount(const Account &account)
 {
     m_account = account;
-    m_state.setValue(accountKey(), account.toJson());
+    m_state.setValue(kAccountKey, account.toJson());
     introduce();
     Q_EMIT accountChanged();
 }
@@ -108,14 +116,18 @@ QImage Session::ownPicture() const
     return m_account.picture.isEmpty() ? QImage() : readPicture(pictureFile(m_account.picture));
 }
 
-void Session::setOwnPicture(const QImage &picture)
+bool Session::setOwnPicture(const QImage &picture)
 {
     const QByteArray data = pictureToData(portraitFrom(picture, kPortraitExtent), kLargestPortrait);
+    const QString name = keepPicture(m_folder.pictureFolder(), data);
+    if (name.isEmpty() && !picture.isNull())
+        return false;
     Account account = m_account;
-    account.picture = keepPicture(m_folder.pictureFolder(), data);
+    account.picture = name;
     setAccount(account);
     if (m_network)
         m_network->setPortrait(data);
+    return true;
 }
 
 QString Session::pictureFile(const QString &name) const
@@ -140,8 +152,11 @@ void Session::add(const QString &contactId, Message::From from, Message::Kind ki
     if (!isContactId(contactId))
         return;
     const Message message = {QDateTime::currentDateTime(), from, kind, text};
-    History(m_folder.historyFile(contactId)).append(message);
+    const bool isStored = History(m_folder.historyFile(contactId)).append(message);
     Q_EMIT messageAdded(contactId, message);
+    if (!isStored)
+        Q_EMIT messageAdded(contactId, {message.time, Message::From::Messenger, Message::Kind::Text,
+                                        tr("This could not be stored. Is the disk full?")});
 }
 
 void Session::remark(const QString &contactId, const QString &text)
@@ -163,11 +178,19 @@ void Session::sendText(const QString &contactId, const QString &text)
 {
     if (text.trimmed().isEmpty())
         return;
-    const QString sent = text.left(kLongestText);
-    add(contactId, Message::From::Me, Message::Kind::Text, sent);
+    for (int start = 0; start < text.size();) {
+        const int length = messageLength(text, start);
+        sendMessage(contactId, text.mid(start, length));
+        start += length;
+    }
+}
+
+void Session::sendMessage(const QString &contactId, const QString &text)
+{
+    add(contactId, Message::From::Me, Message::Kind::Text, text);
     if (isAnsweredByScript(contactId))
-        m_script->hear(sent);
-    else if (!m_network || !m_network->sendText(peerIdOfContact(contactId), sent))
+        m_script->hear(text);
+    else if (!m_network || !m_network->sendText(peerIdOfContact(contactId), text))
         explainSilence(contactId);
 }
 
@@ -201,15 +224,29 @@ void Session::setTyping(const QString &contactId, bool isTyping)
         m_network->sendTyping(peerIdOfContact(contactId), isTyping);
 }
 
+QString Session::draft(const QString &contactId) const
+{
+    return m_state.value(kDraftsKey).toObject().value(contactId).toString();
+}
+
+void Session::setDraft(const QString &contactId, const QString &text)
+{
+    QJsonObject drafts = m_state.value(kDraftsKey).toObject();
+    if (text.isEmpty())
+        drafts.remove(contactId);
+    else
+        drafts.insert(contactId, text);
+    m_state.setValue(kDraftsKey, drafts);
+}
+
 // A message that nobody gets must not look as if somebody had it.
 void Session::explainSilence(const QString &contactId)
 {
     const Contact contact = m_roster->contact(contactId);
-    const QVector<Message> last = messages(contactId, 2);
     if (contact.isPeer) {
         remark(contactId,
                tr("%1 is not connected. This has not been delivered.").arg(contact.alias));
-    } else if (last.size() < 2) {
+    } else if (messages(contactId, 2).size() < 2) {
         // Said once, at the beginning.
         remark(contactId,
                tr("%1 is an example of the contact book and cannot answer. The guide can, and so "
@@ -220,8 +257,13 @@ void Session::explainSilence(const QString &contactId)
 
 void Session::receive(const QString &contactId, Message::Kind kind, const QString &text)
 {
-    if (text.isEmpty() || m_roster->contact(contactId).isBlocked || !m_roster->contains(contactId))
+    const Contact contact = m_roster->contact(contactId);
+    if (contact.isBlocked || contact.id.isEmpty())
         return;
+    if (text.isEmpty()) {
+        remark(contactId, tr("%1 has sent a picture that cannot be stored.").arg(contact.alias));
+        return;
+    }
     Q_EMIT typingChanged(contactId, false);
     m_roster->setUnread(contactId, m_roster->unread(contactId) + 1);
     add(contactId, Message::From::Contact, kind, text);
@@ -256,7 +298,8 @@ void Session::onPeerPresence(const QString &peerId, const PeerMessage &peer)
     contact.status = peer.status;
     contact.statusText = peer.remark;
     m_roster->putPeer(contact);
-    if (hasCome)
+    const Contact known = m_roster->contact(contact.id);
+    if (hasCome && !known.id.isEmpty() && !known.isBlocked)
         Q_EMIT peerCame(contact.id);
 }
 
@@ -266,9 +309,23 @@ void Session::onPeerLeft(const QString &peerId)
     m_roster->setStatus(contactIdOfPeer(peerId), Om::Offline);
 }
 
+// Who was deleted and has something to say is a contact again: whoever wrote it was told that it
+// has arrived.
+void Session::welcomeBack(const QString &peerId)
+{
+    const PeerMessage peer = m_network->peer(peerId);
+    if (!peer.id.isEmpty() && !m_roster->contains(contactIdOfPeer(peerId)))
+        onPeerPresence(peerId, peer);
+}
+
 void Session::onPeerMessage(const QString &peerId, const PeerMessage &message)
 {
     const QString contactId = contactIdOfPeer(peerId);
+    const bool isForReading = message.type == PeerMessage::Type::Text
+                              || message.type == PeerMessage::Type::Picture
+                              || message.type == PeerMessage::Type::Nudge;
+    if (isForReading)
+        welcomeBack(peerId);
     switch (message.type) {
     case PeerMessage::Type::Text:
         receive(contactId, Message::Kind::Text, message.text);
@@ -302,6 +359,8 @@ void Session::onPeerPortrait(const QString &contactId, const QByteArray &data)
     const QImage portrait = portraitFrom(pictureFromData(data), kPortraitExtent);
     const QString name =
             keepPicture(m_folder.pictureFolder(), pictureToData(portrait, kLargestPortrait));
+    if (name.isEmpty() && !portrait.isNull())
+        return; // better the old one than none
     Contact contact = m_roster->contact(contactId);
     contact.picture = pictureFile(name);
     m_roster->putPeer(contact);

@@ -21,7 +21,8 @@ class ScriptedContact;
 struct PeerMessage;
 
 /// The messenger without its windows: who the user is, the contacts, and what is said to and by
-/// them. Everything is stored before it is reported.
+/// them. Everything is stored before it is reported; what cannot be, on a full disk for example, is
+/// reported all the same, with a remark that says so.
 class Session : public QObject
 {
     Q_OBJECT
@@ -41,18 +42,23 @@ public:
     void setAccount(const Account &account);
     /// Null if the user has none.
     QImage ownPicture() const;
-    void setOwnPicture(const QImage &picture);
+    /// Null for none. False if \a picture cannot be stored; the picture then stays as it was.
+    bool setOwnPicture(const QImage &picture);
 
     /// The file of the picture \a name that a message or an account names.
     QString pictureFile(const QString &name) const;
     QVector<Message> messages(const QString &contactId, int count) const;
+    /// What the user has begun to write to a contact and not sent yet.
+    QString draft(const QString &contactId) const;
 
     /// \name What the user does
     /// \{
+    /// In several messages if it is too long for one.
     void sendText(const QString &contactId, const QString &text);
     void sendPicture(const QString &contactId, const QImage &picture);
     void sendNudge(const QString &contactId);
     void setTyping(const QString &contactId, bool isTyping);
+    void setDraft(const QString &contactId, const QString &text);
     /// Adds a remark of the messenger itself to a conversation.
     void remark(const QString &contactId, const QString &text);
     void markRead(const QString &contactId);
@@ -72,12 +78,14 @@ private:
     void connectScript();
     void connectPeers();
     void introduce();
+    void sendMessage(const QString &contactId, const QString &text);
     void add(const QString &contactId, Message::From from, Message::Kind kind, const QString &text);
     void receive(const QString &contactId, Message::Kind kind, const QString &text);
     void receiveNudge(const QString &contactId);
     void explainSilence(const QString &contactId);
     void onPeerPresence(const QString &peerId, const PeerMessage &peer);
     void onPeerLeft(const QString &peerId);
+    void welcomeBack(const QString &peerId);
     void onPeerMessage(const QString &peerId, const PeerMessage &message);
     void onPeerPortrait(const QString &contactId, const QByteArray &data);
     bool isAnsweredByScript(const QString &contactId) const;

@@ -10,6 +10,7 @@ namespace messenger {
 namespace {
 
 constexpr qint64 kLargestFile = 16 << 20;
+constexpr int kMostKept = 10;
 
 } // namespace
 
@@ -21,18 +22,26 @@ StateFile::StateFile(const QString &fileName)
 
 void StateFile::read()
 {
+    if (!QFileInfo::exists(m_fileName))
+        return;
     QFile file(m_fileName);
-    if (!QFileInfo(m_fileName).isFile() || !file.open(QIODevice::ReadOnly))
-        return;
+    const bool isOpen = QFileInfo(m_fileName).isFile() && file.open(QIODevice::ReadOnly);
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(file.read(kLargestFile), &error);
+    const QJsonDocument document =
+            QJsonDocument::fromJson(isOpen ? file.read(kLargestFile) : QByteArray(), &error);
     file.close();
-    if (error.error == QJsonParseError::NoError && document.isObject()) {
+    if (error.error == QJsonParseError::NoError && document.isObject())
         m_values = document.object();
-        return;
-    }
-    const QString kept = m_fileName + QStringLiteral(".damaged");
-    QFile::remove(kept);
+    else
+        keepAside();
+}
+
+// An older one is not written over: it may be what the user is looking for.
+void StateFile::keepAside() const
+{
+    QString kept = m_fileName + QStringLiteral(".damaged");
+    for (int number = 2; QFileInfo::exists(kept) && number < kMostKept; ++number)
+        kept = m_fileName + QStringLiteral(".damaged-%1").arg(number);
     QFile::rename(m_fileName, kept);
 }
 
@@ -43,19 +52,19 @@ QJsonValue StateFile::value(const QString &key) const
 
 void StateFile::setValue(const QString &key, const QJsonValue &value)
 {
-    if (m_values.value(key) == value)
+    if (m_isWritten && m_values.value(key) == value)
         return;
     m_values.insert(key, value);
-    write();
+    m_isWritten = write();
 }
 
-void StateFile::write() const
+bool StateFile::write() const
 {
     QSaveFile file(m_fileName);
     if (!file.open(QIODevice::WriteOnly))
-        return;
+        return false;
     file.write(QJsonDocument(m_values).toJson());
-    file.commit();
+    return file.commit();
 }
 
 } // namespace messenger

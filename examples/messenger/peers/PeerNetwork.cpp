@@ -61,6 +61,12 @@ bool PeerNetwork::isConnected(const QString &peerId) const
     return m_peers.contains(peerId);
 }
 
+PeerMessage PeerNetwork::peer(const QString &peerId) const
+{
+    const PeerLink *link = m_peers.value(peerId);
+    return link ? link->peer() : PeerMessage();
+}
+
 // Connections
 
 void PeerNetwork::meet(const QStringList &names)

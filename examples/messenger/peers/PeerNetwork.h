@@ -29,6 +29,8 @@ public:
     void setPortrait(const QByteArray &data);
 
     bool isConnected(const QString &peerId) const;
+    /// What the peer last said of itself; without an id if it is not connected.
+    PeerMessage peer(const QString &peerId) const;
     int size() const { return static_cast<int>(m_peers.size()); }
 
     /// \name To a peer

@@ -12,15 +12,13 @@
 /// Each message is a line: a JSON object without line breaks in UTF-8, at most kLongestLine bytes
 /// long, that ends in a line feed. Both sides begin with "hello" and then say what they like:
 ///
-/// | "type"     | Further values                                  | Meaning                      |
-/// |------------|-------------------------------------------------|------------------------------|
-/// | "hello"    | "version": 1, "id", "name", "status", "remark"  | who is speaking              |
-/// | "presence" | "name", "status", "remark"                      | the sender has changed these |
-/// | "portrait" | "data": a picture file in Base64, may be empty  | the sender's picture         |
-/// | "typing"   | "on"                                            | the sender is writing, or no
-/// longer | | "text"     | "text"                                          | plain text | |
-/// "picture"  | "data"                                          | a picture for the receiver   | |
-/// "nudge"    |                                                 | look here!                   |
+/// - "hello" says who is speaking: "version" (1), "id", "name", "status", "remark";
+/// - "presence" says what of this has changed: "name", "status", "remark";
+/// - "portrait" has the sender's picture in "data": a picture file in Base64, empty for none;
+/// - "typing" says in "on" whether the sender is writing;
+/// - "text" has plain "text";
+/// - "picture" has a picture for the receiver in "data";
+/// - "nudge" means: look here!
 ///
 /// "id" is a contact id of at most kLongestPeerId characters, "status" a word of wordForStatus().
 /// Types and values that a copy does not know it ignores, so that later versions may add some. To

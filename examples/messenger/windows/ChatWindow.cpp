@@ -4,33 +4,31 @@
 #include "model/PictureFiles.h"
 #include "model/Session.h"
 #include "windows/ChatHistory.h"
+#include "windows/ClosingKeys.h"
+#include "windows/MessageInput.h"
 #include "windows/Pictures.h"
 
 #include <ombrin/OmDesktop.h>
-#include <ombrin/OmDir.h>
 #include <ombrin/OmInfoPopup.h>
 #include <ombrin/OmLabel.h>
 #include <ombrin/OmMessageBox.h>
 #include <ombrin/OmScreenShooter.h>
 #include <ombrin/OmShakeWidget.h>
-#include <ombrin/OmTextEdit.h>
 
 #include <QAction>
 #include <QtCore/QLocale>
-#include <QtCore/QMimeData>
+#include <QtCore/QSignalBlocker>
 #include <QtGui/QDragEnterEvent>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 
 namespace messenger {
 
 namespace {
 
-using ombrin::OmTextEdit;
-
 constexpr int kShownMessages = 500;
 constexpr int kTypingShownMs = 8000;
 constexpr int kOwnTypingMs = 3000;
+constexpr int kDraftMs = 500;
 constexpr unsigned int kScreenshotDelayMs = 3000;
 
 /// The user's language, else English, else what there is.
@@ -49,7 +47,7 @@ ChatWindow::ChatWindow(Session *session, const QString &contactId, const Prefere
     : m_session(session)
     , m_contactId(contactId)
     , m_history(new ChatHistory(session, contactId))
-    , m_input(new OmTextEdit)
+    , m_input(new MessageInput)
     , m_shaker(new ombrin::OmShakeWidget(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -61,6 +59,8 @@ ChatWindow::ChatWindow(Session *session, const QString &contactId, const Prefere
     connect(&m_typingShown, &QTimer::timeout, this, [this] { showTyping(false); });
     m_ownTyping.setSingleShot(true);
     connect(&m_ownTyping, &QTimer::timeout, this, &ChatWindow::stopTyping);
+    m_draftChanged.setSingleShot(true);
+    connect(&m_draftChanged, &QTimer::timeout, this, &ChatWindow::keepDraft);
 
     connect(m_history, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) {
         Q_EMIT actionId(QStringLiteral("open:") + link.toString(), m_contactId);
@@ -83,11 +83,17 @@ ChatWindow::ChatWindow(Session *session, const QString &contactId, const Prefere
     refreshContact(session->roster().contact(contactId));
     for (const Message &message : session->messages(contactId, kShownMessages))
         m_history->add(message);
+    showDraft();
     noteRead();
     m_input->setFocus();
+    addClosingKeys(this);
 }
 
-ChatWindow::~ChatWindow() = default;
+ChatWindow::~ChatWindow()
+{
+    if (m_draftChanged.isActive())
+        keepDraft();
+}
 
 void ChatWindow::setPreferences(const Preferences &preferences)
 {
@@ -109,7 +115,7 @@ void ChatWindow::refreshContact(const Contact &contact)
                     ? presence
                     : tr("%1: %2", "presence and remark").arg(presence, contact.statusText));
     m_presence->setPixmap(presenceIcon(contact.status).pixmap(12));
-    m_input->setEnabled(!contact.isBlocked);
+    m_input->parentWidget()->setEnabled(!contact.isBlocked);
     for (QAction *action : std::as_const(m_actions))
         action->setEnabled(!contact.isBlocked || action->data().toBool());
     m_history->refreshFaces();
@@ -166,8 +172,9 @@ void ChatWindow::sendText()
     if (text.trimmed().isEmpty())
         return;
     stopTyping();
-    m_input->clear();
     m_session->sendText(m_contactId, text);
+    m_input->clear();
+    keepDraft();
 }
 
 void ChatWindow::nudge()
@@ -176,8 +183,24 @@ void ChatWindow::nudge()
     m_session->sendNudge(m_contactId);
 }
 
+// What was not sent yet is there again when the window is, also after a kill.
+void ChatWindow::showDraft()
+{
+    const QSignalBlocker silence(m_input); // nobody is typing
+    m_input->setPlainText(m_session->draft(m_contactId));
+    m_input->moveCursor(QTextCursor::End);
+}
+
+void ChatWindow::keepDraft()
+{
+    m_draftChanged.stop();
+    m_session->setDraft(m_contactId, m_input->toPlainText());
+}
+
 void ChatWindow::noteTyping()
 {
+    if (!m_draftChanged.isActive())
+        m_draftChanged.start(kDraftMs);
     if (!m_preferences.sendsTyping || m_input->document()->isEmpty())
         return;
     if (!m_ownTyping.isActive())
@@ -195,38 +218,46 @@ void ChatWindow::stopTyping()
 void ChatWindow::choosePicture()
 {
     const QPointer<ChatWindow> guard(this);
-    const QString fileName = QFileDialog::getOpenFileName(
-            this, tr("Send a Picture"), ombrin::OmDir::myPicturesPath(),
-            tr("Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)"));
+    const QString fileName = choosePictureFile(this, tr("Send a Picture"));
     if (guard && !fileName.isEmpty())
-        sendFile(fileName);
+        sendPictures({readPicture(fileName)});
 }
 
-void ChatWindow::sendFile(const QString &fileName)
+void ChatWindow::sendPictures(const QVector<QImage> &pictures)
 {
-    const QImage picture = readPicture(fileName);
-    if (!picture.isNull()) {
-        m_session->sendPicture(m_contactId, picture);
+    if (isBlocked())
         return;
+    bool isMissing = false;
+    for (const QImage &picture : pictures) {
+        if (picture.isNull())
+            isMissing = true;
+        else
+            m_session->sendPicture(m_contactId, picture);
     }
-    ombrin::OmMessageBox::information(
-            this, tr("Send a Picture"),
-            tr("This is no picture, or it is too large.\nOnly pictures can be sent."));
+    if (isMissing)
+        ombrin::OmMessageBox::information(
+                this, tr("Send a Picture"),
+                tr("This is not a picture, or it is too large.\nOnly pictures can be sent."));
+}
+
+bool ChatWindow::isBlocked() const
+{
+    return m_session->roster().contact(m_contactId).isBlocked;
 }
 
 void ChatWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (event->mimeData()->hasUrls() || event->mimeData()->hasImage())
+    if (holdsPictures(event->mimeData()) && !isBlocked())
         event->acceptProposedAction();
 }
 
 void ChatWindow::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
-    if (event->mimeData()->hasUrls())
-        sendFile(event->mimeData()->urls().constFirst().toLocalFile());
-    else if (event->mimeData()->hasImage())
-        m_session->sendPicture(m_contactId, qvariant_cast<QImage>(event->mimeData()->imageData()));
+    // Once the drag has ended: a dialog may follow.
+    const QVector<QImage> pictures = picturesIn(event->mimeData());
+    QMetaObject::invokeMethod(
+            this, [this, pictures] { sendPictures(pictures); }, Qt::QueuedConnection);
 }
 
 void ChatWindow::takeScreenshot()
@@ -237,12 +268,12 @@ void ChatWindow::takeScreenshot()
 
 void ChatWindow::sendScreenshot(const QPixmap &picture)
 {
-    m_session->sendPicture(m_contactId, picture.toImage());
+    sendPictures({picture.toImage()});
 }
 
 void ChatWindow::reportNoScreenshot()
 {
-    m_session->remark(m_contactId, tr("No picture of the screen was taken."));
+    m_session->remark(m_contactId, tr("No screenshot was taken."));
 }
 
 } // namespace messenger

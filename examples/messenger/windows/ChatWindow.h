@@ -7,6 +7,8 @@
 #include <ombrin/OmWindow.h>
 
 #include <QtCore/QTimer>
+#include <QtCore/QVector>
+#include <QtGui/QImage>
 
 class QAction;
 class QLabel;
@@ -15,12 +17,12 @@ namespace ombrin {
 class OmInfoPopup;
 class OmLabel;
 class OmShakeWidget;
-class OmTextEdit;
 } // namespace ombrin
 
 namespace messenger {
 
 class ChatHistory;
+class MessageInput;
 class Session;
 
 /// The conversation with one contact: who it is, what can be done, what was said, and what is being
@@ -36,7 +38,7 @@ public:
 
     const QString &contactId() const { return m_contactId; }
     void setPreferences(const Preferences &preferences);
-    ombrin::OmTextEdit *input() const { return m_input; }
+    MessageInput *input() const { return m_input; }
     /// Asks for a picture and sends it.
     void choosePicture();
     /// Shows that the contact is writing, for some seconds at most.
@@ -67,10 +69,13 @@ private:
     void showMessage(const QString &contactId, const Message &message);
     void noteRead();
     void sendText();
-    void sendFile(const QString &fileName);
+    void sendPictures(const QVector<QImage> &pictures);
+    bool isBlocked() const;
     void takeScreenshot();
     void nudge();
     void shake();
+    void showDraft();
+    void keepDraft();
     void noteTyping();
     void stopTyping();
 
@@ -78,7 +83,7 @@ private:
     QString m_contactId;
     Preferences m_preferences;
     ChatHistory *m_history;
-    ombrin::OmTextEdit *m_input;
+    MessageInput *m_input;
     ombrin::OmShakeWidget *m_shaker;
     ombrin::OmInfoPopup *m_info = nullptr;
     ombrin::OmLabel *m_name = nullptr;
@@ -89,6 +94,7 @@ private:
     QList<QAction *> m_actions;
     QTimer m_typingShown;
     QTimer m_ownTyping;
+    QTimer m_draftChanged;
 };
 
 } // namespace messenger

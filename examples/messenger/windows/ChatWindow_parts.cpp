@@ -7,13 +7,14 @@
 #include "model/Session.h"
 #include "peers/PeerProtocol.h"
 #include "windows/ChatHistory.h"
+#include "windows/MessageInput.h"
 #include "windows/Pictures.h"
+#include "windows/PlainText.h"
 
 #include <ombrin/OmIconComboBox.h>
 #include <ombrin/OmInfoPopup.h>
 #include <ombrin/OmLabel.h>
 #include <ombrin/OmPushButton.h>
-#include <ombrin/OmTextEdit.h>
 #include <ombrin/OmToolBar.h>
 #include <ombrin/OmToolButton.h>
 
@@ -27,19 +28,11 @@ namespace messenger {
 
 namespace {
 
-using ombrin::OmLabel;
 using ombrin::OmToolButton;
 
 constexpr int kMargin = 8;
 constexpr int kGap = 6;
 constexpr int kInputHeight = 64;
-
-OmLabel *plainLabel()
-{
-    auto *label = new OmLabel(true, nullptr); // shortens what does not fit
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 } // namespace
 
@@ -75,10 +68,7 @@ QWidget *ChatWindow::createConversation()
 QWidget *ChatWindow::createHead()
 {
     m_face = new QLabel;
-    m_name = plainLabel();
-    QFont bold = m_name->font();
-    bold.setBold(true);
-    m_name->setFont(bold);
+    m_name = plainBoldLabel();
     m_remark = plainLabel();
     m_presence = new QLabel;
     m_info = new ombrin::OmInfoPopup;
@@ -94,7 +84,8 @@ QWidget *ChatWindow::createHead()
     grid->setVerticalSpacing(2);
     grid->addWidget(m_face, 0, 0, 2, 1);
     grid->addWidget(m_name, 0, 1, 1, 2, Qt::AlignBottom);
-    grid->addWidget(m_presence, 1, 1);
+    m_presence->setFixedHeight(m_remark->fontMetrics().height()); // in the middle of its line
+    grid->addWidget(m_presence, 1, 1, Qt::AlignTop);
     grid->addWidget(m_remark, 1, 2, Qt::AlignTop);
     grid->addWidget(m_info, 0, 3, 2, 1);
     grid->setColumnStretch(2, 1);
@@ -117,11 +108,11 @@ QWidget *ChatWindow::createToolBar()
     QAction *call = addAction(QStringLiteral("phone-16"), tr("Call"), tr("Call this contact"));
     connect(call, &QAction::triggered, this, perform("voip"));
     QAction *picture = addAction(QStringLiteral("filetransfer-16"), tr("Picture"),
-                                 tr("Send a picture; or drop one here"));
+                                 tr("Send a picture, or paste or drop one here"));
     connect(picture, &QAction::triggered, this, &ChatWindow::choosePicture);
     QAction *screenshot =
             addAction(QStringLiteral("zoom+-24"), tr("Screenshot"),
-                      tr("Cut out a part of the screen, in three seconds, and send it"));
+                      tr("Cut out a part of the screen in three seconds and send it"));
     connect(screenshot, &QAction::triggered, this, &ChatWindow::takeScreenshot);
     QAction *nudging = addAction(QStringLiteral("is_talking-16"), tr("Nudge"),
                                  tr("Shake the window of this contact"));
@@ -150,9 +141,11 @@ QWidget *ChatWindow::createInputRow()
 {
     m_input->setMinimumHeight(kInputHeight);
     m_input->setMaxLength(kLongestText);
+    m_input->setTabChangesFocus(true); // messages need no tabs, and there is a way on by key
     m_input->setAccessibleName(tr("Your message"));
     connect(m_input, &ombrin::OmTextEdit::enterPressed, this, &ChatWindow::sendText);
     connect(m_input, &QTextEdit::textChanged, this, &ChatWindow::noteTyping);
+    connect(m_input, &MessageInput::picturesGiven, this, &ChatWindow::sendPictures);
     auto *send = new ombrin::OmPushButton;
     send->setText(tr("&Send"));
     send->setToolTip(tr("Sends your message, as Return does"));

@@ -8,6 +8,7 @@
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmFaderWidget.h>
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QMovie>
 
 #include <algorithm>
@@ -82,27 +83,37 @@ QVector<Contact> ContactList::sortedContacts() const
 // The list only ever appends: cards change places by leaving it and coming back.
 void ContactList::sortCards()
 {
+    OmContactCard *chosen = chosenCard();
     setUpdatesEnabled(false); // nobody needs to see them on their way
     for (const Contact &contact : sortedContacts()) {
         OmContactCard *card = cardOf(contact.id);
-        const bool wasBig = card->isBig();
         card->setParent(nullptr);
-        addCard(card);
-        card->setBig(wasBig);
+        append(card);
+        card->setBig(card == chosen);
         card->setHidden(!m_filter.accepts(contact));
     }
+    if (chosen)
+        choose(chosen);
     setUpdatesEnabled(true);
+}
+
+// A card that leaves the list loses its connections to it.
+void ContactList::append(OmContactCard *card)
+{
+    const QString id = card->ombrinId();
+    connect(card, &OmContactCard::avatarClicked, this, [this, id] { openPicture(id); });
+    // Which card is the current one the list wants to be told.
+    connect(card, SIGNAL(clicked()), this, SLOT(slotClickedTimer()));
+    addCard(card);
 }
 
 void ContactList::insertCard(const Contact &contact)
 {
     auto *card = new OmContactCard;
-    const QString id = contact.id;
-    card->setOmbrinId(id);
-    m_cards.insert(id, card);
+    card->setOmbrinId(contact.id);
+    m_cards.insert(contact.id, card);
     refresh(contact);
-    connect(card, &OmContactCard::avatarClicked, this, [this, id] { openPicture(id); });
-    addCard(card);
+    append(card);
     Q_EMIT shownCountChanged();
 }
 
@@ -162,10 +173,65 @@ int ContactList::shownCount() const
                           [](const OmContactCard *card) { return !card->isHidden(); }));
 }
 
+// The chosen card
+
+OmContactCard *ContactList::chosenCard() const
+{
+    const auto isChosen = [](const OmContactCard *card) {
+        return card->isBig() && !card->isHidden();
+    };
+    const auto found = std::find_if(m_cards.cbegin(), m_cards.cend(), isChosen);
+    return found == m_cards.cend() ? nullptr : *found;
+}
+
 QString ContactList::currentContactId() const
 {
-    const OmContactCard *card = currentCard();
+    const OmContactCard *card = chosenCard();
     return card ? card->ombrinId() : QString();
+}
+
+// As a click on it does.
+void ContactList::choose(OmContactCard *card)
+{
+    Q_EMIT card->clicked();
+}
+
+void ContactList::chooseNext(int steps)
+{
+    QVector<OmContactCard *> shown;
+    for (int index = 0; index < size(); ++index) {
+        if (!card(index)->isHidden())
+            shown.append(card(index));
+    }
+    if (shown.isEmpty())
+        return;
+    const int last = static_cast<int>(shown.size()) - 1;
+    const int from = qMax(0, static_cast<int>(shown.indexOf(chosenCard())));
+    choose(shown.at(qBound(0, from + steps, last)));
+}
+
+void ContactList::takeKeys()
+{
+    setFocus(Qt::OtherFocusReason);
+    if (!chosenCard())
+        chooseNext(0);
+}
+
+void ContactList::keyPressEvent(QKeyEvent *event)
+{
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const int key = isPlain ? event->key() : 0;
+    const QString id = currentContactId();
+    if (key == Qt::Key_Up || key == Qt::Key_Down)
+        chooseNext(key == Qt::Key_Up ? -1 : 1);
+    else if (key == Qt::Key_Home || key == Qt::Key_End)
+        chooseNext(key == Qt::Key_Home ? -size() : size());
+    else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !id.isEmpty())
+        Q_EMIT actionId(QStringLiteral("chat"), id);
+    else if (key == Qt::Key_Delete && !id.isEmpty())
+        Q_EMIT actionId(QStringLiteral("delete"), id);
+    else
+        OmContactCardList::keyPressEvent(event);
 }
 
 void ContactList::openPicture(const QString &contactId)

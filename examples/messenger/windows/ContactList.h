@@ -30,16 +30,27 @@ public:
     {
         return m_cards.value(contactId);
     }
-    /// The contact that the user has clicked last; empty if there is none.
+    /// The contact whose card is big, as the one that the user has chosen last is; empty if there
+    /// is none, or if the filter hides it.
     QString currentContactId() const;
+
+    /// Has the keyboard choose a contact from now on: arrows, Home, End, Return for a chat, Delete.
+    void takeKeys();
 
 Q_SIGNALS:
     void shownCountChanged();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void insertCard(const Contact &contact);
     QVector<Contact> sortedContacts() const;
     void sortCards();
+    void append(ombrin::OmContactCard *card);
+    ombrin::OmContactCard *chosenCard() const;
+    static void choose(ombrin::OmContactCard *card);
+    void chooseNext(int steps);
     void refresh(const Contact &contact);
     void removeContact(const QString &contactId);
     static void showPicture(ombrin::OmContactCard *card, const Contact &contact);

@@ -57,6 +57,7 @@ FilterPanel::FilterPanel(const ContactFilter &filter, const QStringList &groups,
         m_filter.words = words;
         Q_EMIT filterChanged(m_filter);
     });
+    connect(m_search, &QLineEdit::returnPressed, this, &FilterPanel::searched);
     createPresences();
     setGroups(groups);
     connect(m_presences, &OmCheckBoxAssortmentView::signalOnItemCheckChanged, this,
@@ -112,6 +113,11 @@ void FilterPanel::setUnfolded(bool unfolded)
 {
     m_presences->setIsRetracted(!unfolded);
     m_groups->setIsRetracted(!unfolded);
+}
+
+void FilterPanel::toggle()
+{
+    setUnfolded(m_presences->isRetracted() || m_groups->isRetracted());
 }
 
 void FilterPanel::focusSearch()

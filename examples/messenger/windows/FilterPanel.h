@@ -27,10 +27,14 @@ public:
     void setGroups(const QStringList &groups);
     /// Folds the boxes out or away.
     void setUnfolded(bool unfolded);
+    /// Folds all boxes out, or away if they are.
+    void toggle();
     void focusSearch();
 
 Q_SIGNALS:
     void filterChanged(const messenger::ContactFilter &filter);
+    /// The user has written the words to search for.
+    void searched();
 
 private:
     ombrin::OmCheckBoxAssortmentView *createBox(const QString &title);

@@ -59,6 +59,7 @@ MainWindow::MainWindow(Session *session)
         m_contacts->setFilter(filter);
         m_session->state().setValue(filterKey(), filter.toJson());
     });
+    connect(m_filters, &FilterPanel::searched, m_contacts, &ContactList::takeKeys);
     connect(m_contacts, &ContactList::actionId, this, &MainWindow::actionId);
     connect(m_contacts, &ContactList::addContact, this, &MainWindow::contactsWanted);
     connect(m_contacts, &ContactList::shownCountChanged, this, &MainWindow::refreshStatus);
@@ -86,16 +87,28 @@ void MainWindow::createMenus()
     QMenu *contact = menuBar()->addMenu(tr("&Contact"));
     addContactAction(contact, tr("&Chat"), QStringLiteral("chat"),
                      QKeySequence(QStringLiteral("Ctrl+Return")));
+    addContactAction(contact, tr("Ca&ll"), QStringLiteral("voip"));
+    addContactAction(contact, tr("Write &e-mail"), QStringLiteral("mail"));
+    addContactAction(contact, tr("Send p&icture..."), QStringLiteral("filetransfer"));
+    addContactAction(contact, tr("&Web folder"), QStringLiteral("webfolder"));
     addContactAction(contact, tr("&Profile"), QStringLiteral("profile"),
                      QKeySequence(QStringLiteral("Ctrl+I")));
     contact->addSeparator();
     addContactAction(contact, tr("&Block"), QStringLiteral("block"));
     addContactAction(contact, tr("&Unblock"), QStringLiteral("unblock"));
     addContactAction(contact, tr("&Delete..."), QStringLiteral("delete"));
+    connect(contact, &QMenu::aboutToShow, this, &MainWindow::refreshContactActions);
+    // Shortcuts have no menu to look at.
+    connect(contact, &QMenu::aboutToHide, this, [this] {
+        for (QAction *action : std::as_const(m_contactActions))
+            action->setEnabled(true);
+    });
     contact->addSeparator();
     contact->addAction(tr("&Add contacts..."), this, &MainWindow::contactsWanted);
     QAction *search = contact->addAction(tr("&Search"), m_filters, &FilterPanel::focusSearch);
     search->setShortcut(QKeySequence::Find);
+    QAction *filters = contact->addAction(tr("&Filters"), m_filters, &FilterPanel::toggle);
+    filters->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+F")));
 
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&About..."), this, &MainWindow::aboutWanted);
@@ -106,11 +119,31 @@ void MainWindow::addContactAction(QMenu *menu, const QString &text, const QStrin
 {
     QAction *action = menu->addAction(text);
     action->setShortcut(key);
+    action->setData(id);
+    m_contactActions.append(action);
     connect(action, &QAction::triggered, this, [this, id] {
         const QString contactId = m_contacts->currentContactId();
         if (!contactId.isEmpty())
             Q_EMIT actionId(id, contactId);
     });
+}
+
+void MainWindow::refreshContactActions()
+{
+    const Contact contact = m_session->roster().contact(m_contacts->currentContactId());
+    for (QAction *action : std::as_const(m_contactActions)) {
+        const QString id = action->data().toString();
+        bool isPossible = !contact.id.isEmpty();
+        if (id == QLatin1String("block") || id == QLatin1String("filetransfer"))
+            isPossible = isPossible && !contact.isBlocked;
+        else if (id == QLatin1String("unblock"))
+            isPossible = isPossible && contact.isBlocked;
+        else if (id == QLatin1String("webfolder"))
+            isPossible = contact.web.isValid();
+        else if (id == QLatin1String("mail"))
+            isPossible = hasMail(contact);
+        action->setEnabled(isPossible);
+    }
 }
 
 void MainWindow::connectRoster()
@@ -138,6 +171,8 @@ void MainWindow::refreshStatus()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (QWidget *edit = focusWidget())
+        edit->clearFocus(); // what was written there counts
     OmWindow::closeEvent(event);
     // Without the contacts there is no way back to what else is open.
     if (event->isAccepted())

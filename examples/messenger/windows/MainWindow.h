@@ -2,6 +2,7 @@
 
 #include <ombrin/OmWindow.h>
 
+class QAction;
 class QLabel;
 class QMenu;
 
@@ -40,6 +41,7 @@ private:
     void createMenus();
     void addContactAction(QMenu *menu, const QString &text, const QString &id,
                           const QKeySequence &key = {});
+    void refreshContactActions();
     void connectRoster();
     void refreshGroups();
     void refreshStatus();
@@ -49,6 +51,7 @@ private:
     FilterPanel *m_filters;
     ContactList *m_contacts;
     QLabel *m_count;
+    QList<QAction *> m_contactActions;
     QStringList m_groups;
 };
 

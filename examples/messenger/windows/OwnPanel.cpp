@@ -5,14 +5,12 @@
 #include "windows/Pictures.h"
 
 #include <ombrin/OmContactCard.h>
-#include <ombrin/OmDir.h>
 #include <ombrin/OmLineEdit.h>
 #include <ombrin/OmMessageBox.h>
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QFileDialog>
 
 #include <array>
 
@@ -76,7 +74,7 @@ void OwnPanel::createRemark()
     m_remark->setAccessibleName(tr("Your remark"));
     m_remark->setStatusTip(tr("What you are up to, for others to read"));
     m_remark->setMinimumSize(60, m_presence->sizeHint().height());
-    m_remark->setNoFocusMessage(tr("What is up?"));
+    m_remark->setNoFocusMessage(tr("What's up?"));
     connect(m_remark, &QLineEdit::editingFinished, this, &OwnPanel::setRemark);
 }
 
@@ -114,9 +112,7 @@ void OwnPanel::setRemark()
 void OwnPanel::choosePicture()
 {
     const QPointer<OwnPanel> guard(this);
-    const QString fileName = QFileDialog::getOpenFileName(
-            window(), tr("Choose Your Picture"), ombrin::OmDir::myPicturesPath(),
-            tr("Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)"));
+    const QString fileName = choosePictureFile(window(), tr("Choose Your Picture"));
     if (guard && !fileName.isEmpty())
         takePicture(fileName);
 }
@@ -125,13 +121,13 @@ void OwnPanel::choosePicture()
 void OwnPanel::takePicture(const QString &fileName)
 {
     const QImage picture = readPicture(fileName);
-    if (!picture.isNull()) {
-        m_session->setOwnPicture(picture);
+    if (!picture.isNull() && m_session->setOwnPicture(picture))
         return;
-    }
-    ombrin::OmMessageBox::information(
-            window(), tr("Your Picture"),
-            tr("This is no picture, or it is too large.\nYour picture stays as it was."));
+    const QString reason = picture.isNull() ? tr("This is not a picture, or it is too large.")
+                                            : tr("The picture cannot be stored.");
+    ombrin::OmMessageBox::information(window(), tr("Your Picture"),
+                                      reason + QLatin1Char('\n')
+                                              + tr("Your picture stays as it was."));
 }
 
 } // namespace messenger

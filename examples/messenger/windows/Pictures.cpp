@@ -138,7 +138,7 @@ QString presenceName(Om::ContactStatus status)
     case Om::Away:
         return translated(QT_TRANSLATE_NOOP("Presence", "Away"));
     case Om::ExtendedAway:
-        return translated(QT_TRANSLATE_NOOP("Presence", "Away for longer"));
+        return translated(QT_TRANSLATE_NOOP("Presence", "Extended away"));
     case Om::Busy:
         return translated(QT_TRANSLATE_NOOP("Presence", "Busy"));
     case Om::DoNotDisturb:

@@ -2,8 +2,13 @@
 
 #include "model/Contact.h"
 
+#include <QtCore/QVector>
 #include <QtGui/QIcon>
+#include <QtGui/QImage>
 #include <QtGui/QPixmap>
+
+class QMimeData;
+class QWidget;
 
 namespace messenger {
 
@@ -25,5 +30,14 @@ QString presenceName(ombrin::Om::ContactStatus status);
 
 /// The picture of the smiley \a text, 18 by 18.
 QPixmap smileyPicture(const QString &text);
+
+/// Lets the user choose the file of a picture; empty if nothing was chosen. \a parent may be
+/// deleted meanwhile.
+QString choosePictureFile(QWidget *parent, const QString &title);
+
+/// Whether \a data, which was pasted or dropped, could be pictures rather than text.
+bool holdsPictures(const QMimeData *data);
+/// The pictures in \a data: null ones for files that are none.
+QVector<QImage> picturesIn(const QMimeData *data);
 
 } // namespace messenger

@@ -1,5 +1,6 @@
 #include "windows/PlainText.h"
 
+#include <ombrin/OmLabel.h>
 #include <ombrin/OmSafeHtml.h>
 
 namespace messenger {
@@ -10,6 +11,24 @@ QString asRichText(const QString &text)
         return QString();
     return QStringLiteral("<qt>") + ombrin::OmSafeHtml::fromPlainText(text)
            + QStringLiteral("</qt>");
+}
+
+ombrin::OmLabel *plainLabel(const QString &text)
+{
+    auto *label = new ombrin::OmLabel(true, nullptr);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    return label;
+}
+
+ombrin::OmLabel *plainBoldLabel(const QString &text)
+{
+    ombrin::OmLabel *label = plainLabel();
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setText(text);
+    return label;
 }
 
 } // namespace messenger

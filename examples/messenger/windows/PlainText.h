@@ -2,11 +2,21 @@
 
 #include <QtCore/QString>
 
+namespace ombrin {
+class OmLabel;
+}
+
 namespace messenger {
 
+/// \file
+/// What other people write must never turn into formatting.
+
 /// What shows \a text as it is, with its line breaks, where rich text is recognised: in tool tips
-/// and message boxes. What other people write must never turn into formatting there. Empty for an
-/// empty text.
+/// and message boxes. Empty for an empty text.
 QString asRichText(const QString &text);
+
+/// A label that shows its text as it is, shortened where it does not fit.
+ombrin::OmLabel *plainLabel(const QString &text = QString());
+ombrin::OmLabel *plainBoldLabel(const QString &text = QString());
 
 } // namespace messenger

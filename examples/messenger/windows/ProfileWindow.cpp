@@ -1,7 +1,9 @@
 #include "windows/ProfileWindow.h"
 
 #include "model/Session.h"
+#include "windows/ClosingKeys.h"
 #include "windows/Pictures.h"
+#include "windows/PlainText.h"
 
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmLabel.h>
@@ -19,7 +21,6 @@ namespace messenger {
 namespace {
 
 using ombrin::OmAvatarSmall;
-using ombrin::OmLabel;
 
 constexpr int kMargin = 12;
 constexpr int kFaceExtent = 78;
@@ -32,18 +33,6 @@ constexpr int kActionPole = 12;
 enum Column { LabelColumn, ValueColumn, ActionColumn };
 
 const QColor kLabelColor(0x5f, 0x66, 0x6e);
-
-OmLabel *plainLabel()
-{
-    auto *label = new OmLabel(true, nullptr);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-QString openAction(const QString &link)
-{
-    return QStringLiteral("open:") + link;
-}
 
 } // namespace
 
@@ -72,6 +61,7 @@ ProfileWindow::ProfileWindow(Session *session, const QString &contactId)
             refresh(contact);
     });
     refresh(session->roster().contact(contactId));
+    addClosingKeys(this);
 }
 
 ProfileWindow::~ProfileWindow() = default;
@@ -82,9 +72,8 @@ QWidget *ProfileWindow::createHead()
     m_face->setFixedSize(kFaceExtent, kFaceExtent);
     // The thumbnail shows its large picture in slots of its own.
     connect(m_face, SIGNAL(clicked()), m_face, SLOT(slotAvatarTimer()));
-    m_name = plainLabel();
+    m_name = plainBoldLabel();
     QFont font = m_name->font();
-    font.setBold(true);
     font.setPixelSize(20);
     m_name->setFont(font);
     m_remark = plainLabel();
@@ -136,7 +125,8 @@ void ProfileWindow::fillView(const Contact &contact)
     if (!contact.city.isEmpty())
         addText(row++, tr("City"), contact.city);
     if (contact.birthday.isValid()) {
-        const QString day = QLocale().toString(contact.birthday, QStringLiteral("d MMMM yyyy"));
+        const QString day = QLocale().toString(
+                contact.birthday, tr("d MMMM yyyy", "as QLocale::toString() takes it"));
         addText(row++, tr("Birthday"),
                 tr("%1 (%2 years)")
                         .arg(day)
@@ -144,9 +134,8 @@ void ProfileWindow::fillView(const Contact &contact)
     }
     if (!contact.phone.isEmpty())
         addLink(row++, tr("Phone"), contact.phone, QStringLiteral("voip"), tr("Call"));
-    if (ombrin::vhutilities::IsPossibleEMailAddress(contact.email, false))
-        addLink(row++, tr("E-mail"), contact.email,
-                openAction(QStringLiteral("mailto:") + contact.email), tr("Write"));
+    if (hasMail(contact))
+        addLink(row++, tr("E-mail"), contact.email, QStringLiteral("mail"), tr("Write"));
     if (contact.web.isValid())
         addLink(row++, tr("Web folder"), contact.web.toDisplayString(), QStringLiteral("webfolder"),
                 tr("Open"));

@@ -1,5 +1,7 @@
 #include "windows/Toast.h"
 
+#include "windows/PlainText.h"
+
 #include <ombrin/OmFaderWidget.h>
 #include <ombrin/OmLabel.h>
 
@@ -18,17 +20,6 @@ constexpr int kMargin = 10;
 constexpr int kDistance = 12;
 constexpr int kShownMs = 6000;
 
-ombrin::OmLabel *plainLabel(const QString &text, bool isBold)
-{
-    auto *label = new ombrin::OmLabel(true, nullptr);
-    label->setTextFormat(Qt::PlainText);
-    QFont font = label->font();
-    font.setBold(isBold);
-    label->setFont(font);
-    label->setText(text);
-    return label;
-}
-
 } // namespace
 
 Toast::Toast(const QPixmap &picture, const QString &title, const QString &text)
@@ -45,8 +36,8 @@ Toast::Toast(const QPixmap &picture, const QString &title, const QString &text)
     grid->setHorizontalSpacing(kMargin);
     grid->setVerticalSpacing(2);
     grid->addWidget(face, 0, 0, 2, 1);
-    grid->addWidget(plainLabel(title, true), 0, 1, Qt::AlignBottom);
-    grid->addWidget(plainLabel(text, false), 1, 1, Qt::AlignTop);
+    grid->addWidget(plainBoldLabel(title), 0, 1, Qt::AlignBottom);
+    grid->addWidget(plainLabel(text), 1, 1, Qt::AlignTop);
     grid->setColumnStretch(1, 1);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &Toast::fadeAway);

@@ -18,8 +18,8 @@ class WindowMemory : public QObject
 
 public:
     /// Puts \a window, which owns the memory, where it was last when it was called \a name; a
-    /// window that is new gets \a size and
-    /// stands about \a offset away from the middle of the screen. \a state must outlive the window.
+    /// window that is new gets \a size and stands about \a offset away from the middle of the
+    /// screen. \a state must outlive the window.
     WindowMemory(QWidget *window, const QString &name, const QSize &size, const QPoint &offset,
                  StateFile *state);
     ~WindowMemory() override;

@@ -4,14 +4,10 @@
 #include "windows/Pictures.h"
 #include "wizard/AccountMission.h"
 
-#include <ombrin/OmDir.h>
-
-#include <QtCore/QMimeData>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -91,8 +87,8 @@ void AccountPage::addNote(const QString &text)
 ServerPage::ServerPage()
     : m_server(addField(tr("&Server:")))
 {
-    addNote(tr(
-            "For example chat.example.org. Letters, digits, dots and hyphens, and maybe a port."));
+    addNote(tr("For example chat.example.org: letters, digits, dots and hyphens, and a port if "
+               "need be."));
     column()->addStretch();
     connect(m_server, &QLineEdit::textEdited, this, [this](const QString &server) {
         if (AccountMission *adding = mission())
@@ -111,7 +107,7 @@ void ServerPage::RefreshPage()
 NamePage::NamePage()
     : m_name(addField(tr("&Name:")))
 {
-    addNote(tr("Your contacts read this on your card."));
+    addNote(tr("Your contacts see this on your card."));
     column()->addStretch();
     connect(m_name, &QLineEdit::textEdited, this, [this](const QString &name) {
         if (AccountMission *adding = mission())
@@ -166,16 +162,14 @@ void PicturePage::RefreshPage()
 void PicturePage::choose()
 {
     const QPointer<PicturePage> guard(this);
-    const QString fileName = QFileDialog::getOpenFileName(
-            window(), tr("Choose Your Picture"), ombrin::OmDir::myPicturesPath(),
-            tr("Pictures (*.png *.jpg *.jpeg *.gif *.bmp *.webp)"));
+    const QString fileName = choosePictureFile(window(), tr("Choose Your Picture"));
     if (guard && !fileName.isEmpty())
         take(readPicture(fileName));
 }
 
 void PicturePage::take(const QImage &picture)
 {
-    m_problem->setText(picture.isNull() ? tr("This is no picture, or it is too large.")
+    m_problem->setText(picture.isNull() ? tr("This is not a picture, or it is too large.")
                                         : QString());
     AccountMission *adding = mission();
     if (adding && !picture.isNull())
@@ -184,16 +178,14 @@ void PicturePage::take(const QImage &picture)
 
 void PicturePage::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (event->mimeData()->hasImage() || event->mimeData()->hasUrls())
+    if (holdsPictures(event->mimeData()))
         event->acceptProposedAction();
 }
 
 void PicturePage::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
-    const QMimeData *dropped = event->mimeData();
-    take(dropped->hasUrls() ? readPicture(dropped->urls().constFirst().toLocalFile())
-                            : qvariant_cast<QImage>(dropped->imageData()));
+    take(picturesIn(event->mimeData()).value(0));
 }
 
 // Summary
@@ -232,7 +224,7 @@ void SummaryPage::RefreshPage()
     m_name->setText(adding->name());
     m_server->setText(adding->server());
     m_done->setText(adding->isDone() ? tr("Done. \"Exit\" takes you to your contacts.")
-                                     : tr("\"Complete\" adds the account."));
+                                     : tr("\"Complete\" saves the account."));
 }
 
 } // namespace messenger

@@ -109,7 +109,12 @@ Qt::Edges MoveResizeHandler::edgesFor(const QPoint &position) const
 {
     if (!m_resizeActive || isStill())
         return Qt::Edges();
-    return resize_geometry::edgesAt(position, m_window->size(), m_frameWidth);
+    Qt::Edges edges = resize_geometry::edgesAt(position, m_window->size(), m_frameWidth);
+    if (m_window->minimumWidth() == m_window->maximumWidth())
+        edges &= ~(Qt::LeftEdge | Qt::RightEdge);
+    if (m_window->minimumHeight() == m_window->maximumHeight())
+        edges &= ~(Qt::TopEdge | Qt::BottomEdge);
+    return edges;
 }
 
 void MoveResizeHandler::press(const QMouseEvent *event)

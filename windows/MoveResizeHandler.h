@@ -17,10 +17,10 @@ namespace ombrin {
 /// Moves and resizes a frameless window under the mouse.
 ///
 /// A drag with the left button moves the window, or resizes it when it starts near an edge or a
-/// corner. The window system is asked to do it, so that snapping and the like work; where it does
-/// not, the handler moves and resizes by itself. Nothing happens while the window is maximised or
-/// full screen, and a press that is not followed by a motion does nothing. The pointer shows where
-/// a drag would resize.
+/// corner and the window's size can change there. The window system is asked to do it, so that
+/// snapping and the like work; where it does not, the handler moves and resizes by itself. Nothing
+/// happens while the window is maximised or full screen, and a press that is not followed by a
+/// motion does nothing. The pointer shows where a drag would resize.
 class OMBRIN_AUTOTEST_EXPORT MoveResizeHandler : public QObject
 {
 public:

@@ -449,6 +449,11 @@ private Q_SLOTS:
             QCOMPARE(cursorAt({398, 150}), Qt::SizeHorCursor);
             sendEnter(window.widget());
             QCOMPARE(window.cursor().shape(), Qt::WaitCursor);
+            window.setFixedWidth(400);
+            QCOMPARE(cursorAt({1, 1}), Qt::SizeVerCursor);
+            QCOMPARE(cursorAt({1, 150}), Qt::WaitCursor);
+            window.setFixedHeight(300);
+            QCOMPARE(cursorAt({1, 1}), Qt::WaitCursor);
         });
     }
 

@@ -251,6 +251,15 @@ private Q_SLOTS:
         QCOMPARE(card.width(), 200);
     }
 
+    void listenersHearEachAlias()
+    {
+        OmContactCard card;
+        connect(&card, &OmContactCard::aliasChanged, &card, [&card] { card.setAlias("b"_q); });
+        QSignalSpy heard(&card, &OmContactCard::aliasChanged);
+        card.setAlias("a"_q);
+        QCOMPARE(heard, QList<QVariantList>({{"b"_q}, {"a"_q}}));
+    }
+
     void indicationsEndByThemselves()
     {
         OmContactCard card;

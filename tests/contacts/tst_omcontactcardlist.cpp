@@ -1,6 +1,7 @@
 #include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
+#include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmContactCardList.h>
 
 #include <QAction>
@@ -8,6 +9,7 @@
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
 #include <functional>
@@ -227,6 +229,22 @@ private Q_SLOTS:
                 delete list;
             }
         }
+    }
+
+    void cardsAreMirroredWithTheirList()
+    {
+        OmContactCardList list;
+        fill(&list, 2);
+        list.show();
+        settle();
+        OmContactCard *const card = list.card(1);
+        card->grab(); // which makes its parts
+        const auto *const avatar = card->findChild<OmAvatarSmall *>();
+        const QRect mirrored =
+                QStyle::visualRect(Qt::RightToLeft, card->rect(), avatar->geometry());
+        list.setLayoutDirection(Qt::RightToLeft);
+        settle();
+        QCOMPARE(avatar->geometry(), mirrored);
     }
 
     void surroundingsStayAlone()

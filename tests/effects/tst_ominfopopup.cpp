@@ -119,10 +119,16 @@ private Q_SLOTS:
 
     void comingBackKeepsThePopupOpen()
     {
-        for (const bool toPopup : {false, true}) {
+        for (const auto &[toPopup, late] :
+             {std::pair(false, false), {false, true}, {true, false}, {true, true}}) {
             Host host;
             host.hover();
             sendLeave(host.icon);
+            if (late) { // between the last paint of the fade and its report
+                OmFaderWidget *const fader = host.popup->findChildren<OmFaderWidget *>().last();
+                fader->setFadeDuration(0);
+                fader->grab();
+            }
             sendEnter(toPopup ? host.popup.data() : host.icon.data());
             QVERIFY(host.waitForFades());
             QVERIFY(host.popup->isVisible());

@@ -248,6 +248,21 @@ private Q_SLOTS:
         QTEST(m_edit->toPlainText(), "expected");
     }
 
+    void longPasteEndsInView()
+    {
+        m_edit->paste("<p>a</p>"_q.repeated(100));
+        QVERIFY(m_edit->viewport()->rect().contains(m_edit->cursorRect()));
+    }
+
+    void readOnlyTextStays()
+    {
+        QTest::keyClicks(m_edit.get(), "helo "_q);
+        m_edit->setReadOnly(true);
+        m_edit->paste("<b>no</b>"_q);
+        openMenu(m_edit.get(), 2, [](QMenu *menu) { QVERIFY(menu->title().isEmpty()); });
+        QCOMPARE(m_edit->toPlainText(), "helo "_q);
+    }
+
     void keysObeyTheLimit()
     {
         const std::tuple<Qt::Key, Qt::KeyboardModifier, QString, QString, int> cases[] = {

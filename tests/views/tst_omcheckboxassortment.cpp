@@ -70,6 +70,11 @@ private Q_SLOTS:
         delete m_view->items().takeFirst();
         QCOMPARE(shown(), "B C*"_q);
         m_view->items().append(nullptr);
+        const OmCheckBoxAssortmentItem *const b = m_view->items().first();
+        m_view->items().first() = nullptr; // past the hooks
+        m_view->setText("Groups"_q);
+        QCOMPARE(shown(), "B C*"_q);
+        delete b;
         m_view->items().clear();
         QCOMPARE(shown(), QString());
     }

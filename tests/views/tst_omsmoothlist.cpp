@@ -146,6 +146,29 @@ private Q_SLOTS:
         QVERIFY(!looksLikeLink(1));
     }
 
+    void linkFollowsItsEntryAndIsNotTold()
+    {
+        int changes = 0;
+        connect(m_list.get(), &QListWidget::itemChanged, this, [&changes] { ++changes; });
+        show({"Alpha"_q, "Beta"_q, "Gamma"_q});
+        moveTo(rowRect(1).center());
+        delete m_list->takeItem(0);
+        QVERIFY(looksLikeLink(0));
+        moveTo(rowRect(1).center());
+        QVERIFY(!looksLikeLink(0) && looksLikeLink(1));
+        QCOMPARE(changes, 0);
+    }
+
+    void linkIsWhereTheTextIs()
+    {
+        m_list->setLayoutDirection(Qt::RightToLeft);
+        show({"Alpha"_q});
+        moveTo(rowRect(0).topRight() + QPoint(-15, 10));
+        QCOMPARE(m_list->cursor().shape(), Qt::PointingHandCursor);
+        moveTo(rowRect(0).topLeft() + QPoint(15, 10));
+        QCOMPARE(m_list->cursor().shape(), Qt::ArrowCursor);
+    }
+
     void selectionFollowsPressAndKeysButNoDrag()
     {
         show({"Alpha"_q, "Beta"_q, "Gamma"_q});

@@ -291,6 +291,10 @@ void OmCheckBoxAssortmentView::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         nameButtons();
+    // The frame hears of another style after the view.
+    if (event->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &OmCheckBoxAssortmentView::resizeWidget,
+                                  Qt::QueuedConnection);
 }
 
 void OmCheckBoxAssortmentView::resizeWidget()

@@ -173,6 +173,9 @@ private Q_SLOTS:
         QCOMPARE(frame->geometry(), QRect(0, 24, 200, 126));
         const int beside = 5 + frame->frameWidth();
         QCOMPARE(rows()->geometry(), QRect(5, 5, 200 - beside, 126 - beside));
+        m_view->setStyleSheet("QFrame { border: 6px solid red }"_q);
+        QTRY_COMPARE_WITH_TIMEOUT(rows()->size(), QSize(200 - 11, 126 - 11), 20000);
+        m_view->setStyleSheet(QString());
 
         QSignalSpy added(m_view.data(), &OmCheckBoxAssortmentView::signalOnAddClicked);
         m_view->show();

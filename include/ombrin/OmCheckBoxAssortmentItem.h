@@ -34,7 +34,7 @@ public:
                                       QColor color = Qt::black, QVariant data = QVariant());
     ~OmCheckBoxAssortmentItem() override;
 
-    /// The caption, shown as plain text.
+    /// The caption, with no markup but the mnemonic of QCheckBox: "&&" shows an ampersand.
     QString text() const;
     void setText(QString text);
 

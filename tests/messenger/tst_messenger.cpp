@@ -8,6 +8,7 @@
 #include "model/ScriptedContact.h"
 #include "model/Session.h"
 #include "peers/PeerNetwork.h"
+#include "windows/ChatHistory.h"
 #include "windows/ChatWindow.h"
 #include "windows/ContactList.h"
 #include "windows/MainWindow.h"
@@ -26,6 +27,9 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QDropEvent>
 #include <QtGui/QImage>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -421,6 +425,29 @@ private Q_SLOTS:
         QTest::keyClick(chat->input(), Qt::Key_Return);
         chat->close();
         QVERIFY(user.session().draft(anna).isEmpty());
+    }
+
+    void timesStandInOneLine()
+    {
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        User user(QStringLiteral("ada"));
+        const QString anna = QStringLiteral("anna");
+        user.session().sendText(anna, QStringLiteral("Half past"));
+        Client client(&user.session());
+        QVERIFY(client.start());
+        const QTextDocument *history =
+                client.openChat(anna)->findChild<ChatHistory *>()->document();
+        QLocale::setDefault(before);
+        QVERIFY(history->size().isValid()); // which lays it out
+        int times = 0;
+        for (QTextBlock block = history->begin(); block.isValid(); block = block.next()) {
+            if (!block.text().endsWith(QLatin1Char('M')))
+                continue;
+            QCOMPARE(block.layout()->lineCount(), 1);
+            ++times;
+        }
+        QCOMPARE(times, 1);
     }
 
     void contactsAreChosenByKey()

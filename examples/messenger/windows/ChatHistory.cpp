@@ -22,6 +22,8 @@ constexpr QSize kLargestPicture(280, 220);
 const QColor kQuietColor(0x6b, 0x72, 0x7b);
 // A message that follows another of the same person so soon needs no name of its own.
 constexpr qint64 kTogetherSeconds = 300;
+constexpr int kTimeWidth = 40;
+constexpr int kTimeMargin = 4;
 
 QString nameColor(Message::From from)
 {
@@ -37,10 +39,11 @@ QString timeOf(const Message &message)
 {
     const QLocale locale;
     // The plain locale has seconds in its short times.
-    const QString time = locale.language() == QLocale::C
-                                 ? message.time.toString(QStringLiteral("HH:mm"))
-                                 : locale.toString(message.time.time(), QLocale::ShortFormat);
-    return time.toHtmlEscaped();
+    QString time = locale.language() == QLocale::C
+                           ? message.time.toString(QStringLiteral("HH:mm"))
+                           : locale.toString(message.time.time(), QLocale::ShortFormat);
+    // "9:41 AM" in one line.
+    return time.replace(QLatin1Char(' '), QChar(QChar::Nbsp));
 }
 
 /// Keeps a view that shows the end of its document at the end while the document grows.
@@ -159,15 +162,17 @@ void ChatHistory::addRow(const Message &message, bool isContinued)
         name = QStringLiteral("<b style=\"color:%1\">%2</b><br>")
                        .arg(nameColor(message.from), alias.toHtmlEscaped());
     }
+    const QString time = timeOf(message);
+    const int timeWidth = qMax(kTimeWidth, fontMetrics().horizontalAdvance(time) + kTimeMargin);
     const QString row =
             QStringLiteral(
                     "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\" "
                     "style=\"margin-top:%1px\"><tr>"
                     "<td width=\"38\">%2</td><td style=\"padding-left:6px; "
                     "padding-right:8px\">%3%4</td>"
-                    "<td width=\"40\" align=\"right\" style=\"color:%6\">%5</td></tr></table>")
+                    "<td width=\"%7\" align=\"right\" style=\"color:%6\">%5</td></tr></table>")
                     .arg(QString::number(isContinued ? 2 : 8), face, name, bodyOf(message),
-                         timeOf(message), kQuietColor.name());
+                         time.toHtmlEscaped(), kQuietColor.name(), QString::number(timeWidth));
     const EndKeeper keeper(verticalScrollBar());
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);

@@ -1,8 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 
 namespace {
@@ -21,8 +18,7 @@ struct Outcome
 Outcome runGallery(const QStringList &arguments)
 {
     QProcess gallery;
-    gallery.start(QCoreApplication::applicationDirPath() + QStringLiteral("/ombrin_gallery"),
-                  arguments);
+    gallery.start(QCoreApplication::applicationDirPath() + "/ombrin_gallery"_q, arguments);
     Outcome outcome;
     if (gallery.waitForFinished(kTimeoutMs) && gallery.exitStatus() == QProcess::NormalExit)
         outcome.exitCode = gallery.exitCode();
@@ -33,8 +29,8 @@ Outcome runGallery(const QStringList &arguments)
 
 QStringList pageNames()
 {
-    const QString output = runGallery({QStringLiteral("--list")}).output;
-    return output.split(QRegularExpression(QStringLiteral("[\r\n]+")), Qt::SkipEmptyParts);
+    const QString output = runGallery({"--list"_q}).output;
+    return output.split(QRegularExpression("[\r\n]+"_q), Qt::SkipEmptyParts);
 }
 
 /// The number of colours along a grid of lines across \a picture.
@@ -65,21 +61,19 @@ private Q_SLOTS:
     {
         const QTemporaryDir temporary;
         // Neither the folder nor the one above it exists yet.
-        const QDir folder(temporary.filePath(QStringLiteral("made/on demand")));
-        const Outcome outcome = runGallery({QStringLiteral("--screenshots"), folder.path()});
+        const QDir folder(temporary.filePath("made/on demand"_q));
+        const Outcome outcome = runGallery({"--screenshots"_q, folder.path()});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
 
         const QStringList names = pageNames();
-        QVERIFY(names.contains(QStringLiteral("window")));
+        QVERIFY(names.contains("window"_q));
         QCOMPARE(folder.entryList(QDir::Files).size(), 4 * names.size());
         QVector<QImage> pages;
         for (const QString &name : names) {
             for (const int density : {1, 2}) {
-                const QString suffix = density == 1 ? QString() : QStringLiteral("@2x");
-                const QImage active(folder.filePath(name + QStringLiteral("-active") + suffix
-                                                    + QStringLiteral(".png")));
-                const QImage inactive(folder.filePath(name + QStringLiteral("-inactive") + suffix
-                                                      + QStringLiteral(".png")));
+                const QString suffix = density == 1 ? QString() : "@2x"_q;
+                const QImage active(folder.filePath(name + "-active"_q + suffix + ".png"_q));
+                const QImage inactive(folder.filePath(name + "-inactive"_q + suffix + ".png"_q));
                 QCOMPARE(active.size(), kWindowSize * density);
                 QCOMPARE(inactive.size(), kWindowSize * density);
                 QVERIFY2(colorCount(pageArea(active, density)) > 20, qPrintable(name));
@@ -97,23 +91,16 @@ private Q_SLOTS:
     void unwritableFolderIsReported()
     {
         const QTemporaryDir temporary;
-        const QString path = temporary.filePath(QStringLiteral("file"));
+        const QString path = temporary.filePath("file"_q);
         QVERIFY(QFile(path).open(QIODevice::WriteOnly));
-        const Outcome outcome =
-                runGallery({QStringLiteral("--screenshots"), path + QStringLiteral("/folder")});
+        const Outcome outcome = runGallery({"--screenshots"_q, path + "/folder"_q});
         QCOMPARE(outcome.exitCode, 1);
-        QVERIFY2(outcome.error.contains(QStringLiteral("cannot be made")),
-                 qPrintable(outcome.error));
+        QVERIFY2(outcome.error.contains("cannot be made"_q), qPrintable(outcome.error));
     }
 
     void wrongArgumentsAreRefusedWithAReason_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("reason");
-
-        const auto row = [](const char *arguments, const char *reason) {
-            QTest::newRow(arguments) << ombrin::test::words(arguments) << reason;
-        };
+        const auto row = columns<QString>("reason");
         row("--shoot", "shoot");
         row("--page nowhere", "nowhere");
         row("--page", "page");
@@ -122,9 +109,8 @@ private Q_SLOTS:
     }
     void wrongArgumentsAreRefusedWithAReason()
     {
-        QFETCH(QStringList, arguments);
         QFETCH(QString, reason);
-        const Outcome outcome = runGallery(arguments);
+        const Outcome outcome = runGallery(ombrin::test::words(QTest::currentDataTag()));
         QCOMPARE(outcome.exitCode, 2);
         QVERIFY2(outcome.error.contains(reason), qPrintable(outcome.error));
         QVERIFY(outcome.output.isEmpty());

@@ -8,21 +8,28 @@ namespace {
 
 constexpr qint64 kMaxSize = 1024 * 1024;
 
+// Whether no value begins with what makes it an object, or with an escape sequence, which could
+// hide it. What might be a value, within quotes for example, counts as one.
 bool isPlainText(const QByteArray &text)
 {
     bool quoted = false;
     bool comment = false;
-    for (const char character : text) {
-        if (character == '\n' || character == '\r')
-            comment = false;
-        else if (comment)
+    bool begins = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const char character = text.at(i);
+        if (comment) {
+            comment = character != '\n' && character != '\r';
             continue;
-        else if (character == '@' || character == '\\')
+        }
+        if (begins && (character == '@' || character == '\\'))
             return false;
+        if (character == '\\')
+            ++i;
         else if (character == '"')
             quoted = !quoted;
-        else if (character == ';')
-            comment = !quoted;
+        comment = character == ';' && !quoted;
+        const bool isSkipped = character == '"' || static_cast<uchar>(character) <= ' ';
+        begins = character == '=' || character == ',' || (begins && isSkipped);
     }
     return true;
 }

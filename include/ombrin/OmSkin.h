@@ -51,7 +51,7 @@ namespace ombrin {
 /// without images widgets show none, without a style sheet an empty one is set, and a palette entry
 /// that is missing or makes no sense becomes an invalid colour, which paints black. A truncated or
 /// damaged resource file is left out as a whole, and so is a palette file of more than a megabyte
-/// or one with an \c \@ or a backslash outside its comments, from which QSettings would make objects.
+/// or one in which a value begins with \c \@ or a backslash: QSettings would make objects of those.
 ///
 /// To be used from the GUI thread, while the QApplication exists; without one init() installs
 /// nothing, and the next call counts as the first.

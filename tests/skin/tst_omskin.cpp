@@ -135,7 +135,7 @@ private Q_SLOTS:
                 {"Dark", "#111122223333", "#112233"}, {"Link", "", "invalid"},
                 {"Light", "no colour", "invalid"},    {"Shadow", "1,2,3", "invalid"},
         };
-        QByteArray file("; \"me@example.org\n[Active] ; C:\\x\n");
+        QByteArray file("; \"=@\n[Active] ; =\\\nBy=me@example.org\nIn=C:\\skins\n");
         for (const auto &[role, text, color] : examples)
             file += QByteArray(role) + '=' + text + '\n';
         write("default/Global_Palette.ini", file);

@@ -55,20 +55,37 @@ const Monkey::Choice Monkey::kChoices[] = {
         {200, "drag", &Monkey::dragOver},
         {100, "context menu", &Monkey::openContextMenu},
         {200, "help", &Monkey::askForHelp},
-        {200, "focus", &Monkey::changeFocus},
-        {60, "resize", &Monkey::resizeWindow},
+        {200, "focus",
+         [](Monkey &m) {
+             m.anyWidget()->setFocus(m.chance(50) ? Qt::OtherFocusReason : Qt::TabFocusReason);
+         }},
+        {60, "resize",
+         [](Monkey &m) { m.window()->resize(20 + m.number(1200), 20 + m.number(900)); }},
         {15, "window state", &Monkey::changeWindowState},
         {60, "hide or show", &Monkey::hideOrShow},
         {60, "disable or enable", &Monkey::disableOrEnable},
         {60, "activate", &Monkey::activate},
-        {4, "language", &Monkey::changeLanguage},
+        {4, "language",
+         [](Monkey &m) {
+             if (!QCoreApplication::removeTranslator(&m.m_language))
+                 QCoreApplication::installTranslator(&m.m_language);
+         }},
         {2, "style", &Monkey::changeStyle},
-        {2, "palette", &Monkey::changePalette},
+        {2, "palette",
+         [](Monkey &m) {
+             QApplication::setPalette(
+                     m.chance(50) ? m.m_palette : QPalette(QColor(0x30 + m.number(0x80), 60, 70)));
+         }},
         {2, "font", &Monkey::changeFont},
-        {2, "direction", &Monkey::changeDirection},
+        {2, "direction",
+         [](Monkey &) {
+             QApplication::setLayoutDirection(QApplication::isRightToLeft() ? Qt::LeftToRight
+                                                                            : Qt::RightToLeft);
+         }},
         {150, "scroll", &Monkey::scroll},
-        {10, "photograph", &Monkey::photograph},
-        {23, "wait", &Monkey::wait},
+        {10, "photograph", [](Monkey &m) { m.anyWidget()->grab(); }},
+        // Timers run out: fades, tips, countdowns.
+        {23, "wait", [](Monkey &m) { m.m_pause = kWaitMs; }},
 };
 
 Monkey::Monkey(quint32 seed, const QString &folder)
@@ -78,7 +95,7 @@ Monkey::Monkey(quint32 seed, const QString &folder)
     , m_palette(QApplication::palette())
     , m_font(QApplication::font())
 {
-    QImage(24, 16, QImage::Format_RGB32).save(m_folder + QStringLiteral("/dropped.png"));
+    QImage(24, 16, QImage::Format_RGB32).save(m_folder + "/dropped.png"_q);
 }
 
 Monkey::~Monkey()
@@ -139,7 +156,7 @@ void Monkey::act()
     --m_left;
     if (m_traces)
         std::fprintf(stderr, "%d %s\n", m_left, choice->name);
-    (this->*choice->action)();
+    choice->action(*this);
 }
 
 // A window with a loop of its own must be closed before the loop below it can end.
@@ -170,9 +187,9 @@ bool Monkey::leaveFileDialog()
     }
     if (!dialog)
         return false;
-    auto *const name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    auto *const name = dialog->findChild<QLineEdit *>("fileNameEdit"_q);
     if (name && chance(50)) {
-        name->setText(m_folder + QStringLiteral("/saved%1.jpg").arg(m_left));
+        name->setText(m_folder + "/saved%1.jpg"_q.arg(m_left));
         QMetaObject::invokeMethod(dialog, "accept");
     } else {
         dialog->reject();
@@ -348,7 +365,7 @@ void Monkey::pressKey()
 
 void Monkey::typeText()
 {
-    static const QString kLetters = QStringLiteral("abz HELO.,!?<>&@0123\u00e4\u00df\u05d0\u4e2d");
+    static const QString kLetters = "abz HELO.,!?<>&@0123\u00e4\u00df\u05d0\u4e2d"_q;
     // Who types a date over one of Qt's calendars has a little window open for a moment, and Qt
     // leaks when the calendar goes before.
     for (const QWidget *focus : {QApplication::focusWidget(), window()->focusWidget()}) {
@@ -364,7 +381,7 @@ void Monkey::compose()
     QWidget *const widget = QApplication::focusWidget();
     if (!widget)
         return;
-    const QString text = QStringLiteral("\u306b\u307b\u3093").left(number(4));
+    const QString text = "\u306b\u307b\u3093"_q.left(number(4));
     QInputMethodEvent composing(text, {});
     const QPointer<QWidget> guard = widget;
     QCoreApplication::sendEvent(widget, &composing);
@@ -399,15 +416,15 @@ void Monkey::dragOver()
         return;
     QMimeData data;
     if (chance(40))
-        data.setText(QStringLiteral("dropped text"));
+        data.setText("dropped text"_q);
     if (chance(30))
-        data.setHtml(QStringLiteral("<b>dropped</b><img src=\"x\">"));
+        data.setHtml("<b>dropped</b><img src=\"x\">"_q);
     if (chance(30))
-        data.setUrls({QUrl::fromLocalFile(m_folder + QStringLiteral("/dropped.png"))});
+        data.setUrls({QUrl::fromLocalFile(m_folder + "/dropped.png"_q)});
     if (chance(20))
         data.setImageData(QImage(8, 8, QImage::Format_RGB32));
     if (chance(30))
-        data.setData(QStringLiteral("binary/ombrin-tab"), QByteArrayLiteral("1"));
+        data.setData("binary/ombrin-tab"_q, QByteArrayLiteral("1"));
 
     const QPointer<QWidget> target = widget;
     const auto actions = Qt::CopyAction | Qt::MoveAction;
@@ -445,16 +462,6 @@ void Monkey::askForHelp()
     const QPoint place = anyPlace(widget);
     QHelpEvent event(kKinds[number(2)], place, widget->mapToGlobal(place));
     QCoreApplication::sendEvent(widget, &event);
-}
-
-void Monkey::changeFocus()
-{
-    anyWidget()->setFocus(chance(50) ? Qt::OtherFocusReason : Qt::TabFocusReason);
-}
-
-void Monkey::resizeWindow()
-{
-    window()->resize(20 + number(1200), 20 + number(900));
 }
 
 void Monkey::changeWindowState()
@@ -495,24 +502,12 @@ void Monkey::activate()
     }
 }
 
-void Monkey::changeLanguage()
-{
-    if (!QCoreApplication::removeTranslator(&m_language))
-        QCoreApplication::installTranslator(&m_language);
-}
-
 void Monkey::changeStyle()
 {
     if (chance(60))
         QApplication::setStyle(new OmStyle2);
     else
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
-}
-
-void Monkey::changePalette()
-{
-    QApplication::setPalette(chance(50) ? m_palette
-                                        : QPalette(QColor(0x30 + number(0x80), 60, 70)));
+        QApplication::setStyle(QStyleFactory::create("fusion"_q));
 }
 
 void Monkey::changeFont()
@@ -522,28 +517,11 @@ void Monkey::changeFont()
     QApplication::setFont(font);
 }
 
-void Monkey::changeDirection()
-{
-    QApplication::setLayoutDirection(QApplication::isRightToLeft() ? Qt::LeftToRight
-                                                                   : Qt::RightToLeft);
-}
-
 void Monkey::scroll()
 {
     const auto bars = window()->findChildren<QScrollBar *>();
     if (QScrollBar *const bar = bars.value(number(static_cast<int>(bars.size()))))
         bar->setValue(bar->minimum() + number(bar->maximum() - bar->minimum() + 1));
-}
-
-void Monkey::photograph()
-{
-    anyWidget()->grab();
-}
-
-// Timers run out: fades, tips, countdowns.
-void Monkey::wait()
-{
-    m_pause = kWaitMs;
 }
 
 } // namespace ombrin::test

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Text.h"
+
 #include <QtCore/QEvent>
 #include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
@@ -35,7 +37,7 @@ public:
     void play(const std::function<QWidget *()> &create, int count);
 
 private:
-    using Action = void (Monkey::*)();
+    using Action = std::function<void(Monkey &)>;
     struct Choice
     {
         int share; // in ten thousand
@@ -74,20 +76,13 @@ private:
     void dragOver();
     void openContextMenu();
     void askForHelp();
-    void changeFocus();
-    void resizeWindow();
     void changeWindowState();
     void hideOrShow();
     void disableOrEnable();
     void activate();
-    void changeLanguage();
     void changeStyle();
-    void changePalette();
     void changeFont();
-    void changeDirection();
     void scroll();
-    void photograph();
-    void wait();
 
     std::mt19937 m_random;
     const QString m_folder;
@@ -118,7 +113,7 @@ private:
     public:
         QString translate(const char *, const char *text, const char *, int) const override
         {
-            return QStringLiteral("%1 \u2013 %1").arg(QString::fromUtf8(text));
+            return "%1 \u2013 %1"_q.arg(QString::fromUtf8(text));
         }
         bool isEmpty() const override { return false; }
     };

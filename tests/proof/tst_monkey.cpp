@@ -6,8 +6,6 @@
 #include <ombrin/OmSkin.h>
 #include <ombrin/OmWindow.h>
 
-#include <QtCore/QLoggingCategory>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QScrollArea>
 
@@ -81,18 +79,17 @@ protected:
     void setUp() override
     {
         // Qt's own text fields, when they undo what an input method composed.
-        expectWarning(QStringLiteral("^QTextCursor::setPosition: Position '\\d+' out of range"));
+        expectWarning("^QTextCursor::setPosition: Position '\\d+' out of range"_q);
         // Qt 6, when what was touched is gone before the finger leaves it.
-        expectWarning(QStringLiteral("^skipping QEventPoint.* no target window$"));
+        expectWarning("^skipping QEventPoint.* no target window$"_q);
         // Qt's own item views, when an editor loses the focus while it goes.
-        expectWarning(
-                QStringLiteral("^QAbstractItemView::\\w+ called with an editor that does not"));
+        expectWarning("^QAbstractItemView::\\w+ called with an editor that does not"_q);
     }
 
 private Q_SLOTS:
     void initTestCase()
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+        QLoggingCategory::setFilterRules("default.debug=false"_q);
         ombrin::OmSkin::init(true);
     }
 

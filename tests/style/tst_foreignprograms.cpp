@@ -1,7 +1,6 @@
 #include "support/TestCase.h"
 #include "support/XUser.h"
 
-#include <QtCore/QLibraryInfo>
 #include <QtGui/QClipboard>
 #include <QtGui/QScreen>
 
@@ -30,8 +29,7 @@ int count(const QImage &picture, QRgb color)
 QStringList search(const QString &arguments)
 {
     return ombrin::test::runBeside(
-                   QStringLiteral("xdotool"),
-                   QStringLiteral("search --onlyvisible %1").arg(arguments).split(QLatin1Char(' ')))
+                   "xdotool"_q, "search --onlyvisible %1"_q.arg(arguments).split(QLatin1Char(' ')))
             .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
@@ -45,20 +43,13 @@ class tst_ForeignPrograms : public ombrin::test::TestCase
 private Q_SLOTS:
     void programsWork_data()
     {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QString>("menu");
-        QTest::addColumn<QString>("work");
-        QTest::addColumn<QString>("result");
+        const auto row =
+                columns<QString, QString, QString, QString>("arguments", "menu", "work", "result");
 
-        QTest::newRow("speedcrunch") << QString() << "alt+e"
-                                     << "type 6*7\nkey Return sleep 0.2 key ctrl+r"
-                                     << "42";
-        QTest::newRow("linguist") << translation() << "alt+v"
-                                  << "key ctrl+shift+k sleep 0.2 key ctrl+a key ctrl+c"
-                                  << "Hallo";
-        QTest::newRow("designer") << QString() << "alt+f"
-                                  << "key ctrl+a key ctrl+c"
-                                  << "QDialogButtonBox";
+        row("speedcrunch", QString(), "alt+e", "type 6*7\nkey Return sleep 0.2 key ctrl+r", "42");
+        row("linguist", translation(), "alt+v", "key ctrl+shift+k sleep 0.2 key ctrl+a key ctrl+c",
+            "Hallo");
+        row("designer", QString(), "alt+f", "key ctrl+a key ctrl+c", "QDialogButtonBox");
     }
     void programsWork()
     {
@@ -68,21 +59,20 @@ private Q_SLOTS:
         QFETCH(QString, result);
         const QString name = QString::fromLatin1(QTest::currentDataTag());
 
-        ombrin::test::xdo(QStringLiteral("mousemove 0 1000")); // no tool tips
+        ombrin::test::xdo("mousemove 0 1000"_q); // no tool tips
         start(name, arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
         QVERIFY2(waitFor([&] { return isActive(); }, kPatience), m_program.readAll().constData());
-        if (name == QLatin1String("designer")) { // it asks first what to make
+        if (name == "designer"_q) { // it asks first what to make
             QVERIFY(waitFor([&] { return windows() == 2; }, kPatience));
-            QVERIFY(insist(QStringLiteral("key Return"), [&] { return windows() == 1; }));
+            QVERIFY(insist("key Return"_q, [&] { return windows() == 1; }));
         }
         const int count = windows();
-        QVERIFY(insist(QStringLiteral("key ") + menu, [&] { return windows() > count; }));
-        QVERIFY(photograph(name + QStringLiteral("-menu")));
-        QVERIFY(insist(QStringLiteral("key Escape key Escape\n") + work,
+        QVERIFY(insist("key "_q + menu, [&] { return windows() > count; }));
+        QVERIFY(photograph(name + "-menu"_q));
+        QVERIFY(insist("key Escape key Escape\n"_q + work,
                        [&] { return QGuiApplication::clipboard()->text().contains(result); }));
         QVERIFY(photograph(name));
-        QVERIFY(insist(QStringLiteral("key ctrl+q"),
-                       [&] { return m_program.state() == QProcess::NotRunning; }));
+        QVERIFY(insist("key ctrl+q"_q, [&] { return m_program.state() == QProcess::NotRunning; }));
         QCOMPARE(m_program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(m_program.exitCode(), 0);
     }
@@ -100,11 +90,11 @@ private:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
             environment.insert(QLatin1String(folder), m_home.path());
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-        environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(OMBRIN_PLUGIN_FOLDER));
-        environment.insert(QStringLiteral("QT_STYLE_OVERRIDE"), QStringLiteral("ombrin"));
-        environment.insert(QStringLiteral("OMBRIN_SKIN_PATH"),
-                           QCoreApplication::applicationDirPath() + QStringLiteral("/skins"));
+        environment.insert("LC_ALL"_q, "C.UTF-8"_q);
+        environment.insert("QT_PLUGIN_PATH"_q, QStringLiteral(OMBRIN_PLUGIN_FOLDER));
+        environment.insert("QT_STYLE_OVERRIDE"_q, "ombrin"_q);
+        environment.insert("OMBRIN_SKIN_PATH"_q,
+                           QCoreApplication::applicationDirPath() + "/skins"_q);
         m_program.setProcessEnvironment(environment);
         m_program.setProcessChannelMode(QProcess::MergedChannels);
         QString program = QStandardPaths::findExecutable(
@@ -117,7 +107,7 @@ private:
     // A file for the linguist.
     QString translation() const
     {
-        const QString path = m_home.filePath(QStringLiteral("hello.ts"));
+        const QString path = m_home.filePath("hello.ts"_q);
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly))
             qWarning("cannot write %s", qPrintable(path));
@@ -127,17 +117,13 @@ private:
         return path;
     }
 
-    int windows() const
-    {
-        return search(QStringLiteral("--pid %1").arg(m_program.processId())).size();
-    }
+    int windows() const { return search("--pid %1"_q.arg(m_program.processId())).size(); }
 
     // Whether one of the program's windows gets what is typed.
     bool isActive() const
     {
-        const QString owner = ombrin::test::runBeside(
-                QStringLiteral("xdotool"),
-                {QStringLiteral("getactivewindow"), QStringLiteral("getwindowpid")});
+        const QString owner =
+                ombrin::test::runBeside("xdotool"_q, {"getactivewindow"_q, "getwindowpid"_q});
         return owner.trimmed() == QString::number(m_program.processId());
     }
 
@@ -167,7 +153,7 @@ private:
         };
         const QString folder = QStringLiteral(OMBRIN_PHOTOGRAPHS);
         return waitFor(isSkinned, kPatience) && QDir().mkpath(folder)
-               && picture.save(QStringLiteral("%1/%2.png").arg(folder, name));
+               && picture.save("%1/%2.png"_q.arg(folder, name));
     }
 
     QTemporaryDir m_home;

@@ -24,7 +24,6 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QClipboard>
 #include <QtGui/QDropEvent>
 #include <QtGui/QImage>
 #include <QtGui/QTextBlock>
@@ -121,6 +120,15 @@ void press(QWidget *dialog, const QString &text)
             return;
         }
     }
+}
+
+void drop(QWidget *target, const QMimeData &data)
+{
+    const QPoint place(9, 9);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &enter);
+    QDropEvent dropping(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &dropping);
 }
 
 /// Says one thing after the other for ever, and notes in a file what it has said.
@@ -393,22 +401,16 @@ private Q_SLOTS:
             QVERIFY(client.start());
             ChatWindow *chat = client.openChat(anna);
             QTest::keyClicks(chat->input(), QStringLiteral("Half a sent"));
-            QGuiApplication::clipboard()->setImage(picture);
-            chat->input()->paste();
-            QVERIFY(waitFor([&] { return pictureCount() == 1; }, kPatienceMs));
-
-            // What is dropped may be anything, also a list of files with none in it.
+            // What is dropped may be anything, also a list of files with none in it. The input
+            // takes pictures as it takes what is pasted.
             QMimeData garbage;
             garbage.setData(QStringLiteral("text/uri-list"), "\n\xff");
             QMimeData dropped;
             dropped.setImageData(picture);
-            for (const QMimeData *data : {&garbage, &dropped}) {
-                QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, data, Qt::LeftButton,
-                                      Qt::NoModifier);
-                QCoreApplication::sendEvent(chat, &enter);
-                QDropEvent drop(QPoint(9, 9), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
-                QCoreApplication::sendEvent(chat, &drop);
-            }
+            drop(chat, garbage);
+            drop(chat, dropped);
+            QVERIFY(waitFor([&] { return pictureCount() == 1; }, kPatienceMs));
+            drop(chat->input()->viewport(), dropped);
             QVERIFY(waitFor([&] { return pictureCount() == 2; }, kPatienceMs));
             const QPointer<ChatWindow> open(chat);
             const auto shortcuts = chat->findChildren<QShortcut *>();

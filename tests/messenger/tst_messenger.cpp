@@ -21,9 +21,6 @@
 #include <ombrin/OmMessageBox.h>
 
 #include <QShortcut>
-#include <QtCore/QMimeData>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QDropEvent>
 #include <QtGui/QImage>
 #include <QtGui/QTextBlock>
@@ -43,7 +40,7 @@ constexpr int kPatienceMs = 30000;
 
 QString shippedBook()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/messenger/contacts.json");
+    return QCoreApplication::applicationDirPath() + "/messenger/contacts.json"_q;
 }
 
 /// A user of the messenger, with a folder that lasts longer than the session.
@@ -57,7 +54,7 @@ public:
         start();
         if (m_id.isEmpty())
             return;
-        Account account = Account::create(m_id.toUpper(), QStringLiteral("example.org"));
+        Account account = Account::create(m_id.toUpper(), "example.org"_q);
         account.id = m_id;
         session().setAccount(account);
     }
@@ -136,12 +133,12 @@ int talkUntilKilled(const QString &path)
 {
     ProfileFolder folder(path);
     Session session(folder, ContactBook::load(shippedBook()));
-    QFile log(path + QStringLiteral("/said"));
+    QFile log(path + "/said"_q);
     if (!log.open(QIODevice::WriteOnly))
         return 1;
     for (int number = 0;; ++number) {
-        session.sendText(QStringLiteral("anna"), QString::number(number));
-        session.roster().setRating(QStringLiteral("anna"), number % 11);
+        session.sendText("anna"_q, QString::number(number));
+        session.roster().setRating("anna"_q, number % 11);
         log.write(QByteArray::number(number) + '\n');
         log.flush();
     }
@@ -149,7 +146,7 @@ int talkUntilKilled(const QString &path)
 
 int lastSaid(const QString &path)
 {
-    QFile log(path + QStringLiteral("/said"));
+    QFile log(path + "/said"_q);
     if (!log.open(QIODevice::ReadOnly))
         return -1;
     const QList<QByteArray> lines = log.readAll().split('\n');
@@ -166,15 +163,15 @@ private Q_SLOTS:
     void copiesFindEachOtherAndChat()
     {
         const QTemporaryDir registry;
-        User ann(QStringLiteral("ann"));
-        User bob(QStringLiteral("bob"));
+        User ann("ann"_q);
+        User bob("bob"_q);
         QImage face(40, 60, QImage::Format_RGB32);
         face.fill(Qt::green);
         ann.session().setOwnPicture(face);
         ann.session().goOnline(registry.path());
         bob.session().goOnline(registry.path());
-        const QString annForBob = QStringLiteral("peer-ann");
-        const QString bobForAnn = QStringLiteral("peer-bob");
+        const QString annForBob = "peer-ann"_q;
+        const QString bobForAnn = "peer-bob"_q;
         QVERIFY(waitFor(
                 [&] {
                     return bob.contact(annForBob).status == ombrin::Om::Online
@@ -182,7 +179,7 @@ private Q_SLOTS:
                            && !bob.contact(annForBob).picture.isEmpty();
                 },
                 kPatienceMs));
-        QCOMPARE(bob.contact(annForBob).alias, QStringLiteral("ANN"));
+        QCOMPARE(bob.contact(annForBob).alias, "ANN"_q);
         QCOMPARE(QImage(bob.contact(annForBob).picture).size(), QSize(40, 40));
 
         QStringList happened;
@@ -191,16 +188,15 @@ private Q_SLOTS:
         connect(&bob.session(), &Session::nudged, this,
                 [&](const QString &id) { happened.append(id + u'!'); });
         ann.session().setTyping(bobForAnn, true);
-        ann.session().sendText(bobForAnn, QStringLiteral("<b>Hello</b>"));
+        ann.session().sendText(bobForAnn, "<b>Hello</b>"_q);
         ann.session().sendPicture(bobForAnn, face);
         ann.session().sendNudge(bobForAnn);
         ann.session().sendNudge(bobForAnn); // once is enough
-        ann.session().sendText(bobForAnn, QStringLiteral("Bye"));
-        QVERIFY(waitFor([&] { return bob.heardFrom(annForBob).contains(QStringLiteral("Bye")); },
-                        kPatienceMs));
+        ann.session().sendText(bobForAnn, "Bye"_q);
+        QVERIFY(waitFor([&] { return bob.heardFrom(annForBob).contains("Bye"_q); }, kPatienceMs));
         const QStringList heard = bob.heardFrom(annForBob);
         QCOMPARE(heard.size(), 4);
-        QCOMPARE(heard.first(), QStringLiteral("<b>Hello</b>"));
+        QCOMPARE(heard.first(), "<b>Hello</b>"_q);
         QCOMPARE(QImage(bob.session().pictureFile(heard.at(1))).size(), face.size());
         QCOMPARE(happened.count(annForBob + u'!'), 1);
         QCOMPARE(happened.first(), annForBob + u'+');
@@ -208,36 +204,34 @@ private Q_SLOTS:
 
         // Who was deleted and writes is a contact again.
         bob.session().roster().remove(annForBob);
-        ann.session().sendText(bobForAnn, QStringLiteral("Again"));
+        ann.session().sendText(bobForAnn, "Again"_q);
         QVERIFY(waitFor([&] { return bob.session().roster().contains(annForBob); }, kPatienceMs));
-        QVERIFY(waitFor([&] { return bob.heardFrom(annForBob).contains(QStringLiteral("Again")); },
-                        kPatienceMs));
+        QVERIFY(waitFor([&] { return bob.heardFrom(annForBob).contains("Again"_q); }, kPatienceMs));
         QVERIFY(!bob.contact(annForBob).picture.isEmpty());
 
         // Blocked peers are not heard; invisible ones are offline; who is gone has not got
         // anything.
         bob.session().roster().setBlocked(annForBob, true);
-        ann.session().sendText(bobForAnn, QStringLiteral("Not heard"));
+        ann.session().sendText(bobForAnn, "Not heard"_q);
         Account account = ann.session().account();
         account.status = ombrin::Om::Invisible;
-        account.remark = QStringLiteral("Hidden");
+        account.remark = "Hidden"_q;
         ann.session().setAccount(account);
-        QVERIFY(waitFor(
-                [&] { return bob.contact(annForBob).statusText == QLatin1String("Hidden"); },
-                kPatienceMs));
+        QVERIFY(waitFor([&] { return bob.contact(annForBob).statusText == "Hidden"_q; },
+                        kPatienceMs));
         QCOMPARE(bob.contact(annForBob).status, ombrin::Om::Offline);
-        QVERIFY(!bob.heardFrom(annForBob).contains(QStringLiteral("Not heard")));
+        QVERIFY(!bob.heardFrom(annForBob).contains("Not heard"_q));
         bob.leave();
         QVERIFY(waitFor([&] { return ann.contact(bobForAnn).status == ombrin::Om::Offline; },
                         kPatienceMs));
-        ann.session().sendText(bobForAnn, QStringLiteral("Still there?"));
+        ann.session().sendText(bobForAnn, "Still there?"_q);
         QCOMPARE(ann.session().messages(bobForAnn, 1).constLast().from, Message::From::Messenger);
 
         // Bob finds everything again.
         bob.start();
-        QCOMPARE(bob.contact(annForBob).alias, QStringLiteral("ANN"));
+        QCOMPARE(bob.contact(annForBob).alias, "ANN"_q);
         QVERIFY(bob.contact(annForBob).isBlocked);
-        QCOMPARE(bob.heardFrom(annForBob), heard + QStringList{QStringLiteral("Again")});
+        QCOMPARE(bob.heardFrom(annForBob), heard + QStringList{"Again"_q});
     }
 
     void hostilePeersAreTurnedAway_data()
@@ -258,11 +252,11 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         const QTemporaryDir folder;
         PeerMessage self;
-        self.id = QStringLiteral("ann");
-        self.name = QStringLiteral("Ann");
+        self.id = "ann"_q;
+        self.name = "Ann"_q;
         PeerNetwork network(folder.path());
         network.setSelf(self);
-        const QStringList signs = QDir(folder.path()).entryList({QStringLiteral("*.copy")});
+        const QStringList signs = QDir(folder.path()).entryList({"*.copy"_q});
         QCOMPARE(signs.size(), 1);
         PeerRegistry registry(folder.path());
         QLocalSocket eve;
@@ -278,8 +272,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         QProcess talker;
-        talker.start(QCoreApplication::applicationFilePath(),
-                     {QStringLiteral("--talk"), folder.path()});
+        talker.start(QCoreApplication::applicationFilePath(), {"--talk"_q, folder.path()});
         QVERIFY(talker.waitForStarted(kPatienceMs));
         QVERIFY(waitFor([&] { return lastSaid(folder.path()) > 150; }, kPatienceMs));
         talker.kill();
@@ -290,12 +283,12 @@ private Q_SLOTS:
         QVERIFY(profile.lock());
         Session session(profile, ContactBook::load(shippedBook()));
         int number = 0;
-        for (const Message &message : session.messages(QStringLiteral("anna"), 1000000)) {
+        for (const Message &message : session.messages("anna"_q, 1000000)) {
             if (message.from == Message::From::Me)
                 QCOMPARE(message.text, QString::number(number++));
         }
         QVERIFY2(number == last + 1 || number == last + 2, qPrintable(QString::number(number)));
-        const int rating = session.roster().contact(QStringLiteral("anna")).rating;
+        const int rating = session.roster().contact("anna"_q).rating;
         QVERIFY(rating == last % 11 || rating == (last + 1) % 11);
     }
 
@@ -307,7 +300,7 @@ private Q_SLOTS:
             const auto fields = dialog->findChildren<QLineEdit *>();
             for (QLineEdit *field : fields) {
                 if (field->isVisible() && field->text().isEmpty())
-                    QTest::keyClicks(field, QStringLiteral("Ada Berg"));
+                    QTest::keyClicks(field, "Ada Berg"_q);
             }
             for (const char *button : {"Exit", "Complete", "Next"})
                 press(dialog, QString::fromLatin1(button));
@@ -316,11 +309,8 @@ private Q_SLOTS:
         QVERIFY(client.start());
         QVERIFY(client.mainWindow()->isVisible());
         QCOMPARE(client.mainWindow()->contacts()->shownCount(), 17);
-        QVERIFY(waitFor([&] { return !user.heardFrom(QStringLiteral("guide")).isEmpty(); },
-                        kPatienceMs));
-        QVERIFY(user.heardFrom(QStringLiteral("guide"))
-                        .first()
-                        .contains(QLatin1String("Ada Berg")));
+        QVERIFY(waitFor([&] { return !user.heardFrom("guide"_q).isEmpty(); }, kPatienceMs));
+        QVERIFY(user.heardFrom("guide"_q).first().contains("Ada Berg"_q));
         QVERIFY(isContactId(user.session().account().id));
     }
 
@@ -329,9 +319,9 @@ private Q_SLOTS:
         User user((QString()));
         const DialogUser refusing([](QWidget *dialog) {
             if (qobject_cast<ombrin::OmMessageBox *>(dialog))
-                press(dialog, QStringLiteral("Yes"));
+                press(dialog, "Yes"_q);
             else
-                press(dialog, QStringLiteral("Cancel"));
+                press(dialog, "Cancel"_q);
         });
         Client client(&user.session());
         QVERIFY(!client.start());
@@ -340,17 +330,16 @@ private Q_SLOTS:
 
     void userChatsWithTheGuide()
     {
-        User user(QStringLiteral("ada"));
+        User user("ada"_q);
         user.session().script()->setPace(0);
         Client client(&user.session());
         QVERIFY(client.start());
-        client.perform(QStringLiteral("chat"), QStringLiteral("guide"));
-        ChatWindow *chat = client.openChat(QStringLiteral("guide"));
-        QTest::keyClicks(chat->input(), QStringLiteral("nudge html picture"));
+        client.perform("chat"_q, "guide"_q);
+        ChatWindow *chat = client.openChat("guide"_q);
+        QTest::keyClicks(chat->input(), "nudge html picture"_q);
         QTest::keyClick(chat->input(), Qt::Key_Return);
         QVERIFY(chat->input()->toPlainText().isEmpty());
-        QVERIFY(waitFor([&] { return user.heardFrom(QStringLiteral("guide")).size() >= 2; },
-                        kPatienceMs));
+        QVERIFY(waitFor([&] { return user.heardFrom("guide"_q).size() >= 2; }, kPatienceMs));
         chat->close();
     }
 
@@ -360,24 +349,24 @@ private Q_SLOTS:
         const ProfileFolder profile(folder.path());
         Session session(profile, ContactBook::load(shippedBook()));
         // Something else stands in the way of the conversation.
-        QVERIFY(QDir().mkpath(profile.historyFile(QStringLiteral("guide"))));
+        QVERIFY(QDir().mkpath(profile.historyFile("guide"_q)));
         QVector<Message> shown;
         connect(&session, &Session::messageAdded, this,
                 [&](const QString &, const Message &message) { shown.append(message); });
-        session.sendText(QStringLiteral("guide"), QStringLiteral("Hello"));
+        session.sendText("guide"_q, "Hello"_q);
         QCOMPARE(shown.size(), 2);
-        QCOMPARE(shown.at(0).text, QStringLiteral("Hello"));
+        QCOMPARE(shown.at(0).text, "Hello"_q);
         QCOMPARE(shown.at(1).from, Message::From::Messenger);
     }
 
     void noPartOfALongMessageIsLost()
     {
-        User user(QStringLiteral("ada"));
+        User user("ada"_q);
         const QString smile = QString::fromUtf8("\xf0\x9f\x98\x80");
         const QString text = QLatin1Char('x') + smile.repeated(kLongestText);
-        user.session().sendText(QStringLiteral("anna"), text);
+        user.session().sendText("anna"_q, text);
         QString sent;
-        for (const Message &message : user.session().messages(QStringLiteral("anna"), 100)) {
+        for (const Message &message : user.session().messages("anna"_q, 100)) {
             if (message.from == Message::From::Me)
                 sent += message.text;
         }
@@ -386,8 +375,8 @@ private Q_SLOTS:
 
     void draftsAndPicturesFindTheirWay()
     {
-        User user(QStringLiteral("ada"));
-        const QString anna = QStringLiteral("anna");
+        User user("ada"_q);
+        const QString anna = "anna"_q;
         const auto pictureCount = [&] {
             const QVector<Message> messages = user.session().messages(anna, 100);
             return std::count_if(messages.begin(), messages.end(), [](const Message &message) {
@@ -400,11 +389,11 @@ private Q_SLOTS:
             Client client(&user.session());
             QVERIFY(client.start());
             ChatWindow *chat = client.openChat(anna);
-            QTest::keyClicks(chat->input(), QStringLiteral("Half a sent"));
+            QTest::keyClicks(chat->input(), "Half a sent"_q);
             // What is dropped may be anything, also a list of files with none in it. The input
             // takes pictures as it takes what is pasted.
             QMimeData garbage;
-            garbage.setData(QStringLiteral("text/uri-list"), "\n\xff");
+            garbage.setData("text/uri-list"_q, "\n\xff");
             QMimeData dropped;
             dropped.setImageData(picture);
             drop(chat, garbage);
@@ -423,7 +412,7 @@ private Q_SLOTS:
         Client client(&user.session());
         QVERIFY(client.start());
         ChatWindow *chat = client.openChat(anna);
-        QCOMPARE(chat->input()->toPlainText(), QStringLiteral("Half a sent"));
+        QCOMPARE(chat->input()->toPlainText(), "Half a sent"_q);
         QTest::keyClick(chat->input(), Qt::Key_Return);
         chat->close();
         QVERIFY(user.session().draft(anna).isEmpty());
@@ -454,28 +443,28 @@ private Q_SLOTS:
 
     void contactsAreChosenByKey()
     {
-        User user(QStringLiteral("ada"));
+        User user("ada"_q);
         Client client(&user.session());
         QVERIFY(client.start());
         ContactList *contacts = client.mainWindow()->contacts();
         QStringList actions;
         connect(contacts, &ContactList::actionId, this,
                 [&](const QString &id, const QString &contact) { actions.append(id + contact); });
-        QCOMPARE(contacts->currentContactId(), QStringLiteral("guide"));
+        QCOMPARE(contacts->currentContactId(), "guide"_q);
         QTest::keyClick(contacts, Qt::Key_Down);
-        QCOMPARE(contacts->currentContactId(), QStringLiteral("anna"));
+        QCOMPARE(contacts->currentContactId(), "anna"_q);
 
         // A peer that comes changes the order, and nothing else.
         Contact peer;
-        peer.id = contactIdOfPeer(QStringLiteral("bob"));
-        peer.alias = QStringLiteral("Bob");
+        peer.id = contactIdOfPeer("bob"_q);
+        peer.alias = "Bob"_q;
         peer.status = ombrin::Om::Online;
         user.session().roster().putPeer(peer);
-        QCOMPARE(contacts->card(1)->alias(), QStringLiteral("Bob"));
-        QCOMPARE(contacts->currentContactId(), QStringLiteral("anna"));
+        QCOMPARE(contacts->card(1)->alias(), "Bob"_q);
+        QCOMPARE(contacts->currentContactId(), "anna"_q);
         QTest::keyClick(contacts, Qt::Key_Up);
         QCOMPARE(contacts->currentContactId(), peer.id);
-        ombrin::OmContactCard *bela = contacts->cardOf(QStringLiteral("bela"));
+        ombrin::OmContactCard *bela = contacts->cardOf("bela"_q);
         QVERIFY(waitFor([&] { return bela->findChild<ombrin::OmAvatarSmall *>() != nullptr; },
                         kPatienceMs));
         Q_EMIT bela->avatarClicked();
@@ -483,17 +472,17 @@ private Q_SLOTS:
 
         // What the filter hides cannot be meant.
         ContactFilter filter;
-        filter.words = QStringLiteral("Lena");
+        filter.words = "Lena"_q;
         contacts->setFilter(filter);
         QVERIFY(contacts->currentContactId().isEmpty());
         contacts->takeKeys();
         QTest::keyClick(contacts, Qt::Key_Return);
-        QCOMPARE(actions, QStringList({QStringLiteral("chatlena")}));
+        QCOMPARE(actions, QStringList({"chatlena"_q}));
     }
 
     void messengerMayEndWhileADialogIsOpen()
     {
-        User user(QStringLiteral("ada"));
+        User user("ada"_q);
         auto client = std::make_unique<Client>(&user.session());
         QVERIFY(client->start());
         const DialogUser ending([&](QWidget *) { client.reset(); });
@@ -503,28 +492,27 @@ private Q_SLOTS:
 
     void whatIsDoneToContactsIsRemembered()
     {
-        User user(QStringLiteral("ada"));
+        User user("ada"_q);
         {
             Client client(&user.session());
             QVERIFY(client.start());
-            const DialogUser confirming(
-                    [](QWidget *dialog) { press(dialog, QStringLiteral("Yes")); });
-            client.perform(QStringLiteral("block"), QStringLiteral("anna"));
-            client.perform(QStringLiteral("unblock"), QStringLiteral("petra"));
-            client.openChat(QStringLiteral("emil"));
-            client.perform(QStringLiteral("delete"), QStringLiteral("emil"));
-            QVERIFY(!client.mainWindow()->contacts()->cardOf(QStringLiteral("emil")));
-            QVERIFY(client.mainWindow()->contacts()->cardOf(QStringLiteral("anna"))->isBlocked());
-            user.session().sendText(QStringLiteral("anna"), QStringLiteral("Hello?"));
-            const QVector<Message> messages = user.session().messages(QStringLiteral("anna"), 10);
-            QCOMPARE(messages.constLast().text, QStringLiteral("Hello?"));
+            const DialogUser confirming([](QWidget *dialog) { press(dialog, "Yes"_q); });
+            client.perform("block"_q, "anna"_q);
+            client.perform("unblock"_q, "petra"_q);
+            client.openChat("emil"_q);
+            client.perform("delete"_q, "emil"_q);
+            QVERIFY(!client.mainWindow()->contacts()->cardOf("emil"_q));
+            QVERIFY(client.mainWindow()->contacts()->cardOf("anna"_q)->isBlocked());
+            user.session().sendText("anna"_q, "Hello?"_q);
+            const QVector<Message> messages = user.session().messages("anna"_q, 10);
+            QCOMPARE(messages.constLast().text, "Hello?"_q);
         }
         user.start();
-        QVERIFY(user.contact(QStringLiteral("anna")).isBlocked);
-        QVERIFY(!user.contact(QStringLiteral("petra")).isBlocked);
-        QVERIFY(!user.session().roster().contains(QStringLiteral("emil")));
-        user.session().roster().restore(QStringLiteral("emil"));
-        QVERIFY(user.session().roster().contains(QStringLiteral("emil")));
+        QVERIFY(user.contact("anna"_q).isBlocked);
+        QVERIFY(!user.contact("petra"_q).isBlocked);
+        QVERIFY(!user.session().roster().contains("emil"_q));
+        user.session().roster().restore("emil"_q);
+        QVERIFY(user.session().roster().contains("emil"_q));
     }
 
     void oneCopyHasAProfile()
@@ -540,15 +528,14 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         QProcess program;
-        program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/ombrin_messenger"),
-                      {QStringLiteral("--screenshots"), folder.path()});
+        program.start(QCoreApplication::applicationDirPath() + "/ombrin_messenger"_q,
+                      {"--screenshots"_q, folder.path()});
         QVERIFY(program.waitForFinished(4 * kPatienceMs));
         QVERIFY2(program.exitCode() == 0, program.readAllStandardError().constData());
         const QStringList pictures = QDir(folder.path()).entryList(QDir::Files);
         QCOMPARE(pictures.size(), 18);
-        const QImage chat(folder.filePath(QStringLiteral("messenger-chat.png")));
-        QCOMPARE(QImage(folder.filePath(QStringLiteral("messenger-chat@2x.png"))).size(),
-                 2 * chat.size());
+        const QImage chat(folder.filePath("messenger-chat.png"_q));
+        QCOMPARE(QImage(folder.filePath("messenger-chat@2x.png"_q)).size(), 2 * chat.size());
     }
 };
 

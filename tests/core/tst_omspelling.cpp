@@ -208,7 +208,9 @@ private Q_SLOTS:
 
         // What is asked for goes before what was begun in advance.
         QTRY_VERIFY_WITH_TIMEOUT(ready.contains({"sxx"_q}), 20000);
-        QVERIFY(ready.indexOf({"sxx"_q}) <= 1);
+        const QList<QVariantList> before = ready.mid(0, ready.indexOf({"sxx"_q}));
+        for (const QVariantList &told : before)
+            QVERIFY(!told.first().toString().startsWith("nxx"_q));
         QVERIFY(m_spelling->prepareSuggestions("bxx"_q, 5000));
         QCOMPARE(m_spelling->suggestionList("bxx"_q), QStringList("Berlin"_q));
     }

@@ -13,13 +13,13 @@ namespace Om = ombrin::Om;
 // Nobody knows more people on one machine.
 constexpr int kMostPeers = 200;
 
-constexpr QLatin1String kStateKey("contacts");
-constexpr QLatin1String kBlockedKey("blocked");
-constexpr QLatin1String kRemovedKey("removed");
-constexpr QLatin1String kRatingKey("rating");
-constexpr QLatin1String kUnreadKey("unread");
-constexpr QLatin1String kPeerNameKey("peer");
-constexpr QLatin1String kPeerPictureKey("picture");
+const QLatin1String kStateKey("contacts");
+const QLatin1String kBlockedKey("blocked");
+const QLatin1String kRemovedKey("removed");
+const QLatin1String kRatingKey("rating");
+const QLatin1String kUnreadKey("unread");
+const QLatin1String kPeerNameKey("peer");
+const QLatin1String kPeerPictureKey("picture");
 
 } // namespace
 

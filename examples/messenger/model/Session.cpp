@@ -21,8 +21,8 @@ constexpr int kPortraitExtent = 320;
 constexpr int kLargestPortrait = 400 << 10;
 constexpr int kNudgePauseMs = 4000;
 
-constexpr QLatin1String kAccountKey("account");
-constexpr QLatin1String kDraftsKey("drafts");
+const QLatin1String kAccountKey("account");
+const QLatin1String kDraftsKey("drafts");
 
 /// How much of \a text from \a start on goes into one message: never half a character.
 int messageLength(const QString &text, int start)

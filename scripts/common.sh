@@ -19,7 +19,7 @@ packages_test=(
   xserver-xorg-core xserver-xorg-video-dummy
   dbus-daemon doxygen
   qttools5-dev qttools5-dev-tools # translations, the Designer plug-in and Designer itself
-  speedcrunch # a foreign program for the style plug-in, as are Designer and Linguist
+  speedcrunch qt5-assistant qhelpgenerator-qt5 # foreign programs for the style plug-in
 )
 packages_qt6=(qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-tools-dev qt6-l10n-tools)
 packages_clang=(clang)

@@ -102,7 +102,7 @@ void ContactList::append(OmContactCard *card)
 {
     const QString id = card->ombrinId();
     connect(card, &OmContactCard::avatarClicked, this, [this, id] { openPicture(id); });
-    // Which card is the current one the list wants to be told.
+    // Makes it the current card, too.
     connect(card, SIGNAL(clicked()), this, SLOT(slotClickedTimer()));
     addCard(card);
 }

@@ -22,8 +22,8 @@ class OmTextEditSyntax;
 /// A word is checked when the text ends in a blank, a comma, a question mark, an exclamation mark
 /// or a full stop and the text cursor stands behind the word. Misspelt words are underlined
 /// wherever they stand (see OmTextEditSyntax); their context menu offers suggestions. The menu
-/// opens at once: suggestions that are still being looked for come in while it is open. A read-only edit
-/// underlines, but offers none.
+/// opens at once: suggestions that are still being looked for come in while it is open. A read-only
+/// edit underlines, but offers none.
 ///
 /// Formatted text is pasted and dropped as plain text without pictures, its runs of white space
 /// made one; nothing it refers to is loaded.

@@ -92,7 +92,7 @@ private Q_SLOTS:
         const auto row = columns<unsigned int, bool, int>("delay", "button", "number");
         row("at once", 0U, false, 0);
         row("button alone", 0U, true, 0);
-        row("half a second", 500U, false, 1);
+        row("not quite a second", 900U, false, 1);
         row("three seconds", 3000U, true, 3);
         row("twelve seconds", 12000U, true, 10);
         row("for ever", std::numeric_limits<unsigned int>::max(), true, 10);

@@ -18,6 +18,13 @@ namespace {
 constexpr LONG systemBoxes = 0xB0000;
 constexpr LONG maximizeBox = 0x10000;
 
+QRect rectOf(HWND window)
+{
+    RECT rect = {};
+    GetWindowRect(window, &rect);
+    return QRect(QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1));
+}
+
 // What the window and the dialog have in common, seen as the system sees it.
 struct Frame
 {
@@ -27,12 +34,7 @@ struct Frame
     HWND native() const { return reinterpret_cast<HWND>(widget->winId()); }
     LONG boxes() const { return GetWindowLongW(native(), GWL_STYLE) & systemBoxes; }
     bool isTopmost() const { return (GetWindowLongW(native(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
-    QRect rect() const
-    {
-        RECT rect = {};
-        GetWindowRect(native(), &rect);
-        return QRect(QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1));
-    }
+    QRect rect() const { return rectOf(native()); }
     void showAndWait() const
     {
         widget->show();
@@ -69,9 +71,11 @@ void press(DWORD button)
     SendInput(1, &input, sizeof(input));
 }
 
-// The user's hand, which goes on while the program is busy moving its window.
-void dragByHand(const QPoint &from, const QPoint &to)
+// The user's hand, which goes on while the program is busy moving its window, and lets go when
+// the eye sees that the window is where it should be, or after a while.
+void dragByHand(const QPoint &from, const QPoint &to, HWND window, const QRect &expected)
 {
+    constexpr int patience = 100;
     std::atomic<bool> isDone = false;
     std::thread hand([&] {
         constexpr int steps = 10;
@@ -83,7 +87,8 @@ void dragByHand(const QPoint &from, const QPoint &to)
             const QPoint position = from + (to - from) * step / steps;
             SetCursorPos(position.x(), position.y());
         }
-        Sleep(300); // a busy machine takes a while to follow
+        for (int waited = 0; waited < patience && rectOf(window) != expected; ++waited)
+            Sleep(100);
         press(MOUSEEVENTF_LEFTUP);
         Sleep(100);
         isDone = true;
@@ -218,7 +223,7 @@ private Q_SLOTS:
         frame.setFixed(isFixed);
         frame.showAndWait();
         const QPoint start = frame.rect().topLeft() + from;
-        dragByHand(start, start + by);
+        dragByHand(start, start + by, frame.native(), expected);
         QTRY_COMPARE_WITH_TIMEOUT(frame.rect(), expected, 20000);
         QCOMPARE(frame.widget->geometry(), expected);
     }

@@ -16,10 +16,12 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QToolBar>
 
 #include <cstdio>
 
@@ -37,6 +39,19 @@ auto *touchScreen()
 {
     static auto *const device = QTest::createTouchDevice();
     return device;
+}
+
+// Qt's docks and tool bars never free what they noted of a press when they go before its release.
+void releaseWhatIsDragged()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (!qobject_cast<QDockWidget *>(widget) && !qobject_cast<QToolBar *>(widget))
+            continue;
+        QMouseEvent release(QEvent::MouseButtonRelease, {}, widget->mapToGlobal(QPoint()),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &release);
+    }
 }
 
 } // namespace
@@ -167,6 +182,7 @@ void Monkey::finish()
                                           : QApplication::activeModalWidget();
     m_buttons = Qt::NoButton;
     sendMouse(QEvent::MouseButtonRelease, Qt::LeftButton); // ends a drag
+    releaseWhatIsDragged();
     if (opened) {
         QTimer::singleShot(0, this, &Monkey::tick);
         closeOpened();

@@ -152,27 +152,29 @@ QPushButton *WizardButtons::mainButton() const
 void WizardButtons::turnPage(Action action)
 {
     const QPointer<COmWizard_Base> wizard(m_wizard);
-    if (!isPossibleAndAllowed(action))
+    if (m_isAtWork || !isPossibleAndAllowed(action))
         return;
+    m_isAtWork = true;
     if (action == Next)
         m_wizard->Mission()->NextPage();
     else
         m_wizard->Mission()->PrevPage();
-    if (wizard)
-        wizard->RefreshDialog();
+    if (!wizard)
+        return;
+    m_isAtWork = false;
+    wizard->RefreshDialog();
 }
 
 void WizardButtons::execute()
 {
     const QPointer<COmWizard_Base> wizard(m_wizard);
-    // The user may click again while a mission that takes its time lets the event loop run.
-    if (m_isExecuting || !isPossibleAndAllowed(Execute))
+    if (m_isAtWork || !isPossibleAndAllowed(Execute))
         return;
-    m_isExecuting = true;
+    m_isAtWork = true;
     const bool isExecuted = m_wizard->Mission()->ExecuteMission();
     if (!wizard)
         return;
-    m_isExecuting = false;
+    m_isAtWork = false;
     m_isExecuted = isExecuted;
     wizard->RefreshDialog();
 }

@@ -75,7 +75,9 @@ private:
     COmWizard_Base *m_wizard;
     QPointer<QPushButton> m_buttons[ActionCount];
     bool m_isExecuted = false;
-    bool m_isExecuting = false;
+    // The mission turns a page or is executed. The user may click again while one that takes its
+    // time lets the event loop run; all but cancelling is left alone then.
+    bool m_isAtWork = false;
     bool m_isAsking = false;
 };
 

@@ -129,8 +129,10 @@ private Q_SLOTS:
         const auto wizard = makeWizard(compact, &mission);
         // Clicks while the mission works are not piled up.
         log.heard = [&](const QString &what) {
-            if (what == "ExecuteMission"_q)
-                click(button(wizard.get(), Execute));
+            for (const Action action : {Execute, Next, Previous}) {
+                if (what.endsWith("Page"_q) || what == "ExecuteMission"_q)
+                    invoke(wizard.get(), action);
+            }
         };
         whenOpen<COmWizard_Base>([&](COmWizard_Base *open) {
             const std::tuple<Action, bool, const char *> steps[] = {

@@ -21,7 +21,7 @@ bool OmScribbledZebraItemList::Override_BeforeItemAdded(OmScribbledZebraItemBase
 {
     if (!item)
         return false;
-    disconnectItem(item);
+    const bool isNew = !disconnectItem(item);
     // sender() would cost more the more items there are.
     connect(item, &OmScribbledZebraItemBase::signalOnChanged, this, [this, item] {
         noteChange(item);
@@ -30,7 +30,7 @@ bool OmScribbledZebraItemList::Override_BeforeItemAdded(OmScribbledZebraItemBase
     connect(item, &QObject::destroyed, this, [this, item] { onItemDestroyed(item); });
     item->setParent(this);
     noteChange(item);
-    return true;
+    return isNew;
 }
 
 bool OmScribbledZebraItemList::Override_BeforeItemDeleted(OmScribbledZebraItemBase *&item)
@@ -46,10 +46,11 @@ void OmScribbledZebraItemList::slotOnItemChanged()
     Q_EMIT signalOnChanged();
 }
 
-void OmScribbledZebraItemList::disconnectItem(OmScribbledZebraItemBase *item)
+// Whether the list was connected to the item, as it is to those that it holds.
+bool OmScribbledZebraItemList::disconnectItem(OmScribbledZebraItemBase *item)
 {
     disconnect(item, &OmScribbledZebraItemBase::signalOnChanged, this, nullptr);
-    disconnect(item, &QObject::destroyed, this, nullptr);
+    return disconnect(item, &QObject::destroyed, this, nullptr);
 }
 
 void OmScribbledZebraItemList::noteChange(OmScribbledZebraItemBase *item)

@@ -22,12 +22,13 @@ void OmScribbledZebraPoleList::Override_ChangesHappened()
 
 bool OmScribbledZebraPoleList::Override_BeforeItemAdded(OmScribbledZebraPole *&item)
 {
-    if (!item)
+    // The list is connected to the poles that it holds.
+    if (!item
+        || !connect(item, &QObject::destroyed, this, &OmScribbledZebraPoleList::onItemDestroyed,
+                    Qt::UniqueConnection))
         return false;
     connect(item, &OmScribbledZebraPole::signalOnChanged, this,
-            &OmScribbledZebraPoleList::slotOnItemChanged, Qt::UniqueConnection);
-    connect(item, &QObject::destroyed, this, &OmScribbledZebraPoleList::onItemDestroyed,
-            Qt::UniqueConnection);
+            &OmScribbledZebraPoleList::slotOnItemChanged);
     item->setParent(this);
     return true;
 }

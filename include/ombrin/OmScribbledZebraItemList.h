@@ -21,7 +21,8 @@ extern template class OMBRIN_GUI_EXPORT COmMonitoredList<OmScribbledZebraItemBas
 /// \endcode
 ///
 /// An added item becomes a child of the list, and stays one when it is removed. An item that is
-/// deleted leaves the list; null is not added. An item belongs into one list, once.
+/// deleted leaves the list. An item belongs into one list, once: null and what is in the list
+/// already are not added.
 ///
 /// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraItemList
@@ -51,7 +52,7 @@ private Q_SLOTS:
 
 private:
     ombrin::ZebraLayout *viewLayout() const;
-    void disconnectItem(OmScribbledZebraItemBase *item);
+    bool disconnectItem(OmScribbledZebraItemBase *item);
     void noteChange(OmScribbledZebraItemBase *item);
     void onItemDestroyed(OmScribbledZebraItemBase *item);
 };

@@ -17,7 +17,8 @@ extern template class OMBRIN_GUI_EXPORT COmMonitoredList<OmScribbledZebraPole *>
 /// \endcode
 ///
 /// An added pole becomes a child of the list, and stays one when it is removed. A pole that is
-/// deleted leaves the list; null is not added. A pole belongs into one list, once.
+/// deleted leaves the list. A pole belongs into one list, once: null and what is in the list
+/// already are not added.
 ///
 /// \ingroup views
 class OMBRIN_GUI_EXPORT OmScribbledZebraPoleList : public QObject,

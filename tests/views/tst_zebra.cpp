@@ -189,6 +189,27 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 6);
     }
 
+    void whatIsInTheListIsNotAddedOnceMore()
+    {
+        View view;
+        view.poles().append(5, true);
+        OmScribbledZebraPole *const pole = view.poles().first();
+        Block *const block = view.addBlock(0, 0, true, QSize(10, 20));
+        view.poles() << pole;
+        view.poles().replace(0, pole);
+        view.items() << block;
+        view.items().replace(0, block);
+        QCOMPARE(view.poles().size(), 1);
+        QCOMPARE(view.items().size(), 1);
+        pole->setIndent(7);
+        QCOMPARE(block->place(), QPoint(7, 0));
+        view.items().removeAt(0);
+        view.items() << block;
+        delete block;
+        delete pole;
+        QVERIFY(view.items().isEmpty() && view.poles().isEmpty());
+    }
+
     void itemsStandAtTheirPoles_data()
     {
         // placeIfWider: in a viewport of 400 pixels instead of 300

@@ -146,8 +146,9 @@ void OmTextBrowser::contextMenuEvent(QContextMenuEvent *event)
     const QString picture = m_saveableImages ? pictureAt(event->pos()) : QString();
     if (!picture.isEmpty() && !isResource(picture))
         return showPictureMenu(picture, event->globalPos());
-    m_menuPosition = event->pos();
-    standardContextMenu(m_menuPosition)->exec(event->globalPos());
+    // Asked now: the history may move on beneath the open menu.
+    m_menuLink = anchorAt(event->pos());
+    standardContextMenu()->exec(event->globalPos());
 }
 
 QMimeData *OmTextBrowser::createMimeDataFromSelection() const
@@ -190,10 +191,10 @@ void OmTextBrowser::slotSelectionChanged()
 
 void OmTextBrowser::slotCopyAnchor()
 {
-    QApplication::clipboard()->setText(anchorAt(m_menuPosition), QClipboard::Clipboard);
+    QApplication::clipboard()->setText(m_menuLink, QClipboard::Clipboard);
 }
 
-std::unique_ptr<QMenu> OmTextBrowser::standardContextMenu(const QPoint &pos)
+std::unique_ptr<QMenu> OmTextBrowser::standardContextMenu()
 {
     auto menu = std::make_unique<QMenu>();
     const auto add = [this, &menu](const QString &text, auto slot, bool isEnabled) {
@@ -204,7 +205,7 @@ std::unique_ptr<QMenu> OmTextBrowser::standardContextMenu(const QPoint &pos)
     };
     QAction *copyEntry = add(tr("&Copy"), &QTextEdit::copy, m_copyAvailable);
     copyEntry->setShortcut(QKeySequence::Copy);
-    add(tr("Copy &Link Location"), &OmTextBrowser::slotCopyAnchor, !anchorAt(pos).isEmpty());
+    add(tr("Copy &Link Location"), &OmTextBrowser::slotCopyAnchor, !m_menuLink.isEmpty());
     menu->addSeparator();
     QAction *selectEntry = add(tr("&Select All"), &QTextEdit::selectAll, m_hasText);
     selectEntry->setShortcut(QKeySequence::SelectAll);

@@ -3,6 +3,7 @@
 #include <ombrin/OmGlobal.h>
 
 #include <QtCore/QPoint>
+#include <QtCore/QString>
 #include <QtWidgets/QTextBrowser>
 
 #include <memory>
@@ -80,7 +81,7 @@ private Q_SLOTS:
     void slotCopyAnchor();
 
 private:
-    std::unique_ptr<QMenu> standardContextMenu(const QPoint &pos);
+    std::unique_ptr<QMenu> standardContextMenu();
     QString pictureAt(const QPoint &pos) const;
     void showPictureMenu(const QString &source, const QPoint &globalPos);
     void savePicture(const QString &source);
@@ -89,7 +90,7 @@ private:
     bool m_saveableImages = false;
     bool m_copyAvailable = false;
     bool m_hasText = false;
-    QPoint m_menuPosition;
+    QString m_menuLink;
 };
 
 } // namespace ombrin

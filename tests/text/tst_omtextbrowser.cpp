@@ -187,9 +187,14 @@ private Q_SLOTS:
         const QString bar = "-"_q;
         QCOMPARE(menuAt({5, 5}), QStringList({copyOff, linkOff, bar, "&Select All (off)"_q}));
 
-        m_browser->setHtml("<a href='tel:55'>a link</a>"_q);
-        openMenu(placeOf(3), [](QMenu *menu) { choose(menu, 1); });
+        const QString link = "<a href='tel:55'>a link</a>"_q;
+        m_browser->setHtml(link);
+        openMenu(placeOf(3), [this](QMenu *menu) {
+            m_browser->clear(); // the history moves on beneath it
+            choose(menu, 1);
+        });
         QCOMPARE(QApplication::clipboard()->text(), "tel:55"_q);
+        m_browser->setHtml(link);
         const auto selectAll = [](QMenu *menu) {
             QCOMPARE(menu->actions().at(3)->shortcut(), QKeySequence(QKeySequence::SelectAll));
             choose(menu, 3);

@@ -4,7 +4,7 @@ namespace ombrin {
 
 class OmRatingLabel;
 
-/// Makes rating labels known to assistive technology. Only the first call does something.
+/// Makes rating labels known to assistive technology. Called by their constructor.
 void installRatingLabelAccessibility();
 
 /// Tells assistive technology, if there is any, the rating that \a label has come to show.

@@ -49,9 +49,8 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
 
 void installBalloonTipAccessibility()
 {
-    // Qt takes a factory once, however often it is installed, but looks for it in a list.
-    static const bool installed = (QAccessible::installFactory(createInterface), true);
-    Q_UNUSED(installed)
+    // Not once for all: an application that ends takes the factories along. Qt takes each once.
+    QAccessible::installFactory(createInterface);
 }
 
 } // namespace ombrin

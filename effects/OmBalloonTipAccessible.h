@@ -2,7 +2,7 @@
 
 namespace ombrin {
 
-/// Makes balloon tips known to assistive technology. Only the first call does something.
+/// Makes balloon tips known to assistive technology. Called by their constructor.
 void installBalloonTipAccessibility();
 
 } // namespace ombrin

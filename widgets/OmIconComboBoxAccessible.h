@@ -2,7 +2,7 @@
 
 namespace ombrin {
 
-/// Makes icon combo boxes known to assistive technology. Only the first call does something.
+/// Makes icon combo boxes known to assistive technology. Called by their constructor.
 ///
 /// What Qt shows of a combo box is the text of the current item, and icons need not have one.
 void installIconComboBoxAccessibility();

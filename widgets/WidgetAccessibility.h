@@ -5,7 +5,7 @@ class QWidget;
 namespace ombrin {
 
 /// Makes the image and masked buttons, labels, link buttons and menu items known to assistive
-/// technology. Called by their constructors; only the first call does something.
+/// technology. Called by their constructors.
 void installWidgetAccessibility();
 
 /// Tells assistive technology, if there is any, that \a widget was pressed or let go.

@@ -274,5 +274,13 @@ private:
     std::unique_ptr<OmIconComboBox> m_box;
 };
 
-OMBRIN_TEST_MAIN(tst_OmIconComboBox)
+int main(int argc, char *argv[])
+{
+    {
+        // An application of before took along what Qt knew of the box.
+        const QApplication former(argc, argv);
+        const OmIconComboBox box;
+    }
+    return ombrin::test::run<tst_OmIconComboBox>(argc, argv);
+}
 #include "tst_omiconcombobox.moc"

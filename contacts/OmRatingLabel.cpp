@@ -2,7 +2,9 @@
 
 #include "contacts/OmRatingLabelAccessible.h"
 #include "contacts/ScaledPixmap.h"
+#include "widgets/KeyboardAccess.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 
@@ -13,6 +15,7 @@ namespace ombrin {
 namespace {
 
 constexpr int kStars = 5;
+constexpr int kMaxRating = 2 * kStars;
 constexpr int kMaxStarSize = 32;
 constexpr int kMargin = 1;
 constexpr int kGap = 1;
@@ -70,6 +73,15 @@ void OmRatingLabel::mouseMoveEvent(QMouseEvent *event)
     QLabel::mouseMoveEvent(event);
 }
 
+void OmRatingLabel::keyPressEvent(QKeyEvent *event)
+{
+    const int rating = ratingOfKey(event);
+    if (!hasFocus() || rating < 0)
+        QLabel::keyPressEvent(event);
+    else if (rating != m_rating)
+        giveRating(rating);
+}
+
 void OmRatingLabel::enterEvent(EnterEvent *event)
 {
     m_hovered = true;
@@ -111,11 +123,37 @@ void OmRatingLabel::paintEvent(QPaintEvent *)
                 draw(QStringLiteral(":/star_full-32"));
         }
     }
+    drawFocusFrame(&painter, this);
 }
 
 int OmRatingLabel::starSize() const
 {
     return std::clamp(height() - 2 * kMargin, 0, kMaxStarSize);
+}
+
+// The rating to which a key leads, or -1. Right is more also where texts run from right to left:
+// the stars always run from left to right.
+int OmRatingLabel::ratingOfKey(const QKeyEvent *event) const
+{
+    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return -1;
+    const int rating = std::clamp(m_rating, 0, kMaxRating);
+    switch (event->key()) {
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Plus:
+        return std::min(rating + 1, kMaxRating);
+    case Qt::Key_Left:
+    case Qt::Key_Down:
+    case Qt::Key_Minus:
+        return std::max(rating - 1, 0);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return kMaxRating;
+    default:
+        return -1;
+    }
 }
 
 // How many half stars are left of the pointer or under it.
@@ -129,7 +167,7 @@ int OmRatingLabel::litHalves() const
         if (m_pointer.x() <= (star + 1) * pitch - size / 2)
             return 2 * star + 1;
     }
-    return 2 * kStars;
+    return kMaxRating;
 }
 
 // A pointer that is not over a star leaves the rating as it was.

@@ -1,9 +1,11 @@
 #include <ombrin/OmImageButton.h>
 
+#include "widgets/KeyboardAccess.h"
 #include "widgets/WidgetAccessibility.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 
@@ -263,18 +265,43 @@ void OmImageButton::mouseReleaseEvent(QMouseEvent *event)
 {
     m_pressedOutside = false;
     m_pressTracked = false;
+    m_pressedByKey = false;
     if (!m_down)
         return;
     storeDown(false);
     update();
-    if (!rect().contains(mousePosition(event)))
-        return;
+    if (rect().contains(mousePosition(event)))
+        click();
+}
 
-    const QPointer<OmImageButton> guard(this);
-    storeChecked(!m_checked);
-    Q_EMIT clicked(m_checked);
-    if (guard)
-        Q_EMIT released();
+void OmImageButton::keyPressEvent(QKeyEvent *event)
+{
+    if (!isClickKey(this, event)) {
+        QWidget::keyPressEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        m_pressedByKey = true;
+        storeDown(true);
+        update();
+        Q_EMIT pressed();
+    }
+}
+
+void OmImageButton::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!m_pressedByKey || !isClickKey(this, event)) {
+        QWidget::keyReleaseEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        dropPress();
+        click();
+    }
+}
+
+// The release of a key that was pressed here will go elsewhere.
+void OmImageButton::focusOutEvent(QFocusEvent *event)
+{
+    if (m_pressedByKey)
+        dropPress();
+    QWidget::focusOutEvent(event);
 }
 
 void OmImageButton::enterEvent(EnterEvent *)
@@ -369,10 +396,25 @@ void OmImageButton::dropLostPress()
 {
     if (!m_pressTracked || QGuiApplication::mouseButtons() != Qt::NoButton)
         return;
+    dropPress();
+}
+
+void OmImageButton::dropPress()
+{
     m_pressTracked = false;
     m_pressedOutside = false;
+    m_pressedByKey = false;
     storeDown(false);
     update();
+}
+
+void OmImageButton::click()
+{
+    const QPointer<OmImageButton> guard(this);
+    storeChecked(!m_checked);
+    Q_EMIT clicked(m_checked);
+    if (guard)
+        Q_EMIT released();
 }
 
 } // namespace ombrin

@@ -1,10 +1,12 @@
 #include <ombrin/OmLabel.h>
 
+#include "widgets/KeyboardAccess.h"
 #include "widgets/TextElision.h"
 #include "widgets/WidgetAccessibility.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 
 #include <algorithm>
 
@@ -107,6 +109,14 @@ void OmLabel::mouseReleaseEvent(QMouseEvent *event)
     QLabel::mouseReleaseEvent(event);
 }
 
+void OmLabel::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_link || !isClickKey(this, event))
+        QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT clicked();
+}
+
 void OmLabel::enterEvent(EnterEvent *event)
 {
     if (reportHover(true))
@@ -133,6 +143,15 @@ void OmLabel::changeEvent(QEvent *event)
     m_textWidth = -1;
     m_rightWidths = {};
     showElidedAgain();
+}
+
+void OmLabel::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    if (!m_link)
+        return;
+    QPainter painter(this);
+    drawFocusFrame(&painter, this);
 }
 
 void OmLabel::showText()

@@ -1,5 +1,6 @@
 #include <ombrin/OmLinkButton.h>
 
+#include "widgets/KeyboardAccess.h"
 #include "widgets/TextElision.h"
 #include "widgets/WidgetAccessibility.h"
 
@@ -11,15 +12,6 @@ namespace ombrin {
 namespace {
 
 constexpr int kMargin = 2;
-
-void drawFocus(QStylePainter *painter, const OmLinkButton *button)
-{
-    QStyleOptionFocusRect option;
-    option.initFrom(button);
-    option.rect = button->contentsRect();
-    option.backgroundColor = button->palette().color(QPalette::Window);
-    painter->drawPrimitive(QStyle::PE_FrameFocusRect, option);
-}
 
 void drawArrow(QStylePainter *painter, const OmLinkButton *button, const QRect &text)
 {
@@ -96,8 +88,7 @@ void OmLinkButton::paintEvent(QPaintEvent *)
     if (isCheckable())
         drawArrow(&painter, this, drawn);
     painter.restore();
-    if (hasFocus())
-        drawFocus(&painter, this);
+    drawFocusFrame(&painter, this);
 }
 
 } // namespace ombrin

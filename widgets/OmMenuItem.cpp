@@ -2,10 +2,14 @@
 
 #include <ombrin/OmDesktop.h>
 
+#include "skin/LightGround.h"
 #include "skin/SkinPixmap.h"
+#include "widgets/KeyboardAccess.h"
 #include "widgets/WidgetAccessibility.h"
 
 #include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 
@@ -41,6 +45,7 @@ OmMenuItem::OmMenuItem(QWidget *parent)
     row->addWidget(m_textLabel);
 
     OmDesktop::setBackgroundColor(this, kGround);
+    keepTextReadable(this);
 }
 
 OmMenuItem::~OmMenuItem() = default;
@@ -75,6 +80,14 @@ void OmMenuItem::mousePressEvent(QMouseEvent *event)
         QWidget::mousePressEvent(event);
 }
 
+void OmMenuItem::keyPressEvent(QKeyEvent *event)
+{
+    if (!isClickKey(this, event))
+        QFrame::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT clicked();
+}
+
 void OmMenuItem::enterEvent(EnterEvent *event)
 {
     OmDesktop::setBackgroundColor(this, kHoveredGround);
@@ -85,6 +98,13 @@ void OmMenuItem::leaveEvent(QEvent *event)
 {
     OmDesktop::setBackgroundColor(this, kGround);
     QFrame::leaveEvent(event);
+}
+
+void OmMenuItem::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    drawFocusFrame(&painter, this);
 }
 
 } // namespace ombrin

@@ -1,5 +1,7 @@
 #include <ombrin/OmStatusBar.h>
 
+#include "skin/LightGround.h"
+
 #include <QtGui/QLinearGradient>
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
@@ -24,7 +26,9 @@ QLinearGradient backgroundFor(const QRect &rect)
 
 OmStatusBar::OmStatusBar(QWidget *parent)
     : QStatusBar(parent)
-{}
+{
+    keepTextReadable(this);
+}
 
 OmStatusBar::~OmStatusBar() = default;
 

@@ -39,6 +39,10 @@ namespace ombrin {
 /// released(); a release outside emits nothing. The pointer may leave the button and come back
 /// while the mouse button is held. The button may be deleted in a slot of any of its signals.
 ///
+/// The button takes the keyboard focus only if the host gives it a focus policy. Then Space, Return
+/// and Enter press it while they are held down. Since it draws nothing but its pictures, a
+/// QFocusFrame can show that it has the focus.
+///
 /// Assistive technology sees a push button named by accessibleName() or else by its tool tip.
 ///
 /// \ingroup widgets
@@ -114,7 +118,7 @@ public:
 Q_SIGNALS:
     /// The button was pressed and released; \a checked is its new state.
     void clicked(bool checked = false);
-    /// The left mouse button went down on the button.
+    /// The left mouse button went down on the button, or a key while it has the focus.
     void pressed();
     /// Follows clicked().
     void released();
@@ -130,6 +134,9 @@ protected:
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void enterEvent(EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -151,6 +158,8 @@ private:
     void pointerLeft();
     void followDrag(const QMouseEvent *event);
     void dropLostPress();
+    void dropPress();
+    void click();
 
     bool m_pressedOutside = false;
     bool m_down = false;
@@ -160,6 +169,7 @@ private:
     bool m_ignoreHovered = false;
     // Qt knew of the held mouse button when it pressed us, so it will know when it no longer is.
     bool m_pressTracked = false;
+    bool m_pressedByKey = false;
     int m_offset = 0;
     PixmapSet m_normal;
     PixmapSet m_selected;

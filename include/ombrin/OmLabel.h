@@ -25,7 +25,8 @@ namespace ombrin {
 /// picture for example, is left alone.
 ///
 /// A link has the hand cursor, tells when the pointer comes and goes, and is clicked by releasing
-/// the left mouse button inside it. It may be deleted in a slot of any of its signals.
+/// the left mouse button inside it, or by Space, Return or Enter while it has the focus, which it
+/// takes once the host gives it a focus policy. It may be deleted in a slot of any of its signals.
 ///
 /// The setters store their value and change nothing on the screen; set them before the text.
 ///
@@ -81,10 +82,12 @@ Q_SIGNALS:
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void enterEvent(EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     // Empty until the first width is included.

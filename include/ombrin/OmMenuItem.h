@@ -20,8 +20,9 @@ namespace ombrin {
 /// layout->addWidget(item);
 /// \endcode
 ///
-/// The row is 24 pixels high; icons of 16 pixels suit it. A press of any mouse button clicks it.
-/// The item may be deleted in a slot of its signal.
+/// The row is 24 pixels high; icons of 16 pixels suit it. A press of any mouse button clicks it,
+/// and so do Space, Return and Enter while it has the focus, which it takes once the host gives it
+/// a focus policy. The item may be deleted in a slot of its signal.
 ///
 /// Assistive technology sees a menu item named by accessibleName() or else by its text.
 ///
@@ -46,13 +47,15 @@ public:
     QString icon() const;
 
 Q_SIGNALS:
-    /// A mouse button was pressed on the item.
+    /// A mouse button was pressed on the item, or a key while it has the focus.
     void clicked();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void enterEvent(EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     QLabel *m_iconLabel;

@@ -7,10 +7,12 @@
 
 namespace ombrin {
 
-/// Five stars that show a rating and let the user give one with the mouse.
+/// Five stars that show a rating and let the user give one with the mouse or with keys.
 ///
 /// A rating counts half stars, from 0 to 10. While the pointer is over the label the stars up to it
-/// light up; a click of the left button takes the rating they show.
+/// light up; a click of the left button takes the rating they show. The label takes the focus once
+/// the host gives it a focus policy. Then Right, Up or Plus gives half a star more, Left, Down or
+/// Minus half a star less, Home none and End all five.
 ///
 /// \code
 /// auto *rating = new ombrin::OmRatingLabel(this);
@@ -53,6 +55,7 @@ Q_SIGNALS:
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void enterEvent(EnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -62,6 +65,7 @@ private:
 
     int starSize() const;
     int litHalves() const;
+    int ratingOfKey(const QKeyEvent *event) const;
     void noticePointer();
     void storeRating(int rating);
     void giveRating(int rating);

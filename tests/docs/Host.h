@@ -186,7 +186,6 @@ struct Host : QWidget
     QRect remembered;
     QGraphicsScene *scene;
     ombrin::OmIconComboBox *smileys;
-    ombrin::OmImageMaskedButton *snapButton;
     Song *song;
     QStackedWidget *stack;
     QTextEdit *textEdit;

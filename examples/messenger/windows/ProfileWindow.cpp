@@ -79,6 +79,7 @@ QWidget *ProfileWindow::createHead()
     m_remark = plainLabel();
     m_presence = new QLabel;
     m_rating = new ombrin::OmRatingLabel;
+    m_rating->setFocusPolicy(Qt::StrongFocus);
     m_rating->setFixedHeight(kStarHeight);
     m_rating->setAccessibleName(tr("Your rating"));
     m_rating->setToolTip(tr("What you think of this contact. Nobody else sees it."));

@@ -1,5 +1,7 @@
 #include "dialogs/WizardWidgets.h"
 
+#include "skin/LightGround.h"
+
 #include <QtGui/QPixmap>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
@@ -41,6 +43,7 @@ void setWhiteBackground(QWidget *widget)
                      QBrush(QColor(255, 255, 255, 255), Qt::SolidPattern));
     widget->setPalette(palette);
     widget->setAutoFillBackground(true);
+    keepTextReadable(widget);
 }
 
 void refreshPixmap(QLabel *label, const QPixmap &pixmap)

@@ -14,7 +14,7 @@ class QWidget;
 
 namespace ombrin {
 
-/// Fills \a widget with white.
+/// Fills \a widget with white, on which its text stays readable.
 void setWhiteBackground(QWidget *widget);
 
 /// Shows \a pixmap in \a label unless it does already.

@@ -3,6 +3,7 @@
 #include "effects/BalloonGeometry.h"
 #include "effects/FittedText.h"
 #include "effects/OmBalloonTipAccessible.h"
+#include "skin/LightGround.h"
 
 #include <ombrin/OmDesktop.h>
 
@@ -33,7 +34,6 @@ constexpr int kLayoutSpacing = 1;
 // Both labels round the height of their text up.
 constexpr int kMetricsSlack = 2;
 constexpr QRgb kBackground = 0xffffffde;
-constexpr int kLightestTextLightness = 127;
 
 OmBalloonTip *g_active = nullptr;
 
@@ -237,11 +237,7 @@ void OmBalloonTip::createCloseButton()
 void OmBalloonTip::colourContents()
 {
     OmDesktop::setBackgroundColor(this, QColor(kBackground));
-    QPalette colours = palette();
-    if (colours.color(QPalette::WindowText).lightness() <= kLightestTextLightness)
-        return;
-    colours.setColor(QPalette::WindowText, Qt::black);
-    setPalette(colours);
+    keepTextReadable(this);
 }
 
 // Keeps the balloon, without the margins of its arrow, within what \a room leaves for it.

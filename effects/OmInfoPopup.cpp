@@ -1,6 +1,7 @@
 #include <ombrin/OmInfoPopup.h>
 
 #include "effects/PopupPlacement.h"
+#include "skin/LightGround.h"
 #include "skin/SkinPixmap.h"
 
 #include <ombrin/OmFaderWidget.h>
@@ -137,6 +138,7 @@ void OmInfoPopup::buildPopup()
     palette.setBrush(QPalette::All, QPalette::Window,
                      QBrush(QColor::fromRgb(kPopupColor), Qt::SolidPattern));
     m_popup->setPalette(palette);
+    keepTextReadable(m_popup);
 
     auto *const layout = new QVBoxLayout(m_popup);
     auto *const message = new QLabel(m_popup);

@@ -334,6 +334,10 @@ private Q_SLOTS:
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
             QCOMPARE(wizard->palette().color(group, QPalette::Window), QColor(Qt::white));
         QVERIFY(wizard->autoFillBackground());
+        QPalette dark = wizard->palette();
+        dark.setColor(QPalette::WindowText, Qt::white);
+        wizard->setPalette(dark);
+        QCOMPARE(wizard->palette().color(QPalette::WindowText), QColor(Qt::black));
         if (!compact) { // the help button is there, but nobody sees it
             const auto *help = wizard->findChild<QPushButton *>();
             QCOMPARE(help->text(), "hilfe ich seh nix"_q);

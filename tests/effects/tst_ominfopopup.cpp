@@ -86,6 +86,11 @@ private Q_SLOTS:
         QVERIFY(host.waitForFades());
         QVERIFY(host.popup->isVisible());
         QCOMPARE(host.popup->grab().toImage().pixelColor(2, 2), QColor("#fffc00"_q));
+
+        QPalette dark = host.popup->palette();
+        dark.setColor(QPalette::WindowText, Qt::white);
+        host.popup->setPalette(dark);
+        QCOMPARE(message->palette().color(QPalette::WindowText), QColor(Qt::black));
     }
 
     void popupIsBuiltOnceAndUsedAgain()

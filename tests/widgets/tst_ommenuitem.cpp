@@ -57,6 +57,11 @@ private Q_SLOTS:
         item.grab();
         QCOMPARE(item.height(), 24);
         QCOMPARE(labels(item).at(0)->width(), 20);
+
+        QPalette dark = item.palette();
+        dark.setColor(QPalette::WindowText, Qt::white);
+        item.setPalette(dark);
+        QCOMPARE(labels(item).at(1)->palette().color(QPalette::WindowText), QColor(Qt::black));
     }
 
     void darkensUnderTheMouse()

@@ -38,6 +38,18 @@ private Q_SLOTS:
         }
     }
 
+    void textIsDarkOnTheLightGround()
+    {
+        QWidget window;
+        const OmStatusBar bar(&window);
+        for (const auto &[text, shown] : {std::pair(Qt::red, Qt::red), {Qt::white, Qt::black}}) {
+            QPalette palette = window.palette();
+            palette.setColor(QPalette::WindowText, text);
+            window.setPalette(palette);
+            QCOMPARE(bar.palette().color(QPalette::WindowText), QColor(shown));
+        }
+    }
+
     void messagesAndWidgetsLieOverTheGradient()
     {
         OmStatusBar bar;

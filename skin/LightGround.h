@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace ombrin {
+
+/// Lets \a widget, whose ground is a light colour in every skin, have black text wherever the
+/// palette's text colour is a light one, too; also when the palette changes.
+void keepTextReadable(QWidget *widget);
+
+} // namespace ombrin

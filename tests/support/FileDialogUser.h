@@ -1,12 +1,6 @@
 #pragma once
 
-#include "support/Text.h"
-
-#include <QtCore/QPointer>
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLineEdit>
+#include "support/TestCase.h"
 
 #include <functional>
 

@@ -1,9 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtGui/QFontDatabase>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleFactory>
-
 #include <algorithm>
 #include <iterator>
 

@@ -2,8 +2,8 @@
 
 #include "support/Text.h"
 
-#include <QtTest/QtTest> // and with it all of QtCore
-#include <QtWidgets/QApplication>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets> // and with it all of QtCore and QtGui
 
 #include <memory>
 #include <type_traits>

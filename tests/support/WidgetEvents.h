@@ -4,10 +4,6 @@
 
 #include <ombrin/OmQtCompat.h>
 
-#include <QtGui/QAccessible>
-#include <QtGui/QImage>
-#include <QtGui/QMouseEvent>
-
 /// What tests do to single widgets, on screen or not, and what they see of them.
 namespace ombrin::test {
 
@@ -56,12 +52,54 @@ Widget *shown()
     return nullptr;
 }
 
+/// The first child of \a parent, of the class \a Child, of which \a holds is true, or null.
+template <typename Child, typename Condition>
+Child *childWhere(const QWidget *parent, Condition holds)
+{
+    const auto children = parent->findChildren<Child *>();
+    const auto found = std::find_if(children.begin(), children.end(), holds);
+    return found == children.end() ? nullptr : *found;
+}
+
+/// Shows \a window and waits until it is the active one.
+inline bool activate(QWidget *window)
+{
+    window->show();
+    window->activateWindow();
+    return QTest::qWaitForWindowActive(window, 20000);
+}
+
+inline QImage flatImage(const QSize &size, const QColor &color,
+                        QImage::Format format = QImage::Format_ARGB32)
+{
+    QImage image(size, format);
+    image.fill(color);
+    return image;
+}
+
+inline QPixmap flatPixmap(const QSize &size, const QColor &color)
+{
+    return QPixmap::fromImage(flatImage(size, color));
+}
+
+/// How many pixels of \a image have a colour of which \a holds is true.
+template <typename Condition>
+int pixelCount(const QImage &image, Condition holds)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += holds(image.pixelColor(x, y)) ? 1 : 0;
+    }
+    return count;
+}
+
 /// What \a widget and its children paint, without its background, at \a density.
 inline QImage paintedOnNothing(QWidget *widget, qreal density = 1)
 {
-    QImage image(widget->size() * density, QImage::Format_ARGB32_Premultiplied);
+    QImage image = flatImage(widget->size() * density, Qt::transparent,
+                             QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(density);
-    image.fill(Qt::transparent);
     // Qt counts the target's offset from the corner of what is painted.
     const QPoint corner = widget->mask().boundingRect().topLeft();
     widget->render(&image, corner, QRegion(), QWidget::DrawChildren);

@@ -1,12 +1,6 @@
 #pragma once
 
-#include "support/Text.h"
-
-#include <QtCore/QEventLoop>
-#include <QtCore/QPoint>
-#include <QtCore/QProcess>
-#include <QtCore/QStringList>
-#include <QtTest/QtTest>
+#include "support/TestCase.h"
 
 /// A user at mouse and keyboard, and an onlooker who sees what other X clients see. Needs an X
 /// server with a window manager, xdotool, xprop and xwininfo.

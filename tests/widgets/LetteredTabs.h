@@ -1,11 +1,9 @@
 #pragma once
 
-#include "support/Text.h"
+#include "support/TestCase.h"
 
 #include <ombrin/OmTabBar.h>
 #include <ombrin/OmTabWidget.h>
-
-#include <QtWidgets/QLineEdit>
 
 namespace ombrin::test {
 

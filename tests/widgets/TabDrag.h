@@ -4,10 +4,6 @@
 
 #include <ombrin/OmTabBar.h>
 
-#include <QtGui/QDrag>
-#include <QtGui/QDropEvent>
-#include <QtGui/QMouseEvent>
-
 #include <functional>
 
 /// Drags of tabs by sent events.

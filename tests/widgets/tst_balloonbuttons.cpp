@@ -5,10 +5,6 @@
 #include <ombrin/OmPushButton.h>
 #include <ombrin/OmToolButton.h>
 
-#include <QAction>
-#include <QtGui/QHelpEvent>
-#include <QtWidgets/QLabel>
-
 using namespace ombrin::test;
 using namespace ombrin;
 
@@ -87,41 +83,21 @@ private Q_SLOTS:
         QVERIFY(!shown<OmBalloonTip>());
     }
 
-    void aDisabledButtonShowsNothing_data() { buttons(); }
-    void aDisabledButtonShowsNothing()
+    void onlyOneTipIsUp_data() { buttons(); }
+    void onlyOneTipIsUp()
     {
-        QAbstractButton *const button = addButton("Call"_q);
+        QVERIFY(!askForToolTip(addButton(QString()))); // leaves it to its parent
         m_window->setToolTip("The window"_q);
-        button->setEnabled(false);
-        QVERIFY(askForToolTip(button)); // swallowed, so that the window shows nothing either
+        QAbstractButton *const disabled = addButton("Disabled"_q);
+        disabled->setEnabled(false);
+        QVERIFY(askForToolTip(disabled)); // swallowed, so that the window shows nothing either
         QVERIFY(!OmBalloonTip::isActive());
-    }
 
-    void whileOneTipIsUpNoOtherAppears_data() { buttons(); }
-    void whileOneTipIsUpNoOtherAppears()
-    {
         QAbstractButton *const first = addButton("First"_q);
-        QAbstractButton *const second = addButton("Second"_q);
         QVERIFY(askForToolTip(first));
-        QVERIFY(askForToolTip(second));
+        QVERIFY(askForToolTip(addButton("Second"_q)));
+        delete first;
         QCOMPARE(shownTexts(), QStringList("First"_q));
-    }
-
-    void aButtonWithoutToolTipLeavesItToItsParent_data() { buttons(); }
-    void aButtonWithoutToolTipLeavesItToItsParent()
-    {
-        QAbstractButton *const button = addButton(QString());
-        QVERIFY(!askForToolTip(button));
-        QVERIFY(!OmBalloonTip::isActive());
-    }
-
-    void buttonsMayDieWhileTheirTipIsUp_data() { buttons(); }
-    void buttonsMayDieWhileTheirTipIsUp()
-    {
-        QAbstractButton *const button = addButton("Call"_q);
-        QVERIFY(askForToolTip(button));
-        delete button;
-        QCOMPARE(shownTexts(), QStringList("Call"_q));
         QTest::mouseClick(shown<OmBalloonTip>(), Qt::LeftButton);
         QVERIFY(!shown<OmBalloonTip>());
     }
@@ -143,9 +119,9 @@ private Q_SLOTS:
 private:
     static void buttons()
     {
-        QTest::addColumn<Factory>("make");
-        QTest::newRow("push button") << &make<OmPushButton>;
-        QTest::newRow("tool button") << &make<OmToolButton>;
+        const auto row = columns<Factory>("make");
+        row("push button", &make<OmPushButton>);
+        row("tool button", &make<OmToolButton>);
     }
 
     QAbstractButton *addButton(const QString &toolTip)

@@ -5,26 +5,16 @@
 #include <ombrin/OmIconComboBoxDelegate.h>
 #include <ombrin/OmStyle2.h>
 
-#include <QtGui/QPainter>
-#include <QtGui/QScreen>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QListView>
-#include <QtWidgets/QProxyStyle>
-#include <QtWidgets/QStyleOptionComboBox>
-
 using namespace ombrin::test;
 using namespace ombrin;
 
 namespace {
 
-constexpr QRgb kIconColor = 0xff123456;
-constexpr QRgb kGround = 0xfff0e0d0;
+const QColor kIconColor(0x12, 0x34, 0x56);
 
-QIcon flatIcon(const QSize &size = QSize(16, 16), QRgb color = kIconColor)
+QIcon flatIcon(const QSize &size = QSize(16, 16))
 {
-    QPixmap pixmap(size);
-    pixmap.fill(QColor(color));
-    return QIcon(pixmap);
+    return flatPixmap(size, kIconColor);
 }
 
 // Notes how a combo box is drawn.
@@ -96,13 +86,12 @@ private Q_SLOTS:
         m_box->addItem("Text"_q);
         m_box->setItemData(0, decoration, Qt::DecorationRole);
 
-        QImage expected(32, 32, QImage::Format_RGB32);
-        expected.fill(kGround);
+        QImage expected = flatImage(QSize(32, 32), Qt::yellow, QImage::Format_RGB32);
         QImage image(expected);
         QPainter painter(&expected);
         if (focused)
             painter.fillRect(option.rect, Qt::blue);
-        painter.fillRect(icon, QColor(kIconColor));
+        painter.fillRect(icon, kIconColor);
         painter.end();
         painter.begin(&image);
         m_box->itemDelegate()->paint(&painter, option, m_box->model()->index(0, 0));
@@ -123,11 +112,9 @@ private Q_SLOTS:
     {
         QFETCH(int, count);
         QFETCH(bool, skinned);
-        std::unique_ptr<QStyle> style;
+        OmStyle2 style;
         if (skinned)
-            style = std::make_unique<ombrin::OmStyle2>();
-        if (style)
-            m_box->setStyle(style.get());
+            m_box->setStyle(&style);
         addItems(count);
         m_box->move(100, 100);
         m_box->show();
@@ -194,12 +181,10 @@ private Q_SLOTS:
 
     void theFocusIsSeen()
     {
-        ombrin::OmStyle2 style;
+        OmStyle2 style;
         m_box->setStyle(&style);
         addItems(1);
-        m_box->show();
-        m_box->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_box.get()));
+        QVERIFY(activate(m_box.get()));
         m_box->setFocus(Qt::TabFocusReason);
         m_box->setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
         const QImage focused = m_box->grab().toImage();

@@ -3,9 +3,6 @@
 
 #include <ombrin/OmImageButton.h>
 
-#include <QtGui/QPainter>
-#include <QtGui/QWindow>
-
 #include <functional>
 
 using ombrin::OmImageButton;
@@ -18,7 +15,7 @@ constexpr QSize kSize(16, 16);
 constexpr QPoint kInside(25, 25);
 constexpr QPoint kOutside(100, 60);
 
-// Every state's picture is told by its shade of grey.
+// Every state's picture is told by its shade of red.
 const QStringList kPictures = words("pixmapUp pixmapDown pixmapHovered pixmapDisabled "
                                     "pixmapUpSelected pixmapDownSelected pixmapHoveredSelected "
                                     "pixmapDisabledSelected");
@@ -34,18 +31,6 @@ public:
 
 using Refinement = QPixmap (OmImageButton::*)(QPixmap);
 
-QPixmap flatPixmap(QRgb color, const QSize &size = kSize)
-{
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
-    return QPixmap::fromImage(image);
-}
-
-QPixmap pictureOf(int state)
-{
-    return flatPixmap(qRgb(state + 1, state + 1, state + 1));
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Refinement)
@@ -55,15 +40,8 @@ class tst_OmImageButton : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void hostsFindPropertiesAndSignalsInOrder()
+    void pointerIsNotThatOfTheWindowsEdge()
     {
-        const QMetaObject &meta = OmImageButton::staticMetaObject;
-        QStringList properties;
-        for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
-            properties.append(QString::fromLatin1(meta.property(i).name()));
-        QCOMPARE(properties, words("checkable checked down hovered offset") + kPictures);
-        QCOMPARE(methodsOf(meta), words("clicked(bool) clicked() pressed() released()"));
-        // Not the pointer of a window's edge that it may stand at.
         QVERIFY(m_button->testAttribute(Qt::WA_SetCursor));
         QCOMPARE(m_button->cursor().shape(), Qt::ArrowCursor);
     }
@@ -116,12 +94,12 @@ private Q_SLOTS:
 
     void aLostReleaseDoesNotLeaveTheButtonDown_data()
     {
-        QTest::addColumn<QString>("signalLog");
-        for (const char *steps :
-             {"hold disable letGo enable enter", "hold disable dragOut letGoOutside enable",
-              "hold hide letGo show enter", "hold hide dragOut letGoOutside show"})
-            QTest::newRow(steps) << "pressed";
-        QTest::newRow("hold disable enable letGo") << "pressed clicked(true) released";
+        const auto row = columns<QString>("signalLog");
+        row("hold disable letGo enable enter", "pressed");
+        row("hold disable dragOut letGoOutside enable", "pressed");
+        row("hold hide letGo show enter", "pressed");
+        row("hold hide dragOut letGoOutside show", "pressed");
+        row("hold disable enable letGo", "pressed clicked(true) released");
     }
 
     void aLostReleaseDoesNotLeaveTheButtonDown()
@@ -151,18 +129,16 @@ private Q_SLOTS:
 
     void pictureIsDrawnUnscaledAtItsLogicalSize()
     {
-        QImage expected(kSize, QImage::Format_ARGB32_Premultiplied);
+        QImage expected = flatImage(kSize, Qt::transparent, QImage::Format_ARGB32_Premultiplied);
+        QPainter(&expected).fillRect(QRect(0, 0, 8, 5), Qt::red);
         for (const int density : {1, 2, 3}) {
-            QPixmap picture = flatPixmap(0xff010101, QSize(8, 5) * density);
+            QPixmap picture = flatPixmap(QSize(8, 5) * density, Qt::red);
             picture.setDevicePixelRatio(density);
             m_button->setPixmapUp(picture);
-            expected.fill(Qt::transparent);
-            QPainter(&expected).fillRect(QRect(0, 0, 8, 5), QColor(1, 1, 1));
             QCOMPARE(paintedOnNothing(m_button), expected);
         }
-        // Larger than the button: cut, not scaled.
-        m_button->setPixmapUp(flatPixmap(0xff010101, kSize * 2));
-        expected.fill(0xff010101);
+        m_button->setPixmapUp(flatPixmap(kSize * 2, Qt::red)); // larger: cut, not scaled
+        expected.fill(Qt::red);
         QCOMPARE(paintedOnNothing(m_button), expected);
     }
 
@@ -184,16 +160,10 @@ private Q_SLOTS:
     {
         for (const char *last :
              {"pressed", "pressed clicked(true)", "pressed clicked(true) released"}) {
-            const auto destroyAtTheEnd = [this, last] {
-                if (log() == QLatin1String(last))
-                    delete m_button;
-            };
-            connect(m_button, &OmImageButton::pressed, this, destroyAtTheEnd);
-            connect(m_button, &OmImageButton::clicked, this, destroyAtTheEnd);
-            connect(m_button, &OmImageButton::released, this, destroyAtTheEnd);
+            m_lastSignal = QLatin1String(last);
             QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, kInside);
             QVERIFY(!m_button);
-            QCOMPARE(log(), QLatin1String(last));
+            QCOMPARE(log(), m_lastSignal);
             tearDown();
             setUp();
         }
@@ -215,7 +185,7 @@ private Q_SLOTS:
         QFETCH(QVector<int>, examples);
         Button button;
         const auto refine = [&](QRgb color) {
-            return (button.*refinement)(flatPixmap(color)).toImage().pixel(3, 5);
+            return (button.*refinement)(flatPixmap(kSize, color)).toImage().pixel(3, 5);
         };
         // One channel at a time, so that none is taken for another.
         const int other = qRed(refine(qRgb(0, 0, 0)));
@@ -242,8 +212,8 @@ private Q_SLOTS:
 
     void setAllPixmapsFillsTheChosenPictures()
     {
-        const QPixmap kept = flatPixmap(0xff123456);
-        const QPixmap picture = flatPixmap(0xff606060);
+        const QPixmap kept = flatPixmap(kSize, 0x123456);
+        const QPixmap picture = flatPixmap(kSize, 0x606060);
         Button button;
         const QPixmap refined[] = {picture, button.refinePictureToDownState(picture),
                                    button.refinePictureToHoveredState(picture),
@@ -304,14 +274,15 @@ protected:
         m_button = new OmImageButton(m_window.get());
         m_button->setGeometry(QRect(QPoint(20, 20), kSize));
         for (int state = 0; state < kPictures.size(); ++state)
-            m_button->setProperty(kPictures[state].toLatin1(), pictureOf(state));
+            m_button->setProperty(kPictures[state].toLatin1(),
+                                  flatPixmap(kSize, QColor(state + 1, 0, 0)));
         m_button->installEventFilter(this);
         m_log.clear();
-        connect(m_button, &OmImageButton::pressed, this, [this] { m_log.append("pressed"_q); });
-        connect(m_button, &OmImageButton::clicked, this, [this](bool checked) {
-            m_log.append(checked ? "clicked(true)"_q : "clicked(false)"_q);
-        });
-        connect(m_button, &OmImageButton::released, this, [this] { m_log.append("released"_q); });
+        m_lastSignal.clear();
+        connect(m_button, &OmImageButton::pressed, this, [this] { note("pressed"_q); });
+        connect(m_button, &OmImageButton::clicked, this,
+                [this](bool checked) { note(checked ? "clicked(true)"_q : "clicked(false)"_q); });
+        connect(m_button, &OmImageButton::released, this, [this] { note("released"_q); });
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
@@ -374,11 +345,18 @@ private:
         return qAlpha(color) == 0 ? "nothing"_q : kPictures.value(qRed(color) - 1).mid(6);
     }
 
+    void note(const QString &signal)
+    {
+        m_log.append(signal);
+        if (log() == m_lastSignal)
+            delete m_button;
+    }
     QString log() const { return m_log.join(QLatin1Char(' ')); }
 
     std::unique_ptr<QWidget> m_window;
     QPointer<OmImageButton> m_button;
     QStringList m_log;
+    QString m_lastSignal; // in which the button is deleted
     int m_paints = 0;
 };
 

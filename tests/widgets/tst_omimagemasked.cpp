@@ -3,8 +3,6 @@
 
 #include <ombrin/OmImageMaskedButton.h>
 
-#include <QtGui/QPainter>
-
 #include <functional>
 
 using namespace ombrin;
@@ -12,15 +10,13 @@ using namespace ombrin::test;
 
 namespace {
 
-constexpr QRgb kNormal = 0xff0a0a0a;
-constexpr QRgb kHovered = 0xff141414;
-constexpr QRgb kPressed = 0xff1e1e1e;
+const QColor kNormal(Qt::red);
+const QColor kHovered(Qt::green);
+const QColor kPressed(Qt::blue);
 
-QImage flat(QRgb color, const QSize &size = QSize(20, 10))
+QImage flat(const QColor &color, const QSize &size = QSize(20, 10))
 {
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
-    return image;
+    return flatImage(size, color);
 }
 
 // The same rule at its slowest.
@@ -38,7 +34,7 @@ QRegion pixelsThatAreNotTransparent(const QImage &image)
 
 QImage disc()
 {
-    QImage image = flat(0, QSize(41, 33));
+    QImage image = flat(Qt::transparent, QSize(41, 33));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::red);
@@ -48,14 +44,10 @@ QImage disc()
 
 QImage noise()
 {
-    QImage image = flat(0, QSize(37, 29));
-    quint32 state = 1;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            state = state * 1664525 + 1013904223;
-            image.setPixel(x, y, qRgba(200, 100, 50, (state >> 24) % 4 == 0 ? 1 : 0));
-        }
-    }
+    QImage image = flat(Qt::transparent, QSize(37, 29));
+    QRandomGenerator random(1);
+    for (int i = 0; i < 37 * 29 / 4; ++i)
+        image.setPixel(random.bounded(37), random.bounded(29), qRgba(200, 100, 50, 1));
     return image;
 }
 
@@ -71,7 +63,7 @@ struct Button : OmImageMaskedButton
 
     QString shown()
     {
-        const QRgb color = paintedOnNothing(this).pixel(5, 5);
+        const QColor color = paintedOnNothing(this).pixelColor(5, 5);
         return color == kNormal    ? "normal"_q
                : color == kHovered ? "hovered"_q
                : color == kPressed ? "pressed"_q
@@ -125,14 +117,13 @@ class tst_OmImageMasked : public ombrin::test::TestCase
 private Q_SLOTS:
     void hasTheShapeOfItsImage_data()
     {
-        QTest::addColumn<QImage>("image");
-        QTest::newRow("disc") << disc();
-        QTest::newRow("disc, colour table")
-                << disc().convertToFormat(QImage::Format_Indexed8, Qt::AvoidDither);
-        QTest::newRow("noise") << noise();
-        QTest::newRow("alpha 1") << flat(0x01ffffff); // drawn opaque
-        QTest::newRow("opaque") << flat(kNormal);
-        QTest::newRow("no alpha channel") << disc().convertToFormat(QImage::Format_RGB888);
+        const auto row = columns<QImage>("image");
+        row("disc", disc());
+        row("disc, colour table", disc().convertToFormat(QImage::Format_Indexed8, Qt::AvoidDither));
+        row("noise", noise());
+        row("alpha 1", flat(QColor(255, 255, 255, 1))); // drawn opaque
+        row("opaque", flat(kNormal));
+        row("no alpha channel", disc().convertToFormat(QImage::Format_RGB888));
     }
     void hasTheShapeOfItsImage()
     {
@@ -146,8 +137,8 @@ private Q_SLOTS:
         QCOMPARE(widget.mask(), pixelsThatAreNotTransparent(image));
 
         const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
-        QImage expected(image.size(), QImage::Format_ARGB32_Premultiplied);
-        expected.fill(Qt::transparent);
+        QImage expected =
+                flatImage(image.size(), Qt::transparent, QImage::Format_ARGB32_Premultiplied);
         for (const QRect &rect : widget.mask())
             QPainter(&expected).drawImage(rect, opaque, rect);
         QCOMPARE(paintedOnNothing(&widget), expected);
@@ -166,9 +157,9 @@ private Q_SLOTS:
         QFETCH(qreal, density);
         QFETCH(QSize, size);
         QFETCH(QRect, shape);
-        QImage image = flat(0, QSize(42, 21));
-        image.setPixel(21, 11, kNormal);
-        image.setPixel(22, 11, kNormal);
+        QImage image = flat(Qt::transparent, QSize(42, 21));
+        image.setPixelColor(21, 11, kNormal);
+        image.setPixelColor(22, 11, kNormal);
         image.setDevicePixelRatio(density);
         OmImageMaskedWidget widget;
         widget.setImage(image);
@@ -185,7 +176,7 @@ private Q_SLOTS:
         QCOMPARE(widget.size(), QSize(0, 0));
         QCOMPARE(widget.mask(), mask);
         // One that is there, but cannot be seen, takes its room and no clicks.
-        widget.setImage(flat(0));
+        widget.setImage(flat(Qt::transparent));
         QCOMPARE(widget.size(), QSize(20, 10));
         QVERIFY(!widget.mask().intersects(widget.rect()));
     }

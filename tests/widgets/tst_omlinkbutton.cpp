@@ -3,10 +3,6 @@
 
 #include <ombrin/OmLinkButton.h>
 
-#include <QtGui/QPainter>
-#include <QtWidgets/QProxyStyle>
-#include <QtWidgets/QStyleOption>
-
 #include <tuple>
 
 using ombrin::OmLinkButton;
@@ -76,9 +72,7 @@ QRect drawExpected(QImage *image, const OmLinkButton &button, const QString &tex
 
 QImage blank(const QSize &size)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
+    return flatImage(size, Qt::transparent, QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace
@@ -91,13 +85,13 @@ private Q_SLOTS:
     void sizeHintLeavesRoomForMarginsAndArrow()
     {
         Button button;
-        const QFontMetrics metrics = button.fontMetrics();
-        const QRect bounds = metrics.boundingRect(kText);
-        QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4, bounds.height()));
+        const QSize text = button.fontMetrics().boundingRect(kText).size();
+        QCOMPARE(button.sizeHint(), text + QSize(4, 0));
         button.setCheckable(true);
-        QCOMPARE(button.sizeHint(), QSize(bounds.width() + 4 + metrics.height(), bounds.height()));
+        const int arrow = button.fontMetrics().height();
+        QCOMPARE(button.sizeHint(), text + QSize(4 + arrow, 0));
         button.setText(QString());
-        QCOMPARE(button.sizeHint().width(), 4 + metrics.height());
+        QCOMPARE(button.sizeHint().width(), 4 + arrow);
     }
 
     void drawsUnderlinedText_data()
@@ -169,9 +163,7 @@ private Q_SLOTS:
     void focusIsVisible()
     {
         Button button;
-        button.show();
-        button.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&button));
+        QVERIFY(activate(&button));
         button.clearFocus();
         button.paint();
         QVERIFY(button.style.drawn.isEmpty());

@@ -3,9 +3,6 @@
 
 #include <ombrin/OmMenuItem.h>
 
-#include <QtGui/QPainter>
-#include <QtWidgets/QLabel>
-
 using ombrin::OmMenuItem;
 using namespace ombrin::test;
 
@@ -35,16 +32,14 @@ private Q_SLOTS:
     {
         QTemporaryDir directory;
         const QString file = directory.filePath("icon.png"_q);
-        QImage picture(16, 16, QImage::Format_ARGB32);
-        picture.fill(Qt::blue);
-        QVERIFY(picture.save(file));
+        QVERIFY(flatImage(QSize(16, 16), Qt::blue).save(file));
 
         OmMenuItem item;
         QVERIFY(item.setProperty("text", "<b>Chat</b>"_q));
         QVERIFY(item.setProperty("icon", file));
         QCOMPARE(labels(item).at(1)->text(), item.text());
         QCOMPARE(labels(item).at(1)->textFormat(), Qt::PlainText);
-        QCOMPARE(labels(item).at(0)->pixmap(Qt::ReturnByValue).size(), picture.size());
+        QCOMPARE(labels(item).at(0)->pixmap(Qt::ReturnByValue).size(), QSize(16, 16));
         item.resize(120, 24);
         const QImage painted = item.grab().toImage();
         const QPoint icon = labels(item).at(0)->pos() + QPoint(1, 8);

@@ -4,8 +4,6 @@
 #include <ombrin/OmSearchField.h>
 #include <ombrin/OmStyle2.h>
 
-#include <QtGui/QPainter>
-
 using ombrin::OmSearchField;
 using namespace ombrin::test;
 
@@ -18,8 +16,7 @@ const QString kDefaultText = "Search contacts"_q;
 
 QImage picture(QWidget *field)
 {
-    QImage image(field->size(), QImage::Format_RGB32);
-    image.fill(Qt::magenta);
+    QImage image = flatImage(field->size(), Qt::magenta, QImage::Format_RGB32);
     field->render(&image);
     return image;
 }
@@ -41,9 +38,7 @@ struct Shown
         other.setGeometry(0, 50, 100, 24);
         other.setFocus();
         window.show();
-        window.activateWindow();
     }
-    bool isReady() { return QTest::qWaitForWindowActive(&window); }
 
     QWidget window;
     Field field{&window};
@@ -130,7 +125,7 @@ private Q_SLOTS:
     {
         Shown<BareField> bare;
         Shown<OmSearchField> test; // the active one
-        QVERIFY(test.isReady());
+        QVERIFY(activate(&test.window));
         const auto expectedPicture = [&](bool withText) {
             bare.field.setText(test.field.text());
             bare.field.setLayoutDirection(test.field.layoutDirection());

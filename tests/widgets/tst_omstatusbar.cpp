@@ -1,22 +1,9 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmStatusBar.h>
 
-#include <QtWidgets/QLabel>
-
 using ombrin::OmStatusBar;
-
-namespace {
-
-QImage painted(QWidget *widget)
-{
-    QImage image(widget->size(), QImage::Format_RGB32);
-    image.fill(Qt::magenta);
-    widget->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-} // namespace
+using namespace ombrin::test;
 
 class tst_OmStatusBar : public ombrin::test::TestCase
 {
@@ -29,7 +16,7 @@ private Q_SLOTS:
         bar.setSizeGripEnabled(false);
         for (const int height : {21, 41, 101}) {
             bar.resize(50, height);
-            const QImage image = painted(&bar);
+            const QImage image = paintedOnNothing(&bar);
             const int last = height - 1;
             QCOMPARE(image.pixel(0, 0), qRgb(183, 183, 182));
             QCOMPARE(image.pixel(25, last / 20), qRgb(207, 207, 207));
@@ -57,25 +44,18 @@ private Q_SLOTS:
         QPalette palette = bar.palette();
         palette.setColor(QPalette::WindowText, Qt::red);
         bar.setPalette(palette);
-        const QImage empty = painted(&bar);
+        const QImage empty = paintedOnNothing(&bar);
         bar.showMessage("Connected"_q);
-        const QImage withMessage = painted(&bar);
-        const auto redPixels = [](const QImage &image) {
-            int count = 0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x)
-                    count += qRed(image.pixel(x, y)) > qGreen(image.pixel(x, y)) + 60 ? 1 : 0;
-            }
-            return count;
-        };
-        QCOMPARE(redPixels(empty), 0);
-        QVERIFY(redPixels(withMessage) > 50);
+        const QImage withMessage = paintedOnNothing(&bar);
+        const auto isReddish = [](const QColor &color) { return color.red() > color.green() + 60; };
+        QCOMPARE(pixelCount(empty, isReddish), 0);
+        QVERIFY(pixelCount(withMessage, isReddish) > 50);
         // All around the text the gradient still shows.
         QCOMPARE(withMessage.copy(0, 0, 200, 2), empty.copy(0, 0, 200, 2));
         QCOMPARE(withMessage.copy(150, 0, 30, 22), empty.copy(150, 0, 30, 22));
 
         bar.clearMessage();
-        QCOMPARE(painted(&bar), empty);
+        QCOMPARE(paintedOnNothing(&bar), empty);
         auto *const label = new QLabel;
         label->setAutoFillBackground(true);
         label->setFixedSize(30, 10);
@@ -83,7 +63,7 @@ private Q_SLOTS:
         label->setPalette(palette);
         bar.addWidget(label);
         bar.show();
-        QCOMPARE(painted(&bar).pixel(label->geometry().center()), qRgb(0, 0, 255));
+        QCOMPARE(paintedOnNothing(&bar).pixel(label->geometry().center()), qRgb(0, 0, 255));
     }
 };
 

@@ -4,12 +4,6 @@
 
 #include <ombrin/OmTabBar.h>
 
-#include <QtGui/QAccessible>
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyleOptionTab>
-
-#include <tuple>
-
 using namespace ombrin::test;
 using ombrin::OmTabBar;
 
@@ -69,9 +63,8 @@ public:
     QString names()
     {
         QStringList list;
-        QAccessibleInterface *const tabs = QAccessible::queryAccessibleInterface(this);
         for (int i = 0; i < count(); ++i)
-            list.append(tabs->child(i)->text(QAccessible::Name));
+            list.append(accessible(this)->child(i)->text(QAccessible::Name));
         return list.join(QLatin1Char('|'));
     }
 
@@ -97,10 +90,8 @@ private:
     void fill(int index, QChar letter)
     {
         const QString name(letter);
-        QPixmap icon(16, 16);
-        icon.fill(colorOf(letter));
         setTabText(index, name);
-        setTabIcon(index, icon);
+        setTabIcon(index, flatPixmap(QSize(16, 16), colorOf(letter)));
         setTabTextColor(index, colorOf(letter));
         setTabToolTip(index, name);
         setTabWhatsThis(index, name);
@@ -133,10 +124,8 @@ class tst_OmTabBar : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void isWhatHostsRelyOn()
+    void takesNoFocusAndShowsAllTabs()
     {
-        QCOMPARE(methodsOf(OmTabBar::staticMetaObject),
-                 words("tabsExchanged(int,int) enableTabText(bool)"));
         OmTabBar bar;
         QVERIFY(!bar.usesScrollButtons());
         QCOMPARE(bar.focusPolicy(), Qt::NoFocus);
@@ -199,18 +188,12 @@ private Q_SLOTS:
     void foreignDragsAreRefused()
     {
         const Qt::DropActions all = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
-        const std::tuple<bool, Qt::DropActions, bool> drags[] = {{false, Qt::MoveAction, true},
-                                                                 {false, all, true},
-                                                                 {false, Qt::CopyAction, false},
-                                                                 {true, all, false}};
-        for (const auto &drag : drags) {
-            const bool isAccepted = std::get<2>(drag);
+        const auto drag = [](bool isForeign, Qt::DropActions actions, bool isAccepted) {
             Bar bar("ABC"_q);
             Bar other("XYZ"_q);
-            Bar *const source = std::get<0>(drag) ? &other : &bar;
+            Bar *const source = isForeign ? &other : &bar;
             const QPoint to = halfOfTab(bar, 2, true);
             const auto expectAccepted = [&](bool expected) {
-                const Qt::DropActions actions = std::get<1>(drag);
                 QCOMPARE(sendDrag<QDragEnterEvent>(&bar, to, actions), expected);
                 QCOMPARE(sendDrag<QDragMoveEvent>(&bar, to, actions), expected);
                 QCOMPARE(sendDrag<QDropEvent>(&bar, to, actions), expected);
@@ -220,7 +203,11 @@ private Q_SLOTS:
             QCOMPARE(bar.order(), isAccepted ? "CBA"_q : "ABC"_q);
             QCOMPARE(other.order(), "XYZ"_q);
             expectAccepted(false); // nor does a drag without a source, which is another program's
-        }
+        };
+        drag(false, Qt::MoveAction, true);
+        drag(false, all, true);
+        drag(false, Qt::CopyAction, false);
+        drag(true, all, false);
     }
 
     void markerShowsWhereTheTabWouldGo_data()
@@ -269,9 +256,9 @@ private Q_SLOTS:
 
     void markerGoesWithTheDrag_data()
     {
-        QTest::addColumn<QString>("end");
+        const auto row = columns<QString>("end");
         for (const char *end : {"leave", "drop", "refused drop", "cancel", "forbid"})
-            QTest::newRow(end) << end;
+            row(end, end);
     }
     void markerGoesWithTheDrag()
     {
@@ -376,10 +363,9 @@ private Q_SLOTS:
 
     void barMayBeDeletedDuringADrag_data()
     {
-        QTest::addColumn<QString>("moment");
-        for (const char *moment :
-             {"started", "moved", "dropped", "tabsExchanged", "currentChanged"})
-            QTest::newRow(moment) << moment;
+        const auto row = columns<QString>("moment");
+        for (const QString &moment : words("started moved dropped tabsExchanged currentChanged"))
+            row(qPrintable(moment), moment);
     }
     void barMayBeDeletedDuringADrag()
     {

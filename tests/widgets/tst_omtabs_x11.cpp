@@ -1,4 +1,4 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 #include "support/XUser.h"
 #include "widgets/LetteredTabs.h"
 
@@ -19,14 +19,9 @@ public:
         tabBar()->setExpanding(false);
         setDocumentMode(true); // gives the bar the whole width
         setGeometry(100, 100, 500, 200);
-        show();
-        activateWindow();
     }
 
-    bool isReady()
-    {
-        return QTest::qWaitForWindowActive(this, 20000); // the window manager has placed it
-    }
+    bool isReady() { return activate(this); } // when the window manager has placed it
 
     // On the screen: the middle of a half of a tab, or empty space beside the tabs.
     QPoint half(int index, bool rightHalf) const
@@ -118,22 +113,6 @@ private Q_SLOTS:
         QVERIFY(waitFor([&] { return tabs.currentIndex() == 2; }));
         xdo("type hello"_q);
         QVERIFY(waitFor([&] { return edit->text() == "hello"_q; }));
-    }
-
-    void escapeCancelsTheDrag()
-    {
-        Tabs tabs("ABC"_q);
-        QVERIFY(tabs.isReady());
-        tabs.setCurrentIndex(1);
-        const QImage idle = tabs.tabBar()->grab().toImage();
-        QImage dragged;
-        QVERIFY(InterruptedDrag().run(&tabs, [&] {
-            dragged = tabs.tabBar()->grab().toImage();
-            return words("key Escape mouseup 1 sleep 0.2") + moveTo(QPoint(10, 10));
-        }));
-        QVERIFY(dragged != idle); // the marker
-        QVERIFY(waitFor([&] { return tabs.tabBar()->grab().toImage() == idle; }));
-        QCOMPARE(tabs.contents(), "Aa [Bb] Cc"_q);
     }
 
     // The tab widget is the window itself, of which the drag has most to lose.

@@ -1,7 +1,7 @@
 #include "widgets/PictureSaving.h"
 
 #include "support/FileDialogUser.h"
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmSettings.h>
 
@@ -34,14 +34,12 @@ private Q_SLOTS:
 
     void savesUnderTheChosenName_data()
     {
-        QTest::addColumn<QString>("saved");
-        const QPair<const char *, const char *> rows[] = {{"anna", "anna.jpg"},
-                                                          {"anna.jpg", "anna.jpg"},
-                                                          {"anna.jpeg", "anna.jpeg"},
-                                                          {"anna.JPG", "anna.JPG.jpg"},
-                                                          {"anna.png", "anna.png.jpg"}};
-        for (const auto &row : rows)
-            QTest::newRow(row.first) << QString::fromLatin1(row.second);
+        const auto row = columns<QString>("saved");
+        row("anna", "anna.jpg");
+        row("anna.jpg", "anna.jpg");
+        row("anna.jpeg", "anna.jpeg");
+        row("anna.JPG", "anna.JPG.jpg");
+        row("anna.png", "anna.png.jpg");
     }
 
     void savesUnderTheChosenName()
@@ -93,7 +91,7 @@ private Q_SLOTS:
             else
                 dialog->reject();
         });
-        save(picture(qRgb(0, 0, 255)));
+        save(picture(Qt::blue));
         QCOMPARE(proposals, QStringList({"Anna"_q, "anna.JPG.jpg"_q}));
         QVERIFY(QImage(existing).pixelColor(5, 5).red() > 128);
     }
@@ -158,12 +156,7 @@ private:
         savePictureAsJpeg(m_parent, {"Save as..."_q, "Picture"_q, key(), name, "anna@home"_q},
                           [image] { return image; });
     }
-    static QImage picture(QRgb color = qRgb(200, 30, 40))
-    {
-        QImage image(20, 10, QImage::Format_RGB32);
-        image.fill(color);
-        return image;
-    }
+    static QImage picture(const QColor &color = Qt::red) { return flatImage(QSize(20, 10), color); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QPointer<QWidget> m_parent;

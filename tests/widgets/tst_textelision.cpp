@@ -2,8 +2,6 @@
 
 #include "widgets/TextElision.h"
 
-#include <QtGui/QFontMetrics>
-
 class tst_TextElision : public ombrin::test::TestCase
 {
     Q_OBJECT

@@ -16,24 +16,13 @@
 //
 // Steps before "application" are performed without an application; what they did shows later.
 
+#include "support/Text.h"
+
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmSkin.h>
 #include <ombrin/OmStyle2.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QDirIterator>
-#include <QtCore/QFile>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QMetaEnum>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
-
-#include <memory>
+#include <QtWidgets/QtWidgets>
 
 namespace {
 
@@ -49,7 +38,7 @@ QJsonObject paletteEntries()
                                 + QString::fromLatin1(roles.valueToKey(role));
             const QBrush &brush = palette.brush(group, static_cast<QPalette::ColorRole>(role));
             const bool isColor = brush.color().isValid() && brush.style() == Qt::SolidPattern;
-            entries.insert(key, isColor ? brush.color().name() : QStringLiteral("invalid"));
+            entries.insert(key, isColor ? brush.color().name() : "invalid"_q);
         }
     }
     return entries;
@@ -58,9 +47,9 @@ QJsonObject paletteEntries()
 QJsonArray skinPictures()
 {
     QJsonArray pictures;
-    const QStringList names = QDir(QStringLiteral(":/")).entryList(QDir::Files, QDir::Name);
+    const QStringList names = QDir(":/"_q).entryList(QDir::Files, QDir::Name);
     for (const QString &name : names) {
-        if (!QPixmap(QStringLiteral(":/") + name).isNull())
+        if (!QPixmap(":/"_q + name).isNull())
             pictures.append(name);
     }
     return pictures;
@@ -81,28 +70,28 @@ QJsonArray styles()
 
 QJsonObject findings(const QString &step)
 {
-    return {{QStringLiteral("step"), step},
-            {QStringLiteral("useSkin"), ombrin::OmSkin::useSkin()},
-            {QStringLiteral("folder"), ombrin::OmSkin::folder()},
-            {QStringLiteral("styleSheet"), qApp->styleSheet()},
-            {QStringLiteral("styles"), styles()},
-            {QStringLiteral("palette"), paletteEntries()},
-            {QStringLiteral("pictures"), skinPictures()}};
+    return {{"step"_q, step},
+            {"useSkin"_q, ombrin::OmSkin::useSkin()},
+            {"folder"_q, ombrin::OmSkin::folder()},
+            {"styleSheet"_q, qApp->styleSheet()},
+            {"styles"_q, styles()},
+            {"palette"_q, paletteEntries()},
+            {"pictures"_q, skinPictures()}};
 }
 
 void paintAndReadEverything()
 {
     QWidget window;
     auto *const layout = new QVBoxLayout(&window);
-    layout->addWidget(new QPushButton(QStringLiteral("Button")));
-    layout->addWidget(new QLineEdit(QStringLiteral("Text")));
+    layout->addWidget(new QPushButton("Button"_q));
+    layout->addWidget(new QLineEdit("Text"_q));
     layout->addWidget(new QComboBox);
     layout->addWidget(new ombrin::OmImageButton);
     window.show();
     QApplication::processEvents();
     window.grab();
 
-    QDirIterator files(QStringLiteral(":/"), QDirIterator::Subdirectories);
+    QDirIterator files(":/"_q, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         if (file.open(QIODevice::ReadOnly))
@@ -113,17 +102,17 @@ void paintAndReadEverything()
 void perform(const QString &step)
 {
     const QString argument = step.section(QLatin1Char('='), 1);
-    if (step.startsWith(QLatin1String("init=")))
-        ombrin::OmSkin::init(argument == QLatin1String("true"));
-    else if (step.startsWith(QLatin1String("sheet=")))
+    if (step.startsWith("init="_q))
+        ombrin::OmSkin::init(argument == "true"_q);
+    else if (step.startsWith("sheet="_q))
         qApp->setStyleSheet(argument);
-    else if (step.startsWith(QLatin1String("search=")))
+    else if (step.startsWith("search="_q))
         ombrin::OmSkin::addSearchPath(argument);
-    else if (step == QLatin1String("pictures"))
+    else if (step == "pictures"_q)
         ombrin::OmSkin::registerPictures();
-    else if (step == QLatin1String("remove"))
-        QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/skins")).removeRecursively();
-    else if (step == QLatin1String("paint"))
+    else if (step == "remove"_q)
+        QDir(QCoreApplication::applicationDirPath() + "/skins"_q).removeRecursively();
+    else if (step == "paint"_q)
         paintAndReadEverything();
 }
 
@@ -136,16 +125,16 @@ int main(int argc, char *argv[])
     QStringList steps;
     for (int i = 2; i < argc; ++i)
         steps.append(QString::fromLocal8Bit(argv[i]));
-    while (steps.contains(QStringLiteral("application"))) {
+    while (steps.contains("application"_q)) {
         const QString step = steps.takeFirst();
-        if (step == QLatin1String("application"))
+        if (step == "application"_q)
             break;
         perform(step);
     }
 
     QApplication application(argc, argv);
     QJsonArray report;
-    for (const QString &step : qAsConst(steps)) {
+    for (const QString &step : std::as_const(steps)) {
         perform(step);
         report.append(findings(step));
     }

@@ -1,18 +1,7 @@
 #include "skin/tst_omstyle2_support.h"
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmStyle2.h>
-
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QDockWidget>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMainWindow>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QStyleFactory>
-#include <QtWidgets/QToolBox>
-#include <QtWidgets/QToolButton>
-#include <QtWidgets/QTreeWidget>
-#include <QtWidgets/QVBoxLayout>
 
 using namespace ombrin::test;
 using ombrin::OmStyle2;
@@ -52,17 +41,14 @@ void setStyleOfTree(QWidget *widget, QStyle *style)
 }
 
 template <typename Widget>
-class PaintCounter : public Widget
+struct PaintCounter : Widget
 {
-public:
-    int paints = 0;
-
-protected:
     void paintEvent(QPaintEvent *event) override
     {
         ++paints;
         Widget::paintEvent(event);
     }
+    int paints = 0;
 };
 
 } // namespace
@@ -131,12 +117,10 @@ private Q_SLOTS:
     {
         auto option = makeOption<QStyleOptionToolButton>(QRect());
         option.features = QStyleOptionToolButton::MenuButtonPopup;
-        const QCommonStyle *common = m_style.get();
         const QSize size(20, 18);
-        const QSize expected = common->QCommonStyle::sizeFromContents(QStyle::CT_ToolButton,
-                                                                      &option, size, nullptr);
         QCOMPARE(m_style->sizeFromContents(QStyle::CT_ToolButton, &option, size, nullptr),
-                 expected);
+                 m_style->QCommonStyle::sizeFromContents(QStyle::CT_ToolButton, &option, size,
+                                                         nullptr));
         option.features = QStyleOptionToolButton::None;
         QToolButton button;
         QCOMPARE(m_style->sizeFromContents(QStyle::CT_ToolButton, &option, size, &button),
@@ -225,13 +209,8 @@ private Q_SLOTS:
         QTreeWidgetItem *item = tree.topLevelItem(0);
         const QColor green(0x21, 0xa1, 0x21);
         const auto greenPixels = [&] {
-            const QImage image = tree.grab().toImage();
-            int count = 0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x)
-                    count += image.pixelColor(x, y) == green;
-            }
-            return count;
+            return pixelCount(tree.grab().toImage(),
+                              [&](const QColor &color) { return color == green; });
         };
         item->setCheckState(0, Qt::Unchecked);
         QCOMPARE(greenPixels(), 0);

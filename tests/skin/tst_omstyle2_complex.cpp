@@ -3,10 +3,6 @@
 
 #include <ombrin/OmStyle2.h>
 
-#include <QtGui/QPixmapCache>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QScrollBar>
-
 #include <functional>
 
 using namespace ombrin::test;

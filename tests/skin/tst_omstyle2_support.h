@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
-#include <QtTest/QTest>
-#include <QtWidgets/QProxyStyle>
-#include <QtWidgets/QStyleOption>
+#include "support/TestCase.h"
 
 #include <memory>
 

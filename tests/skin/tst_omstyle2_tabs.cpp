@@ -3,8 +3,6 @@
 
 #include <ombrin/OmStyle2.h>
 
-#include <QtWidgets/QTabBar>
-
 using namespace ombrin::test;
 using ombrin::OmStyle2;
 

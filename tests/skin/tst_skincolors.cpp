@@ -1,9 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtGui/QColor>
-#include <QtGui/QImage>
-#include <QtWidgets/QLabel>
-
 #include <algorithm>
 #include <cmath>
 
@@ -29,11 +25,6 @@ double contrast(QRgb a, QRgb b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QRgb paletteColor(const QSettings &palette, const QString &group, const QString &role)
-{
-    return QColor(palette.value(group + QLatin1Char('/') + role).toString()).rgb();
-}
-
 } // namespace
 
 class tst_SkinColors : public ombrin::test::TestCase
@@ -56,12 +47,10 @@ private Q_SLOTS:
 
     void paletteIsComplete()
     {
-        const QSettings palette(skinFolder() + "/default/Global_Palette.ini"_q,
-                                QSettings::IniFormat);
-        const QStringList keys = palette.allKeys();
+        const QStringList keys = m_palette.allKeys();
         QCOMPARE(keys.size(), 3 * 17);
         for (const QString &key : keys)
-            QVERIFY2(QColor(palette.value(key).toString()).isValid(), qPrintable(key));
+            QVERIFY2(QColor(m_palette.value(key).toString()).isValid(), qPrintable(key));
     }
 
     void paletteTextIsReadable()
@@ -79,14 +68,15 @@ private Q_SLOTS:
                                              {"LinkVisited", "Window"},
                                              {"LinkVisited", "Base"},
                                              {"LinkVisited", "AlternateBase"}};
-        const QSettings palette(skinFolder() + "/default/Global_Palette.ini"_q,
-                                QSettings::IniFormat);
         for (const QString &group : ombrin::test::words("Active Disabled Inactive")) {
+            const auto color = [&](const char *role) {
+                return QColor(
+                        m_palette.value(group + QLatin1Char('/') + QLatin1String(role)).toString());
+            };
             for (const auto &[text, ground] : kPairs) {
-                const double ratio = contrast(paletteColor(palette, group, QLatin1String(text)),
-                                              paletteColor(palette, group, QLatin1String(ground)));
-                QVERIFY2(ratio >= 4.5, qPrintable(group + QLatin1Char(' ') + QLatin1String(text)
-                                                  + " on "_q + QLatin1String(ground)));
+                QVERIFY2(contrast(color(text).rgb(), color(ground).rgb()) >= 4.5,
+                         qPrintable("%1: %2 on %3"_q.arg(group, QLatin1String(text),
+                                                         QLatin1String(ground))));
             }
         }
     }
@@ -103,6 +93,9 @@ private Q_SLOTS:
         QLabel().ensurePolished();
         qApp->setStyleSheet(QString());
     }
+
+private:
+    const QSettings m_palette{skinFolder() + "/default/Global_Palette.ini"_q, QSettings::IniFormat};
 };
 
 OMBRIN_TEST_MAIN(tst_SkinColors)

@@ -1,11 +1,8 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
-#include <QtGui/QColor>
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
-
-#include <cstdlib>
 #include <functional>
+
+using namespace ombrin::test;
 
 namespace {
 
@@ -76,7 +73,7 @@ constexpr Group groups[] = {
 QStringList namesOf(const Group &group)
 {
     QStringList names;
-    for (const QString &word : ombrin::test::words(group.words))
+    for (const QString &word : words(group.words))
         names.append(QString::fromLatin1(group.pattern).arg(word));
     return names;
 }
@@ -96,42 +93,27 @@ QImage load(const QString &name, int density = 1)
     return QImage(":/"_q + densityName(name, density)).convertToFormat(QImage::Format_ARGB32);
 }
 
-bool allPixels(const QImage &image, const std::function<bool(int x, int y)> &holds)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (!holds(x, y))
-                return false;
-        }
-    }
-    return true;
-}
-
 bool allAlphas(const QImage &image, const std::function<bool(int alpha)> &holds)
 {
-    return allPixels(image, [&](int x, int y) { return holds(qAlpha(image.pixel(x, y))); });
+    return pixelCount(image, [&](const QColor &color) { return !holds(color.alpha()); }) == 0;
 }
 
-QImage over(const QImage &top, QImage ground)
+/// \a picture on \a ground, as an eye that sees no colours has it.
+QImage grayOn(const QColor &ground, const QImage &picture)
 {
-    QPainter(&ground).drawImage(0, 0, top);
-    return ground;
+    QImage image = flatImage(picture.size(), ground);
+    QPainter(&image).drawImage(0, 0, picture);
+    return image.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_RGB32);
 }
 
-/// How many pixels of \a a and \a b differ for an eye that sees no colours.
 int differingPixels(const QImage &a, const QImage &b, const QColor &ground)
 {
-    QImage canvas(a.size(), QImage::Format_ARGB32);
-    canvas.fill(ground);
-    const QImage left = over(a, canvas);
-    const QImage right = over(b, canvas);
-    int count = 0;
-    allPixels(left, [&](int x, int y) {
-        const int distance = qGray(left.pixel(x, y)) - qGray(right.pixel(x, y));
-        count += std::abs(distance) >= 10 ? 1 : 0;
-        return true;
-    });
-    return count;
+    QImage difference = grayOn(ground, a);
+    QPainter painter(&difference);
+    painter.setCompositionMode(QPainter::CompositionMode_Difference);
+    painter.drawImage(0, 0, grayOn(ground, b));
+    painter.end();
+    return pixelCount(difference, [](const QColor &color) { return color.red() >= 10; });
 }
 
 } // namespace
@@ -143,8 +125,8 @@ class tst_SkinImages : public ombrin::test::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(ombrin::test::registerPictures("skins/default/default.res"));
-        QVERIFY(ombrin::test::registerPictures("skins/ombrin.res"));
+        QVERIFY(registerPictures("skins/default/default.res"));
+        QVERIFY(registerPictures("skins/ombrin.res"));
     }
 
     void everyPictureIsThereInEveryDensity()

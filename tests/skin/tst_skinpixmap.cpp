@@ -1,12 +1,11 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include "skin/SkinPixmap.h"
-
-#include <QtGui/QPixmapCache>
 
 #include <cmath>
 
 using namespace ombrin;
+using namespace ombrin::test;
 
 namespace {
 
@@ -28,9 +27,7 @@ QByteArray encoded(const QImage &image, const char *format = "PNG")
 
 QByteArray variantFile(int density)
 {
-    QImage image(kSize * density, QImage::Format_RGB32);
-    image.fill(colorOf(density));
-    return encoded(image);
+    return encoded(flatImage(kSize * density, colorOf(density), QImage::Format_RGB32));
 }
 
 // Of the right size, cut in the middle of its contents.
@@ -112,30 +109,22 @@ private Q_SLOTS:
 
     void atDensityOneItIsQPixmap_data()
     {
-        columns<QString, QString, int, QByteArray>("file", "name", "imageFormat", "fileFormat");
-        const auto row = [](const char *title, const char *file, const char *name,
-                            QImage::Format imageFormat, const char *fileFormat = "PNG") {
-            QTest::newRow(title) << file << name << int(imageFormat) << QByteArray(fileFormat);
-        };
-        row("translucent", "icon", "icon", QImage::Format_ARGB32);
-        row("bitmap", "icon", "icon", QImage::Format_RGB32, "BMP");
-        row("wrong suffix", "icon.jpg", "icon.jpg", QImage::Format_ARGB32);
-        row("suffix left out", "icon.png", "icon", QImage::Format_ARGB32);
-        row("variant by name", "icon@2x", "icon@2x", QImage::Format_ARGB32);
+        const auto row = columns<QString, QString, QByteArray>("file", "name", "format");
+        row("translucent", "icon", "icon", "PNG");
+        row("bitmap", "icon", "icon", "BMP");
+        row("wrong suffix", "icon.jpg", "icon.jpg", "PNG");
+        row("suffix left out", "icon.png", "icon", "PNG");
+        row("variant by name", "icon@2x", "icon@2x", "PNG");
     }
     void atDensityOneItIsQPixmap()
     {
         QFETCH(QString, file);
         QFETCH(QString, name);
-        QFETCH(int, imageFormat);
-        QFETCH(QByteArray, fileFormat);
+        QFETCH(QByteArray, format);
         QImage image(16, 16, QImage::Format_ARGB32);
-        for (int y = 0; y < 16; ++y) {
-            for (int x = 0; x < 16; ++x)
-                image.setPixel(x, y, qRgba(16 * x, 16 * y, 128, 17 * x));
-        }
-        image = image.convertToFormat(static_cast<QImage::Format>(imageFormat));
-        write(file, encoded(image, fileFormat.constData()));
+        for (int i = 0; i < 256; ++i)
+            image.setPixel(i % 16, i / 16, qRgba(i % 16 * 16, i, 128, i % 16 * 17));
+        write(file, encoded(image, format));
 
         const QPixmap expected(path(name));
         QVERIFY(!expected.isNull());

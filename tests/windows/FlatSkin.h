@@ -2,8 +2,6 @@
 
 #include "support/TestCase.h"
 
-#include <QtGui/QColor>
-
 /// The skin of flat colours that the window tests register: every piece and every button state has
 /// a colour of its own.
 namespace flat_skin {

@@ -1,12 +1,10 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 #include "windows/FlatSkin.h"
 
 #include "windows/FramePainter.h"
 
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
-
 using namespace ombrin;
+using namespace ombrin::test;
 
 namespace {
 
@@ -15,9 +13,8 @@ const QColor kNothing(255, 0, 255);
 QImage paintFrame(const QSize &size, qreal density, bool active,
                   const QRegion &exposed = QRegion(-10000, -10000, 20000, 20000))
 {
-    QImage image((QSizeF(size) * density).toSize(), QImage::Format_ARGB32_Premultiplied);
+    QImage image = flatImage((QSizeF(size) * density).toSize(), kNothing);
     image.setDevicePixelRatio(density);
-    image.fill(kNothing);
     QPainter painter(&image);
     FramePainter::paintBorder(&painter, size, active, exposed);
     return image;
@@ -44,24 +41,18 @@ private Q_SLOTS:
     {
         QFETCH(bool, active);
         QFETCH(int, density);
-        struct Place
-        {
-            const char *name;
-            QRect rect;
-        };
-        const Place places[] = {
+        const std::pair<const char *, QRect> places[] = {
                 {"top_left", {0, 0, 86, 30}},        {"top_center", {86, 0, 226, 30}},
                 {"top_right", {312, 0, 88, 30}},     {"left", {0, 30, 5, 265}},
                 {"right", {395, 30, 5, 265}},        {"bottom_left", {0, 295, 5, 5}},
                 {"bottom_center", {5, 295, 390, 5}}, {"bottom_right", {395, 295, 5, 5}},
         };
         const QImage image = paintFrame(QSize(400, 300), density, active);
-        QImage expected(image.size(), image.format());
-        expected.fill(kNothing);
+        QImage expected = flatImage(image.size(), kNothing);
         QPainter painter(&expected);
-        for (const Place &place : places) {
-            painter.fillRect(QRect(place.rect.topLeft() * density, place.rect.size() * density),
-                             flat_skin::piece(place.name, active));
+        for (const auto &[name, rect] : places) {
+            painter.fillRect(QRect(rect.topLeft() * density, rect.size() * density),
+                             flat_skin::piece(name, active));
         }
         painter.end();
         expected.setDevicePixelRatio(density);
@@ -119,15 +110,13 @@ private Q_SLOTS:
     {
         const QFont font = QApplication::font();
         const auto paintTitle = [&](const QString &title, bool active) {
-            QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
-            image.fill(Qt::gray);
+            QImage image = flatImage(QSize(400, 300), Qt::gray);
             QPainter painter(&image);
             FramePainter().paintTitle(&painter, image.size(), active, title, font);
             return image;
         };
         const QString title(300, QLatin1Char('W'));
-        QImage expected(400, 300, QImage::Format_ARGB32_Premultiplied);
-        expected.fill(Qt::gray);
+        QImage expected = flatImage(QSize(400, 300), Qt::gray);
         QPainter painter(&expected);
         painter.setFont(font);
         painter.setPen(Qt::black);
@@ -139,9 +128,9 @@ private Q_SLOTS:
 
         // Nothing remains of an earlier one.
         FramePainter painterOfBoth;
-        QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
+        QImage image;
         for (const QString &text : {title, "Short"_q}) {
-            image.fill(Qt::gray);
+            image = flatImage(QSize(400, 300), Qt::gray);
             QPainter imagePainter(&image);
             painterOfBoth.paintTitle(&imagePainter, image.size(), true, text, font);
         }

@@ -2,9 +2,6 @@
 
 #include <ombrin/OmDesktop.h>
 
-#include <QtGui/QScreen>
-#include <QtWidgets/QWidget>
-
 using ombrin::OmDesktop;
 
 class tst_OmDesktop : public ombrin::test::TestCase

@@ -1,5 +1,4 @@
 #include "support/TaggedLanguage.h"
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 #include "windows/FlatSkin.h"
 
@@ -9,16 +8,6 @@
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmStatusBar.h>
 #include <ombrin/OmWindow.h>
-
-#include <QAction>
-#include <QtGui/QContextMenuEvent>
-#include <QtGui/QPainter>
-#include <QtGui/QStatusTipEvent>
-#include <QtGui/QWindow>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QMenuBar>
-#include <QtWidgets/QVBoxLayout>
 
 using namespace ombrin::test;
 using namespace ombrin;
@@ -35,9 +24,7 @@ OmImageButton *titleButton(const QWidget &window, Button which)
 void show(QWidget &window, const QSize &size = QSize(400, 300))
 {
     window.resize(size);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(activate(&window));
 }
 
 // Until deferred actions, and the button swap that one of them may bring about, are done: timers
@@ -163,10 +150,11 @@ private Q_SLOTS:
             show(window);
             for (const QSize size : {QSize(174, 35), QSize(401, 300), QSize(913, 299)}) {
                 window.resize(size);
-                QCOMPARE(titleButton(window, Minimize)->pos(), QPoint(size.width() - 79, 5));
-                QCOMPARE(titleButton(window, Maximize)->pos(), QPoint(size.width() - 54, 5));
-                QCOMPARE(titleButton(window, Restore)->pos(), QPoint(size.width() - 54, 5));
-                QCOMPARE(titleButton(window, Close)->pos(), QPoint(size.width() - 29, 5));
+                const std::pair<Button, int> places[] = {
+                        {Minimize, 79}, {Maximize, 54}, {Restore, 54}, {Close, 29}};
+                for (const auto &[button, fromRight] : places)
+                    QCOMPARE(titleButton(window, button)->pos(),
+                             QPoint(size.width() - fromRight, 5));
                 QCOMPARE(window.mask(), ombrin::frameShape(size));
             }
         });
@@ -583,7 +571,7 @@ private Q_SLOTS:
         QCOMPARE(inner->pos(), QPoint(60, 40));
     }
 
-    void hostMayDeleteTheWindowFromItsButtons()
+    void hostMayDeleteTheWindowFromAnySignalAndBeforeTimers()
     {
         class DeletesItself : public OmWindow
         {
@@ -594,10 +582,10 @@ private Q_SLOTS:
         QTest::mouseClick(titleButton(*window, Close), Qt::LeftButton);
         QVERIFY(!window);
 
+        const auto destroy = [&window] { delete window; };
         window = new OmWindow;
         window->show();
-        connect(titleButton(*window, Minimize), &OmImageButton::clicked, window,
-                [&window] { delete window; });
+        connect(titleButton(*window, Minimize), &OmImageButton::clicked, window, destroy);
         QTest::mouseClick(titleButton(*window, Minimize), Qt::LeftButton);
         QVERIFY(!window);
 
@@ -605,19 +593,16 @@ private Q_SLOTS:
         window->show();
         QAction action;
         window->setAlwaysOnTopAction(&action);
-        connect(&action, &QAction::toggled, window, [&window] { delete window; });
+        connect(&action, &QAction::toggled, window, destroy);
         QVERIFY(QMetaObject::invokeMethod(window, "slotAlwaysOnTop"));
         QVERIFY(!window);
-    }
 
-    void hostMayDeleteTheWindowFromItsMenuAndBeforeTimers()
-    {
-        QPointer<OmWindow> window = new OmWindow;
+        window = new OmWindow;
         window->show();
         const QMenu *menu = openMenu(*window, 5);
         QVERIFY(menu);
         QAction *opaque = opacityEntries(*menu).constFirst();
-        connect(opaque, &QAction::triggered, window, [&window] { delete window; });
+        connect(opaque, &QAction::triggered, window, destroy);
         opaque->trigger();
         QVERIFY(!window);
 

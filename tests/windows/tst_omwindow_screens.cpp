@@ -1,13 +1,10 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include "skin/SkinPixmap.h"
 
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmSkin.h>
 #include <ombrin/OmWindow.h>
-
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
 
 using namespace ombrin;
 
@@ -27,9 +24,7 @@ private Q_SLOTS:
     {
         OmWindow window;
         window.resize(400, 300);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window, 20000));
+        QVERIFY(ombrin::test::activate(&window));
 
         const QList<QScreen *> screens = QGuiApplication::screens();
         for (QScreen *screen : {screens.at(1), screens.at(0), screens.at(1)}) {

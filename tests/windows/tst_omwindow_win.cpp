@@ -4,9 +4,6 @@
 #include <ombrin/OmDialog2.h>
 #include <ombrin/OmWindow.h>
 
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
-
 #include <atomic>
 #include <functional>
 #include <thread>

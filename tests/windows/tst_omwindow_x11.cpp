@@ -1,12 +1,9 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 #include "support/XUser.h"
 #include "windows/FlatSkin.h"
 
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmWindow.h>
-
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
 
 using namespace ombrin::test;
 using namespace ombrin;
@@ -15,21 +12,19 @@ namespace {
 
 const QRect kStart(300, 200, 400, 300);
 
-void showAt(QWidget &window, const QRect &geometry)
-{
-    window.setGeometry(geometry);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window, 20000));
-    // The window manager places new windows as it likes.
-    window.setGeometry(geometry);
-    QVERIFY(TestCase::waitFor([&] { return window.geometry() == geometry; }));
-    QTest::qWait(100);
-}
-
 bool becomes(const QWidget &window, const QRect &geometry)
 {
     return TestCase::waitFor([&] { return window.geometry() == geometry; });
+}
+
+void showAt(QWidget &window, const QRect &geometry)
+{
+    window.setGeometry(geometry);
+    QVERIFY(activate(&window));
+    // The window manager places new windows as it likes.
+    window.setGeometry(geometry);
+    QVERIFY(becomes(window, geometry));
+    QTest::qWait(100);
 }
 
 // After a drag the window may lag behind by the pixels that told the drag from a click.

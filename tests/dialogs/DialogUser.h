@@ -1,11 +1,8 @@
 #pragma once
 
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmImageButton.h>
-
-#include <QtGui/QWindow>
-#include <QtWidgets/QPushButton>
 
 #include <functional>
 
@@ -82,12 +79,9 @@ inline QString captions(const QWidget *dialog)
 /// The button with \a text that the user sees, or null.
 inline QPushButton *button(const QWidget *dialog, const char *text)
 {
-    const auto buttons = dialog->findChildren<QPushButton *>();
-    for (QPushButton *candidate : buttons) {
-        if (candidate->isVisibleTo(dialog) && candidate->text() == QLatin1String(text))
-            return candidate;
-    }
-    return nullptr;
+    return ombrin::test::childWhere<QPushButton>(dialog, [&](const QPushButton *candidate) {
+        return candidate->isVisibleTo(dialog) && candidate->text() == QLatin1String(text);
+    });
 }
 
 /// The close button of the frame.

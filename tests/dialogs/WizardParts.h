@@ -12,6 +12,8 @@
 /// Pages and missions that tell what is done to them and do what they are told.
 namespace wizard_parts {
 
+using ombrin::test::activate;
+
 /// Hears of everything. What it does then may destroy whoever told it.
 struct Log : public QObject
 {
@@ -218,14 +220,6 @@ inline std::unique_ptr<COmWizard_Base> makeWizard(bool compact, COmWizard_Missio
     return wizard;
 }
 
-/// Shows \a wizard and waits until it has the keyboard.
-inline bool show(QWidget *wizard)
-{
-    wizard->show();
-    wizard->activateWindow();
-    return QTest::qWaitForWindowActive(wizard);
-}
-
 /// The button of \a action, visible or not.
 inline QPushButton *button(const QWidget *wizard, Action action)
 {
@@ -240,8 +234,7 @@ inline QPushButton *button(const QWidget *wizard, Action action)
 
 inline QPixmap picture(const QSize &size, qreal density = 1)
 {
-    QPixmap pixmap((QSizeF(size) * density).toSize());
-    pixmap.fill(Qt::darkCyan);
+    QPixmap pixmap = ombrin::test::flatPixmap((QSizeF(size) * density).toSize(), Qt::darkCyan);
     pixmap.setDevicePixelRatio(density);
     return pixmap;
 }

@@ -8,12 +8,6 @@
 #include <ombrin/OmMessageBox.h>
 #include <ombrin/OmStyle2.h>
 
-#include <QtWidgets/QCalendarWidget>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLayout>
-#include <QtWidgets/QTableView>
-
 #include <cstdio>
 
 using namespace dialog_user;
@@ -110,6 +104,20 @@ private Q_SLOTS:
         const Act destroy = [](OmDialog2 *dialog) { delete dialog; };
         const Act destroyParent = [](OmDialog2 *dialog) { delete dialog->parentWidget(); };
         const Act accept = [](OmDialog2 *dialog) { dialog->accept(); };
+        const Act acceptPassword = [](OmDialog2 *dialog) {
+            const QString shown = dialog->findChild<QLineEdit *>()->displayText();
+            QVERIFY(shown.size() == 6 && !shown.contains("preset"_q));
+            dialog->accept();
+        };
+        const Act acceptWithoutInput = [](OmDialog2 *dialog) {
+            delete dialog->findChild<QComboBox *>();
+            dialog->accept();
+        };
+        const Act chooseNextDay = [](OmDialog2 *dialog) {
+            dialog->findChild<QTableView *>()->setFocus();
+            type(dialog, Qt::Key_Right);
+            type(dialog, Qt::Key_Return);
+        };
         const Call information = message(&OmMessageBox::information);
         const Call question = message(&OmMessageBox::question);
         const QDate pi(2011, 3, 14);
@@ -121,34 +129,14 @@ private Q_SLOTS:
         row("text: typed over", text(), typeOver("new"_q), "new"_q);
         row("text: empty", text(), typeOver(QString()), ""_q);
         row("text: cancel", text(), press("&Cancel"), QString());
-        row(
-                "text: password", text(QLineEdit::Password),
-                [](OmDialog2 *dialog) {
-                    const QString shown = dialog->findChild<QLineEdit *>()->displayText();
-                    QVERIFY(shown.size() == 6 && !shown.contains("preset"_q));
-                    dialog->accept();
-                },
-                "preset"_q);
+        row("text: password", text(QLineEdit::Password), acceptPassword, "preset"_q);
         row("item: second", item(1), key(Qt::Key_Return), "Pear"_q);
         row("item: beyond the list", item(2), key(Qt::Key_Return), ""_q);
         row("item: typed", item(1, true), typeOver("plum"_q), "plum"_q);
         row("item: cancel", item(1, true), press("&Cancel"), QString());
-        row(
-                "item: input destroyed", item(1),
-                [](OmDialog2 *dialog) {
-                    delete dialog->findChild<QComboBox *>();
-                    dialog->accept();
-                },
-                QString());
+        row("item: input destroyed", item(1), acceptWithoutInput, QString());
         row("date: clicked", date(pi), day("23"_q), QDate(2011, 3, 23));
-        row(
-                "date: keyboard", date(pi),
-                [](OmDialog2 *dialog) {
-                    dialog->findChild<QTableView *>()->setFocus();
-                    type(dialog, Qt::Key_Right);
-                    type(dialog, Qt::Key_Return);
-                },
-                QDate(2011, 3, 15));
+        row("date: keyboard", date(pi), chooseNextDay, QDate(2011, 3, 15));
         row("date: none, accepted", date(QDate()), accept, QDate::currentDate());
 
         const std::tuple<const char *, Call, QVariant> calls[] = {
@@ -202,19 +190,14 @@ private Q_SLOTS:
     void dialogsLookAsDescribed_data()
     {
         // captions: the default button first
-        columns<Call, QString, QString>("call", "captions", "title");
-        const auto row = [](const char *name, const Call &call, const char *captions,
-                            const char *title = "Title") {
-            QTest::newRow(name) << call << captions << title;
-        };
-        const char *longTitle = "A title longer than that";
-        row("information", message(&OmMessageBox::information), "&Ok");
-        row("question", message(&OmMessageBox::question), "&Yes &No");
+        const auto row = columns<Call, QString, QString>("call", "captions", "title");
+        const QString title = "A title longer than that"_q;
+        row("information", message(&OmMessageBox::information), "&Ok", "Title");
+        row("question", message(&OmMessageBox::question), "&Yes &No", "Title");
         row("no title", message(&OmMessageBox::question, QString()), "&Yes &No", "");
-        row("long title", message(&OmMessageBox::question, QLatin1String(longTitle)), "&Yes &No",
-            longTitle);
-        row("text", text(), "&Ok &Cancel");
-        row("item", item(0), "&Ok &Cancel");
+        row("long title", message(&OmMessageBox::question, title), "&Yes &No", title);
+        row("text", text(), "&Ok &Cancel", "Title");
+        row("item", item(0), "&Ok &Cancel", "Title");
     }
 
     void dialogsLookAsDescribed()
@@ -265,10 +248,10 @@ private Q_SLOTS:
 
     void weeksBeginAsTheSystemsLocaleHasIt_data()
     {
-        QTest::addColumn<int>("firstDay");
-        QTest::newRow("de_AT.UTF-8") << int(Qt::Monday);
-        QTest::newRow("en_US.UTF-8") << int(Qt::Sunday);
-        QTest::newRow("fr_FR.UTF-8") << int(Qt::Sunday);
+        const auto row = columns<int>("firstDay");
+        row("de_AT.UTF-8", Qt::Monday);
+        row("en_US.UTF-8", Qt::Sunday);
+        row("fr_FR.UTF-8", Qt::Sunday);
     }
 
     void weeksBeginAsTheSystemsLocaleHasIt()

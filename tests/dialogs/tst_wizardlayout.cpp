@@ -2,12 +2,6 @@
 #include "support/TestCase.h"
 #include "windows/FlatSkin.h"
 
-#include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
-#include <QtWidgets/QFrame>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLayout>
-
 using namespace wizard_parts;
 
 namespace {
@@ -88,7 +82,7 @@ private Q_SLOTS:
             QCOMPARE(label(&wizard, Picture)->minimumSize(), QSize(0, 0));
             QCOMPARE(label(&wizard, Picture)->maximumSize(), QSize(16777215, 16777215));
         }
-        QVERIFY(show(&wizard));
+        QVERIFY(activate(&wizard));
 
         const auto expectAt = [&](const QWidget *widget, const QRect &rect) {
             QCOMPARE(place(widget), direction == Qt::LeftToRight ? rect : mirrored(rect, 600));
@@ -144,7 +138,7 @@ private Q_SLOTS:
             wizard.FixSize(true, QSize(640, 480));
             wizard.FixSize(true, QSize(500, 400));
             wizard.Set_Mission(&mission);
-            QVERIFY(show(&wizard));
+            QVERIFY(activate(&wizard));
             QCOMPARE(wizard.size(), QSize(500, 400));
             mission.NextPage();
             QCoreApplication::processEvents();
@@ -187,7 +181,7 @@ private Q_SLOTS:
             wizard.setContentsMargins(margins);
             wizard.Set_Mission(&mission);
             QCOMPARE(wizard.size(), size.grownBy(margins)); // already before it is shown
-            QVERIFY(show(&wizard));
+            QVERIFY(activate(&wizard));
             QCOMPARE(wizard.size(), size.grownBy(margins));
             const auto *label = wizard.findChild<QLabel *>();
             QCOMPARE(label->isVisible(), sidebar.isValid());
@@ -207,7 +201,7 @@ private Q_SLOTS:
         OmWizard_Standard2 wizard;
         wizard.setContentsMargins(0, 0, 0, 0);
         wizard.Set_Mission(&mission);
-        QVERIFY(show(&wizard));
+        QVERIFY(activate(&wizard));
         mission.NextPage();
         QCOMPARE(wizard.size(), QSize(320, 258));
         mission.PrevPage();
@@ -234,7 +228,7 @@ private Q_SLOTS:
         mission.sidebar = picture({80, 60});
         OmWizard_Standard2 wizard;
         wizard.Set_Mission(&mission);
-        QVERIFY(show(&wizard));
+        QVERIFY(activate(&wizard));
         const auto expectAt = [&](const QWidget *widget, const QRect &rect) {
             QCOMPARE(widget->geometry(), wizard.layoutDirection() == Qt::LeftToRight
                                                  ? rect

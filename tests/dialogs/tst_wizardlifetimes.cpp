@@ -186,7 +186,7 @@ private Q_SLOTS:
             for (int victims = 0; victims < 8; ++victims) {
                 Scene scene(compact);
                 scene.mission->confirms.reset();
-                QVERIFY(show(scene.wizard));
+                QVERIFY(activate(scene.wizard));
                 whenOpen<OmMessageBox>([&](OmMessageBox *box) {
                     if (victims & 1)
                         scene.killMission();
@@ -213,10 +213,10 @@ private Q_SLOTS:
         QFETCH(bool, compact);
         for (const bool secondIsCompact : {false, true}) {
             Scene scene(compact);
-            QVERIFY(show(scene.wizard));
+            QVERIFY(activate(scene.wizard));
             // One mission in two wizards: the page is in the one that was refreshed last.
             auto second = makeWizard(secondIsCompact, scene.mission);
-            QVERIFY(show(second.get()));
+            QVERIFY(activate(second.get()));
             QVERIFY(second->isAncestorOf(scene.pages[1]));
             click(button(second.get(), Next));
             QVERIFY(second->isAncestorOf(scene.pages[2]));
@@ -251,7 +251,7 @@ private Q_SLOTS:
         for (const auto &end : ends) {
             Scene scene(compact);
             scene.wizard->setAttribute(Qt::WA_DeleteOnClose);
-            QVERIFY(show(scene.wizard));
+            QVERIFY(activate(scene.wizard));
             click(dialog_user::closeButton(scene.wizard)); // not confirmed
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QVERIFY(scene.wizard);

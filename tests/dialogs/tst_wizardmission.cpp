@@ -5,8 +5,6 @@
 
 #include <ombrin/OmMessageBox.h>
 
-#include <QtWidgets/QLabel>
-
 using namespace wizard_parts;
 using dialog_user::click;
 using dialog_user::whenOpen;

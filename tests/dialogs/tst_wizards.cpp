@@ -5,12 +5,6 @@
 
 #include <ombrin/OmMessageBox.h>
 
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPlainTextEdit>
-
 using namespace wizard_parts;
 using dialog_user::click;
 using dialog_user::type;
@@ -79,7 +73,7 @@ private Q_SLOTS:
         Mission mission(pages, &log);
         mission.confirms = false;
         const auto wizard = makeWizard(compact, &mission);
-        QVERIFY(show(wizard.get()));
+        QVERIFY(activate(wizard.get()));
         for (int bits = 0; bits < 256; ++bits) {
             mission.possible = bits & 15;
             mission.allowed = bits >> 4;
@@ -173,9 +167,7 @@ private Q_SLOTS:
         QSignalSpy finished(wizard.get(), &QDialog::finished);
         /// Cancels by the button or the frame, and returns how the dialog ended, or -1.
         const auto cancel = [&](bool byFrame) {
-            wizard->show();
-            wizard->activateWindow();
-            if (!QTest::qWaitForWindowActive(wizard.get()))
+            if (!activate(wizard.get()))
                 return -2;
             click(byFrame ? static_cast<QWidget *>(dialog_user::closeButton(wizard.get()))
                           : button(wizard.get(), Cancel));
@@ -246,7 +238,7 @@ private Q_SLOTS:
                     mission.NextPage();
                 const auto wizard = makeWizard(isCompact, &mission);
                 connect(wizard.get(), &QDialog::rejected, &log, [&] { log.tell("closed"_q); });
-                QVERIFY(show(wizard.get()));
+                QVERIFY(activate(wizard.get()));
                 QWidget *page = mission.CurrentPage();
                 if (isCompact && page)
                     QTRY_VERIFY_WITH_TIMEOUT(page->hasFocus(), 20000);
@@ -277,7 +269,7 @@ private Q_SLOTS:
             Mission mission(pages, &log);
             COmWizard_Standard wizard;
             wizard.Set_Mission(&mission);
-            QVERIFY(show(&wizard));
+            QVERIFY(activate(&wizard));
             pages[0]->setFocus();
             if (what == 0) {
                 text->setFocus();
@@ -294,8 +286,7 @@ private Q_SLOTS:
                     QTest::keyPress(box->windowHandle(), Qt::Key_Enter);
                 });
                 click(dialog_user::closeButton(&wizard));
-                wizard.activateWindow();
-                QVERIFY(QTest::qWaitForWindowActive(&wizard));
+                QVERIFY(activate(&wizard));
                 QTest::keyRelease(wizard.windowHandle(), Qt::Key_Enter);
             }
             QVERIFY(!log.take().contains("ExecuteMission"_q));
@@ -359,7 +350,7 @@ private Q_SLOTS:
         mission.sidebar = picture({100, 200});
         mission.picture = picture({48, 48});
         const auto wizard = makeWizard(compact, &mission);
-        QVERIFY(show(wizard.get()));
+        QVERIFY(activate(wizard.get()));
         mission.NextPage();
         Observer observer(wizard.get());
         QVERIFY(waitFor([&observer] { // until it has come to rest
@@ -390,7 +381,7 @@ private Q_SLOTS:
         Mission mission(pages);
         mission.possible = 15;
         const auto wizard = makeWizard(compact, &mission);
-        QVERIFY(show(wizard.get()));
+        QVERIFY(activate(wizard.get()));
         const QString prefix =
                 QLatin1String(compact ? "OmWizard_Standard2|" : "COmWizard_Standard|");
         const QString before = shownButtons(wizard.get());
@@ -426,7 +417,7 @@ private Q_SLOTS:
         }
         Mission mission(pages);
         const auto wizard = makeWizard(compact, &mission);
-        QVERIFY(show(wizard.get()));
+        QVERIFY(activate(wizard.get()));
         if (compact)
             QVERIFY(pages[0]->hasFocus());
         else

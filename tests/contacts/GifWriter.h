@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <QtCore/QSize>
-#include <QtGui/QColor>
+#include <QtGui/QtGui>
 
 /// Qt reads animations but writes none.
 namespace gif_writer {

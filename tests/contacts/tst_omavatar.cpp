@@ -1,23 +1,15 @@
 #include "contacts/GifWriter.h"
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmAvatar.h>
 #include <ombrin/OmFaderWidget.h>
 
-#include <QtGui/QMovie>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLayout>
-
 using namespace ombrin;
+using namespace ombrin::test;
 
 namespace {
 
-QPixmap picture(const QSize &size, const QColor &color = Qt::red)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(color);
-    return pixmap;
-}
+constexpr QSize kSize(60, 40);
 
 QLabel *labelOf(const OmAvatar &avatar)
 {
@@ -39,10 +31,8 @@ public:
 QByteArray encoded(const char *format)
 {
     QImage image(200, 150, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, qRgb(x, y, x * y % 256));
-    }
+    for (int i = 0; i < 200 * 150; ++i)
+        image.setPixel(i % 200, i / 200, qRgb(i % 200, i / 200, i % 256));
     QBuffer buffer;
     image.save(&buffer, format);
     return buffer.data();
@@ -50,7 +40,7 @@ QByteArray encoded(const char *format)
 
 OmAvatar *shownAvatar()
 {
-    auto *const avatar = new OmAvatar(picture(QSize(60, 40)));
+    auto *const avatar = new OmAvatar(flatPixmap(kSize, Qt::red));
     avatar->move(100, 100);
     avatar->show();
     return avatar;
@@ -66,9 +56,9 @@ private Q_SLOTS:
     void isAFramelessPopupOfThePicturesSize_data()
     {
         const auto row = columns<QPixmap, QSize>("pixmap", "size");
-        QPixmap dense = picture(QSize(60, 40));
+        QPixmap dense = flatPixmap(kSize, Qt::red);
+        row("picture", dense, {62, 42});
         dense.setDevicePixelRatio(2);
-        row("picture", picture(QSize(60, 40)), {62, 42});
         row("dense picture", dense, {32, 22});
         row("null", QPixmap(), {2, 2});
     }
@@ -105,9 +95,8 @@ private Q_SLOTS:
     // Else the paints of a fade pile up there.
     void groundShowsBehindTransparentPictures()
     {
-        OmAvatar avatar(picture(QSize(60, 40), Qt::transparent));
-        QPixmap target(avatar.size());
-        target.fill(Qt::green);
+        OmAvatar avatar(flatPixmap(kSize, Qt::transparent));
+        QPixmap target = flatPixmap(avatar.size(), Qt::green);
         avatar.render(&target, QPoint(), QRegion(), QWidget::DrawChildren);
         QCOMPARE(target.toImage().pixelColor(30, 20), avatar.palette().color(QPalette::Window));
     }
@@ -130,13 +119,10 @@ private Q_SLOTS:
         QSignalSpy clicked(avatar, &OmAvatar::clicked);
         // More than once: each starts a fade, and the first to end closes the avatar.
         for (int time = 0; time < 2; ++time) {
-            if (button == Qt::NoButton) {
-                QEvent leave(QEvent::Leave);
-                QApplication::sendEvent(avatar, &leave);
-            } else {
-                QTest::mouseRelease(avatar, static_cast<Qt::MouseButton>(button), Qt::NoModifier,
-                                    place);
-            }
+            if (button == Qt::NoButton)
+                sendLeave(avatar);
+            else
+                QTest::mouseRelease(avatar, Qt::MouseButton(button), Qt::NoModifier, place);
         }
         QVERIFY(avatar->isVisible());
         QCOMPARE(avatar->findChildren<OmFaderWidget *>().size(), 2);
@@ -183,7 +169,8 @@ private Q_SLOTS:
         const OmAvatar avatar(file.fileName());
         QCOMPARE(avatar.size(), QSize(202, 152));
         QVERIFY(!labelOf(avatar)->movie());
-        QCOMPARE(labelOf(avatar)->pixmap(Qt::ReturnByValue).toImage().pixel(7, 9), qRgb(7, 9, 63));
+        QCOMPARE(labelOf(avatar)->pixmap(Qt::ReturnByValue).toImage().pixel(7, 9),
+                 qRgb(7, 9, (9 * 200 + 7) % 256));
     }
 
     void playsAnimations_data()

@@ -1,4 +1,3 @@
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
 #include "skin/SkinPixmap.h"
@@ -6,9 +5,6 @@
 #include <ombrin/OmAvatar.h>
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmFaderWidget.h>
-
-#include <QtGui/QPainter>
-#include <QtGui/QScreen>
 
 using namespace ombrin::test;
 using namespace ombrin;
@@ -22,9 +18,7 @@ const QColor kPicture(Qt::red);
 
 QPixmap picture(const QSize &size)
 {
-    QPixmap pixmap(size);
-    pixmap.fill(kPicture);
-    return pixmap;
+    return flatPixmap(size, kPicture);
 }
 
 QImage shown(const OmAvatarSmall &avatar)
@@ -36,8 +30,7 @@ QImage shown(const OmAvatarSmall &avatar)
 
 QColor under(const QColor &upper, qreal opacity, const QColor &lower)
 {
-    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
-    pixel.fill(lower);
+    QImage pixel = flatImage(QSize(1, 1), lower, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&pixel);
     painter.setOpacity(opacity);
     painter.fillRect(pixel.rect(), upper);
@@ -78,7 +71,6 @@ private Q_SLOTS:
     void startsWithThePlaceholder()
     {
         OmAvatarSmall avatar;
-        QVERIFY(avatar.avatar().isNull() && !avatar.isLink());
         QCOMPARE(avatar.maximumSize(), QSize(78, 78));
         QCOMPARE(avatar.sizeHint(), QSize(78, 78));
         avatar.resize(78, 78);

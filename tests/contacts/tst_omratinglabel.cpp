@@ -1,9 +1,6 @@
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
 #include <ombrin/OmRatingLabel.h>
-
-#include <QtGui/QAccessible>
 
 #include <cmath>
 
@@ -14,33 +11,18 @@ namespace {
 
 constexpr QRgb kGround = 0xffffffff;
 
-// The star pictures, as the test's skin colours them, by the letters of the tables below.
+// The star pictures are grey, as the test's skin has them: empty, empty under the mouse, half and
+// so on, from 0x10 to 0x60. In the tables below they are letters.
 QChar letter(QRgb color)
 {
-    switch (color) {
-    case 0xff101010:
-        return QLatin1Char('e'); // empty
-    case 0xff202020:
-        return QLatin1Char('E'); // empty, hovered
-    case 0xff303030:
-        return QLatin1Char('h');
-    case 0xff404040:
-        return QLatin1Char('H');
-    case 0xff505050:
-        return QLatin1Char('f');
-    case 0xff606060:
-        return QLatin1Char('F');
-    default:
-        return QLatin1Char('?');
-    }
+    return "?eEhHfF?????????"_q.at(qGray(color) / 0x10);
 }
 
 QImage painted(OmRatingLabel *label)
 {
     const qreal ratio = label->devicePixelRatioF();
-    QImage image((QSizeF(label->size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    QImage image = flatImage((QSizeF(label->size()) * ratio).toSize(), Qt::white);
     image.setDevicePixelRatio(ratio);
-    image.fill(kGround);
     label->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     return image;
 }
@@ -66,15 +48,12 @@ class tst_OmRatingLabel : public TestCase
 private Q_SLOTS:
     void initTestCase() { QVERIFY(registerPictures("testdata/contacts.res")); }
 
-    void startsEmptyAndFrameless()
+    void hasRoomForItsStars()
     {
         OmRatingLabel label;
-        QVERIFY(label.hasMouseTracking());
         QCOMPARE(label.maximumHeight(), 34);
         QCOMPARE(label.frameStyle(), 0);
         QCOMPARE(label.sizeHint(), QSize(166, 34));
-        QCOMPARE(label.rating(), 0);
-        QCOMPARE(label.currentRating(), 0);
     }
 
     void showsTheStoredRating_data()

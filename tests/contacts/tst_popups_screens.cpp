@@ -1,4 +1,3 @@
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 #include "support/XUser.h"
 
@@ -6,8 +5,6 @@
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmInfoPopup.h>
 #include <ombrin/OmSkin.h>
-
-#include <QtGui/QScreen>
 
 using namespace ombrin::test;
 using namespace ombrin;
@@ -26,11 +23,11 @@ private Q_SLOTS:
 
     void popupsOpenOnTheScreenOfTheirWidget_data()
     {
-        QTest::addColumn<QString>("place");
-        QTest::newRow("second screen on the right") << "--right-of"_q;
-        QTest::newRow("second screen on the left") << "--left-of"_q;
-        QTest::newRow("second screen above") << "--above"_q;
-        QTest::newRow("second screen below") << "--below"_q;
+        const auto row = columns<QString>("place");
+        row("second screen on the right", "--right-of");
+        row("second screen on the left", "--left-of");
+        row("second screen above", "--above");
+        row("second screen below", "--below");
     }
 
     void popupsOpenOnTheScreenOfTheirWidget()
@@ -65,9 +62,7 @@ private Q_SLOTS:
                 window.show();
                 QVERIFY(QTest::qWaitForWindowExposed(&window, 20000));
 
-                QPixmap picture(200, 300);
-                picture.fill(Qt::red);
-                small.setAvatar(picture, false);
+                small.setAvatar(flatPixmap(QSize(200, 300), Qt::red), false);
                 QVERIFY(QMetaObject::invokeMethod(&small, "slotAvatar"));
                 const QPointer<OmAvatar> avatar = small.findChild<OmAvatar *>();
                 QVERIFY(QTest::qWaitForWindowExposed(avatar, 20000));

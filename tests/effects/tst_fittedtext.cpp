@@ -2,8 +2,6 @@
 
 #include "effects/FittedText.h"
 
-#include <QtGui/QFontMetrics>
-
 using ombrin::fittedText;
 
 class tst_FittedText : public ombrin::test::TestCase

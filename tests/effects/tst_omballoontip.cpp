@@ -1,13 +1,6 @@
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
 #include <ombrin/OmBalloonTip.h>
-
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QStyle>
 
 #include <functional>
 
@@ -20,6 +13,12 @@ const QString kTitle = "Ada"_q;
 const QString kMessage = "I am back at my desk.\nCall me!"_q;
 const QPoint kPosition(200, 150);
 const QColor kGround(0xff, 0xff, 0xde);
+
+// One with all that a balloon can have.
+void showFullTip()
+{
+    OmBalloonTip::showBalloon(WarningMessageIcon, kTitle, kMessage, kPosition, 0, true, true, true);
+}
 
 void showTip(const QString &message = kMessage, int timeout = 0, const QPoint &pos = kPosition)
 {
@@ -50,22 +49,13 @@ void deleteClosed()
 
 QLabel *labelWith(const QWidget *tip, const QString &text)
 {
-    const auto labels = tip->findChildren<QLabel *>();
-    for (QLabel *label : labels) {
-        if (label->text() == text)
-            return label;
-    }
-    return nullptr;
+    return childWhere<QLabel>(tip, [&](const QLabel *label) { return label->text() == text; });
 }
 
 QLabel *pictureLabel(const QWidget *tip)
 {
-    const auto labels = tip->findChildren<QLabel *>();
-    for (QLabel *label : labels) {
-        if (!label->pixmap(Qt::ReturnByValue).isNull())
-            return label;
-    }
-    return nullptr;
+    return childWhere<QLabel>(
+            tip, [](const QLabel *label) { return !label->pixmap(Qt::ReturnByValue).isNull(); });
 }
 
 // The interval of the balloon's one timer; 0 without one.
@@ -134,8 +124,7 @@ private Q_SLOTS:
 
     void titleIconAndCloseButtonStandAboveTheMessage()
     {
-        OmBalloonTip::showBalloon(ombrin::WarningMessageIcon, kTitle, kMessage, kPosition, 0, true,
-                                  true, true);
+        showFullTip();
         const OmBalloonTip *const tip = onlyTip();
         const QLabel *const title = labelWith(tip, kTitle);
         const QLabel *const message = labelWith(tip, kMessage);
@@ -318,7 +307,7 @@ private Q_SLOTS:
                 QVERIFY(!OmBalloonTip::isActive() && tips().isEmpty());
             }
         }
-        OmBalloonTip::showBalloon(MessageIcon(0), kTitle, kMessage, kPosition, 0, true, true, true);
+        showFullTip();
         auto *const button = onlyTip()->findChild<QPushButton *>();
         QTest::mousePress(button, Qt::LeftButton);
         QVERIFY(onlyTip() && onlyTip()->isVisible());
@@ -432,7 +421,7 @@ private Q_SLOTS:
 
     void screenReadersSeeAToolTip()
     {
-        OmBalloonTip::showBalloon(MessageIcon(0), kTitle, kMessage, kPosition, 0, true, true, true);
+        showFullTip();
         QCOMPARE(accessible(onlyTip())->role(), QAccessible::ToolTip);
         QCOMPARE(accessibleName(onlyTip()), kTitle);
         QCOMPARE(accessible(onlyTip())->text(QAccessible::Description), kMessage);

@@ -4,9 +4,6 @@
 
 #include <ombrin/OmBalloonTip.h>
 
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
-
 using namespace ombrin::test;
 using namespace ombrin;
 

@@ -7,10 +7,6 @@
 #include <ombrin/OmInfoPopup.h>
 #include <ombrin/OmSkin.h>
 
-#include <QtGui/QScreen>
-#include <QtWidgets/QTextEdit>
-#include <QtWidgets/QVBoxLayout>
-
 using namespace ombrin::test;
 using namespace ombrin;
 
@@ -55,19 +51,13 @@ class tst_OmInfoPopup : public TestCase
 private Q_SLOTS:
     void initTestCase() { ombrin::OmSkin::init(false); }
 
-    void isAnIconOfFixedSize()
-    {
-        OmInfoPopup icon(nullptr);
-        QCOMPARE(icon.minimumSize(), QSize(16, 16));
-        QCOMPARE(icon.maximumSize(), QSize(16, 16));
-        QCOMPARE(icon.pixmap(Qt::ReturnByValue).toImage(),
-                 ombrin::skinPixmap(":/is_typing-16"_q).toImage());
-        QVERIFY(icon.popupMessage().isNull() && icon.notice().isNull() && !icon.noticeInput());
-    }
-
     void hoveringFadesInAYellowPopup()
     {
         Host host;
+        QCOMPARE(host.icon->minimumSize(), QSize(16, 16));
+        QCOMPARE(host.icon->maximumSize(), QSize(16, 16));
+        QCOMPARE(host.icon->pixmap(Qt::ReturnByValue).toImage(),
+                 ombrin::skinPixmap(":/is_typing-16"_q).toImage());
         host.hover();
         QVERIFY(!host.popup->parentWidget());
         QCOMPARE(host.popup->windowFlags(), Qt::Popup | Qt::FramelessWindowHint);

@@ -9,6 +9,7 @@
 #include <limits>
 
 using ombrin::OmShakeWidget;
+using ombrin::test::TestCase;
 
 namespace {
 
@@ -35,13 +36,13 @@ public:
 
     bool waitForMoves(int count) const
     {
-        return ombrin::test::TestCase::waitFor([&] { return moves >= count; });
+        return TestCase::waitFor([&] { return moves >= count; });
     }
 
     // Whether the shaking came to its end.
     bool waitForTheEnd() const
     {
-        return ombrin::test::TestCase::waitFor([this] {
+        return TestCase::waitFor([this] {
             return QAbstractEventDispatcher::instance()->registeredTimers(shaker).isEmpty();
         });
     }
@@ -77,7 +78,7 @@ public:
 
 } // namespace
 
-class tst_OmShakeWidget : public ombrin::test::TestCase
+class tst_OmShakeWidget : public TestCase
 {
     Q_OBJECT
 
@@ -177,11 +178,8 @@ private Q_SLOTS:
     {
         QWidget widget;
         OmShakeWidget shaker(&widget);
-        QCOMPARE(shaker.shakeDuration(), 5);
-        QCOMPARE(shaker.shakeTimes(), 100);
         shaker.setShakeDuration(-3); // starts no timer that Qt would complain about
         shaker.shakeWidget();
-        QCOMPARE(shaker.shakeDuration(), -3);
     }
 
     void deletingTheShakerPutsTheWidgetBack()
@@ -190,12 +188,10 @@ private Q_SLOTS:
             ShakeWindow window;
             Shaken *const shaken = window.shaken;
             QPointer<OmShakeWidget> shaker = shaken->shaker;
-            if (fromMove) {
-                shaken->onMove = [&] {
-                    if (shaken->moves == 5)
-                        delete shaker;
-                };
-            }
+            shaken->onMove = [&] {
+                if (fromMove && shaken->moves == 5)
+                    delete shaker;
+            };
             shaker->shakeWidget();
             QVERIFY(shaken->waitForMoves(5));
             delete shaker;

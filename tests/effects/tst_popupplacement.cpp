@@ -2,8 +2,6 @@
 
 #include "effects/PopupPlacement.h"
 
-#include <QtGui/QScreen>
-
 using namespace ombrin::popup_placement;
 
 class tst_PopupPlacement : public ombrin::test::TestCase

@@ -6,8 +6,6 @@
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
 #include <QtDesigner/QDesignerWidgetBoxInterface>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QStyle>
 
 #include <ombrin/OmContactCardList.h>
 #include <ombrin/OmWindow.h>

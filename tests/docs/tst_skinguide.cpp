@@ -3,8 +3,6 @@
 
 #include <ombrin/OmSkin.h>
 
-#include <QtGui/QImageReader>
-
 namespace {
 
 using Sizes = QMap<QString, QString>;

@@ -1,7 +1,5 @@
 #include "support/TestCase.h"
 
-#include <QtGui/QImage>
-
 namespace {
 
 constexpr int kTimeoutMs = 120000;

@@ -1,6 +1,6 @@
 // The messenger as its user has it: copies that chat, windows, and what is left after a kill.
 
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include "app/Client.h"
 #include "model/ContactBook.h"
@@ -19,15 +19,6 @@
 #include <ombrin/OmAvatarSmall.h>
 #include <ombrin/OmContactCard.h>
 #include <ombrin/OmMessageBox.h>
-
-#include <QShortcut>
-#include <QtGui/QDropEvent>
-#include <QtGui/QImage>
-#include <QtGui/QTextBlock>
-#include <QtGui/QTextDocument>
-#include <QtGui/QTextLayout>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 
 #include <algorithm>
 #include <functional>
@@ -165,8 +156,7 @@ private Q_SLOTS:
         const QTemporaryDir registry;
         User ann("ann"_q);
         User bob("bob"_q);
-        QImage face(40, 60, QImage::Format_RGB32);
-        face.fill(Qt::green);
+        const QImage face = ombrin::test::flatImage(QSize(40, 60), Qt::green);
         ann.session().setOwnPicture(face);
         ann.session().goOnline(registry.path());
         bob.session().goOnline(registry.path());
@@ -236,16 +226,15 @@ private Q_SLOTS:
 
     void hostilePeersAreTurnedAway_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-
+        const auto row = columns<QByteArray>("bytes");
         const QByteArray hello = R"({"type":"hello","version":1,"id":"eve","name":"Eve"})"
                                  "\n";
-        QTest::newRow("garbage") << QByteArray("\xff\xfe GET / HTTP/1.1\r\n\r\n");
-        QTest::newRow("text before hello") << QByteArray("{\"type\":\"text\",\"text\":\"x\"}\n");
-        QTest::newRow("hello twice") << hello + hello;
-        QTest::newRow("endless line") << QByteArray(kLongestLine + 2, 'x');
-        QTest::newRow("flood") << hello + QByteArray("{\"type\":\"typing\"}\n").repeated(1000);
-        QTest::newRow("somebody else's id") << QByteArray(hello).replace("eve", "ann");
+        row("garbage", "\xff\xfe GET / HTTP/1.1\r\n\r\n");
+        row("text before hello", "{\"type\":\"text\",\"text\":\"x\"}\n");
+        row("hello twice", hello + hello);
+        row("endless line", QByteArray(kLongestLine + 2, 'x'));
+        row("flood", hello + QByteArray("{\"type\":\"typing\"}\n").repeated(1000));
+        row("somebody else's id", QByteArray(hello).replace("eve", "ann"));
     }
     void hostilePeersAreTurnedAway()
     {
@@ -383,8 +372,7 @@ private Q_SLOTS:
                 return message.kind == Message::Kind::Picture;
             });
         };
-        QImage picture(20, 10, QImage::Format_RGB32);
-        picture.fill(Qt::blue);
+        const QImage picture = ombrin::test::flatImage(QSize(20, 10), Qt::blue);
         {
             Client client(&user.session());
             QVERIFY(client.start());

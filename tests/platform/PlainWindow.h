@@ -3,8 +3,6 @@
 #include "platform/NativeHandle.h"
 #include "support/TestCase.h"
 
-#include <QtWidgets/QWidget>
-
 namespace ombrin::test {
 
 /// A frameless window as the library's frames are.

@@ -2,26 +2,7 @@
 
 #include <ombrin/OmStyle2.h>
 
-#include <QtCore/QMimeData>
-#include <QtCore/QTimer>
-#include <QtCore/QUrl>
-#include <QtGui/QClipboard>
-#include <QtGui/QContextMenuEvent>
-#include <QtGui/QDropEvent>
-#include <QtGui/QHelpEvent>
-#include <QtGui/QImage>
-#include <QtGui/QInputMethodEvent>
-#include <QtGui/QWheelEvent>
-#include <QtGui/QWindow>
 #include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QDockWidget>
-#include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QStyleFactory>
-#include <QtWidgets/QToolBar>
 
 #include <cstdio>
 

@@ -2,15 +2,7 @@
 
 #include "support/Text.h"
 
-#include <QtCore/QEvent>
-#include <QtCore/QEventLoop>
-#include <QtCore/QPointer>
-#include <QtCore/QString>
-#include <QtCore/QTranslator>
-#include <QtCore/QVector>
-#include <QtGui/QFont>
-#include <QtGui/QPalette>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QtWidgets>
 
 #include <functional>
 #include <random>

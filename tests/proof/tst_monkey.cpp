@@ -6,9 +6,6 @@
 #include <ombrin/OmSkin.h>
 #include <ombrin/OmWindow.h>
 
-#include <QtGui/QDesktopServices>
-#include <QtWidgets/QScrollArea>
-
 #include <algorithm>
 
 namespace {

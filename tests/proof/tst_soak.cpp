@@ -34,9 +34,6 @@
 #include <ombrin/OmTrayPopup.h>
 #include <ombrin/OmWindow.h>
 
-#include <QtGui/QPixmapCache>
-#include <QtWidgets/QMenuBar>
-
 #include <algorithm>
 #include <functional>
 #include <vector>

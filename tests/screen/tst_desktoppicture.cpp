@@ -1,8 +1,6 @@
 #include "screen/DesktopPicture.h"
 #include "support/TestCase.h"
 
-#include <QtGui/QPainter>
-
 using ombrin::DesktopPicture;
 
 namespace {

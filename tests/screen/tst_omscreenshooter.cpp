@@ -1,15 +1,10 @@
 #include "screen/ScreenGrabber.h"
 #include "skin/SkinPixmap.h"
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
 #include <ombrin/OmImageMaskedButton.h>
 #include <ombrin/OmScreenShooter.h>
 #include <ombrin/OmScreenShooter_FullscreenCutter.h>
-
-#include <QtGui/QPainter>
-#include <QtGui/QScreen>
-#include <QtWidgets/QDialog>
 
 #include <functional>
 #include <limits>
@@ -145,31 +140,23 @@ private Q_SLOTS:
         };
         const auto quit = [](Cutter *) { QMetaObject::invokeMethod(qApp, "aboutToQuit"); };
         const auto closeAll = [](Cutter *) { QApplication::closeAllWindows(); };
-        const auto click = [](Cutter *) {
+        const auto destroyButton = [](Cutter *) { shown<OmImageMaskedButton>()->deleteLater(); };
+        const auto clickTwice = [](Cutter *) {
+            auto *button = shown<OmImageMaskedButton>();
+            Q_EMIT button->signalOnClicked();
+            Q_EMIT button->signalOnClicked();
+        };
+        const auto clickAndQuit = [quit](Cutter *) {
             QTest::mouseClick(shown<OmImageMaskedButton>(), Qt::LeftButton);
+            quit(nullptr);
         };
         row("shot", false, false, nothing, "shot");
         row("forbidden", false, false, forbid, "failed");
         row("application quits", false, false, quit, "failed");
         row("all windows closed, button", false, true, closeAll, "failed");
-        row(
-                "button deleted", true, true,
-                [](Cutter *) { shown<OmImageMaskedButton>()->deleteLater(); }, "failed");
-        row(
-                "button clicked twice", false, true,
-                [](Cutter *) {
-                    auto *button = shown<OmImageMaskedButton>();
-                    Q_EMIT button->signalOnClicked();
-                    Q_EMIT button->signalOnClicked();
-                },
-                "shot");
-        row(
-                "button clicked, application quits", false, true,
-                [click, quit](Cutter *) {
-                    click(nullptr);
-                    quit(nullptr);
-                },
-                "failed");
+        row("button deleted", true, true, destroyButton, "failed");
+        row("button clicked twice", false, true, clickTwice, "shot");
+        row("button clicked, application quits", false, true, clickAndQuit, "failed");
     }
 
     void everyRequestReportsOnce()
@@ -354,16 +341,11 @@ private Q_SLOTS:
         const QImage before = cutter->grab(box).toImage();
         dragInside(cutter, {10, 10}, {11, 11}); // not a selection
         QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));
-        QImage image = cutter->grab(box).toImage();
-        int white = 0;
-        int black = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                white += image.pixelColor(x, y) == QColor(Qt::white);
-                black += image.pixelColor(x, y) == QColor(Qt::black);
-            }
-        }
-        QVERIFY(white > 100 && black > 100);
+        const QImage image = cutter->grab(box).toImage();
+        const auto has = [&image](const QColor &color) {
+            return pixelCount(image, [&](const QColor &pixel) { return pixel == color; }) > 100;
+        };
+        QVERIFY(has(Qt::white) && has(Qt::black));
         dragInside(cutter, {2, 2}, {9, 9});
         QCOMPARE(cutter->grab(box).toImage(), before);
         QVERIFY(QMetaObject::invokeMethod(cutter, "slotOnUserIsAnIdiot"));

@@ -4,8 +4,6 @@
 #include <ombrin/OmScreenShooter.h>
 #include <ombrin/OmScreenShooter_FullscreenCutter.h>
 
-#include <QtGui/QScreen>
-
 using namespace ombrin::test;
 
 namespace {

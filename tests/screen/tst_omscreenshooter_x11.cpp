@@ -7,8 +7,6 @@
 #include <ombrin/OmScreenShooter_FullscreenCutter.h>
 #include <ombrin/OmSkin.h>
 
-#include <QtGui/QScreen>
-
 using namespace ombrin::test;
 using Cutter = OmScreenShooter_FullscreenCutter;
 

@@ -7,7 +7,6 @@
 #include <QtDBus/QDBusContext>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusObjectPath>
-#include <QtGui/QScreen>
 
 #include <unistd.h>
 

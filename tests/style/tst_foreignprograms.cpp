@@ -1,9 +1,6 @@
 #include "support/TestCase.h"
 #include "support/XUser.h"
 
-#include <QtGui/QClipboard>
-#include <QtGui/QScreen>
-
 namespace {
 
 constexpr int kPatience = 30000;

@@ -2,8 +2,6 @@
 
 #include <ombrin/OmSafeHtml.h>
 
-#include <QtGui/QTextDocument>
-
 using ombrin::OmSafeHtml;
 
 namespace {

@@ -1,16 +1,9 @@
 #include "support/FileDialogUser.h"
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include <ombrin/OmDir.h>
 #include <ombrin/OmSettings.h>
 #include <ombrin/OmTextBrowser.h>
-
-#include <QtGui/QClipboard>
-#include <QtGui/QContextMenuEvent>
-#include <QtGui/QTextCursor>
-#include <QtGui/QTextDocument>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QToolTip>
 
 #include <functional>
 
@@ -24,11 +17,9 @@ const QColor kColor(10, 200, 30);
 
 QByteArray picture(const char *format = "png")
 {
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(kColor);
-    QByteArray data;
-    QBuffer buffer(&data);
-    return image.save(&buffer, format) ? data : QByteArray();
+    QBuffer buffer;
+    flatImage(QSize(40, 30), kColor, QImage::Format_RGB32).save(&buffer, format);
+    return buffer.data();
 }
 
 // What says that it is a picture of 30,000 x 30,000 pixels.
@@ -285,14 +276,14 @@ private Q_SLOTS:
 
     void hostilePicturesAreHarmless_data()
     {
-        QTest::addColumn<QString>("kind");
+        const auto row = columns<QString>("kind");
         for (const char *kind : {"remote", "share", "folder", "missing", "no picture", "huge",
                                  "huge data", "large file", "empty", "drawing", "no data",
 #ifdef Q_OS_UNIX
                                  "pipe", "device", "endless",
 #endif
                                  "nothing"})
-            QTest::newRow(kind) << QString::fromLatin1(kind);
+            row(kind, kind);
     }
     void hostilePicturesAreHarmless()
     {

@@ -3,11 +3,6 @@
 
 #include <ombrin/OmTextBrowser.h>
 
-#include <QtGui/QClipboard>
-#include <QtGui/QTextCursor>
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QPlainTextEdit>
-
 using namespace ombrin::test;
 using ombrin::OmTextBrowser;
 

@@ -4,12 +4,6 @@
 #include <ombrin/OmTextEdit.h>
 #include <ombrin/OmTextEditSyntax.h>
 
-#include <QtGui/QContextMenuEvent>
-#include <QtGui/QScreen>
-#include <QtGui/QTextBlock>
-#include <QtGui/QTextLayout>
-#include <QtWidgets/QMenu>
-
 #include <random>
 
 #ifdef Q_OS_UNIX

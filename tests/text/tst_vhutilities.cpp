@@ -2,9 +2,6 @@
 
 #include <ombrin/vhutilities.h>
 
-#include <QtGui/QScreen>
-#include <QtWidgets/QComboBox>
-
 using namespace ombrin::vhutilities;
 
 namespace {

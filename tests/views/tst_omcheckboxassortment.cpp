@@ -4,9 +4,6 @@
 #include <ombrin/OmImageButton.h>
 #include <ombrin/OmLabel.h>
 
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QListWidget>
-
 using namespace ombrin;
 
 class tst_OmCheckBoxAssortment : public ombrin::test::TestCase

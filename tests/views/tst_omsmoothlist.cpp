@@ -1,9 +1,6 @@
-#include "support/TestCase.h"
 #include "support/WidgetEvents.h"
 
 #include <ombrin/OmSmoothList.h>
-
-#include <QtWidgets/QItemDelegate>
 
 using ombrin::OmSmoothList;
 
@@ -45,9 +42,7 @@ private:
     QRect rowRect(int row) const { return m_list->visualItemRect(m_list->item(row)); }
     void moveTo(const QPoint &position, Qt::MouseButtons buttons = Qt::NoButton)
     {
-        QMouseEvent move(QEvent::MouseMove, position, m_list->viewport()->mapToGlobal(position),
-                         Qt::NoButton, buttons, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_list->viewport(), &move);
+        ombrin::test::sendMouseMove(m_list->viewport(), position, buttons);
     }
     bool looksLikeLink(int row) const
     {
@@ -69,10 +64,10 @@ private Q_SLOTS:
 
     void borderIsOpenBesideTabs_data()
     {
-        QTest::addColumn<QList<int>>("selected");
-        QTest::newRow("none") << QList<int>();
-        QTest::newRow("middle") << QList<int>{1};
-        QTest::newRow("several, last first") << QList<int>{2, 0};
+        const auto row = columns<QList<int>>("selected");
+        row("none", {});
+        row("middle", {1});
+        row("several, last first", {2, 0});
     }
     void borderIsOpenBesideTabs()
     {

@@ -1,14 +1,10 @@
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include "views/ZebraLines.h"
 
 #include <ombrin/OmGraphicsSimpleHyperlinkItem.h>
 #include <ombrin/OmScribbledZebraItemLink.h>
 #include <ombrin/OmScribbledZebraView.h>
-
-#include <QtGui/QMouseEvent>
-#include <QtWidgets/QGraphicsRectItem>
-#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <climits>
@@ -17,6 +13,7 @@
 #include <vector>
 
 using ombrin::ZebraLines;
+using namespace ombrin::test;
 using Item = OmScribbledZebraItemBase;
 
 namespace {
@@ -83,8 +80,7 @@ public:
     // The lines at the right edge, as letters of their colours and heights.
     QString stripes()
     {
-        QImage image(viewport()->size(), QImage::Format_RGB32);
-        image.fill(Qt::red);
+        QImage image = flatImage(viewport()->size(), Qt::red);
         viewport()->render(&image);
         QStringList result;
         for (int top = 0, y = 1; y <= image.height(); ++y) {

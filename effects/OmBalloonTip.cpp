@@ -61,6 +61,15 @@ QVector<QRect> screenGeometries()
     return geometries;
 }
 
+// Farther than any desktop, and near enough to be calculated with.
+QPoint withinReach(const QPoint &position)
+{
+    const auto bounded = [](int coordinate) {
+        return std::clamp(coordinate, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    };
+    return {bounded(position.x()), bounded(position.y())};
+}
+
 QLabel *plainLabel(const QString &text)
 {
     auto *label = new QLabel;
@@ -148,12 +157,14 @@ OmBalloonTip::~OmBalloonTip()
 void OmBalloonTip::balloon(const QPoint &pos, int timeout, bool showArrow)
 {
     using namespace balloon_geometry;
-    QScreen *const screen = QGuiApplication::screens().value(screenAt(screenGeometries(), pos));
+    const QPoint position = withinReach(pos);
+    QScreen *const screen =
+            QGuiApplication::screens().value(screenAt(screenGeometries(), position));
     const QRect area = screen ? screen->geometry() : QRect();
 
     setContentsMargins(QMargins());
-    fitTexts(room(pos, area), showArrow);
-    const ArrowCorner corner = arrowCorner(pos, sizeHint(), area);
+    fitTexts(room(position, area), showArrow);
+    const ArrowCorner corner = arrowCorner(position, sizeHint(), area);
     setContentsMargins(margins(corner));
     updateGeometry();
     layout()->activate();
@@ -163,7 +174,7 @@ void OmBalloonTip::balloon(const QPoint &pos, int timeout, bool showArrow)
     winId();
     if (screen)
         windowHandle()->setScreen(screen);
-    move(topLeft(pos, size, corner, area));
+    move(topLeft(position, size, corner, area));
     const QPainterPath shape = outline(size, corner, showArrow);
     setMask(maskOf(shape, size));
     m_pixmap = pictureOf(shape, size, palette().brush(QPalette::Window));

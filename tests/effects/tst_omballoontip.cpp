@@ -281,6 +281,18 @@ private Q_SLOTS:
         QCOMPARE(timeoutOf(onlyTip()), 0);
     }
 
+    void absurdPositionsBelongToTheNearestEdge()
+    {
+        showTip(kMessage, 0);
+        const QRect screen = onlyTip()->screen()->geometry();
+        onlyTip()->balloon(QPoint(INT_MAX, 300), 0, true);
+        QCOMPARE(onlyTip()->x(), screen.right() - onlyTip()->width() - 2);
+        onlyTip()->balloon(QPoint(INT_MIN, 300), 0, true);
+        QCOMPARE(onlyTip()->x(), screen.left() + 2);
+        onlyTip()->balloon(QPoint(300, INT_MAX), 0, true);
+        onlyTip()->balloon(QPoint(300, INT_MIN), 0, true);
+    }
+
     void itStaysWhenTheMouseIsOverIt()
     {
         showTip(kMessage, 20);

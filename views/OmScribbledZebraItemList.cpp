@@ -21,7 +21,8 @@ bool OmScribbledZebraItemList::Override_BeforeItemAdded(OmScribbledZebraItemBase
 {
     if (!item)
         return false;
-    const bool isNew = !disconnectItem(item);
+    // Asked of the list only if it watches the item: most items come from elsewhere.
+    const bool isHeld = disconnectItem(item) && contains(item);
     // sender() would cost more the more items there are.
     connect(item, &OmScribbledZebraItemBase::signalOnChanged, this, [this, item] {
         noteChange(item);
@@ -30,7 +31,7 @@ bool OmScribbledZebraItemList::Override_BeforeItemAdded(OmScribbledZebraItemBase
     connect(item, &QObject::destroyed, this, [this, item] { onItemDestroyed(item); });
     item->setParent(this);
     noteChange(item);
-    return isNew;
+    return !isHeld;
 }
 
 bool OmScribbledZebraItemList::Override_BeforeItemDeleted(OmScribbledZebraItemBase *&item)
@@ -46,7 +47,8 @@ void OmScribbledZebraItemList::slotOnItemChanged()
     Q_EMIT signalOnChanged();
 }
 
-// Whether the list was connected to the item, as it is to those that it holds.
+// Whether the list was connected to the item, as it is to those that it holds, and to those that
+// a subclass would not have in the end.
 bool OmScribbledZebraItemList::disconnectItem(OmScribbledZebraItemBase *item)
 {
     disconnect(item, &OmScribbledZebraItemBase::signalOnChanged, this, nullptr);

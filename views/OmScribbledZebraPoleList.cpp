@@ -22,13 +22,12 @@ void OmScribbledZebraPoleList::Override_ChangesHappened()
 
 bool OmScribbledZebraPoleList::Override_BeforeItemAdded(OmScribbledZebraPole *&item)
 {
-    // The list is connected to the poles that it holds.
-    if (!item
-        || !connect(item, &QObject::destroyed, this, &OmScribbledZebraPoleList::onItemDestroyed,
-                    Qt::UniqueConnection))
+    if (!item || contains(item))
         return false;
     connect(item, &OmScribbledZebraPole::signalOnChanged, this,
-            &OmScribbledZebraPoleList::slotOnItemChanged);
+            &OmScribbledZebraPoleList::slotOnItemChanged, Qt::UniqueConnection);
+    connect(item, &QObject::destroyed, this, &OmScribbledZebraPoleList::onItemDestroyed,
+            Qt::UniqueConnection);
     item->setParent(this);
     return true;
 }

@@ -32,8 +32,10 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::PaletteChange)
-            blackenLightText(static_cast<QWidget *>(watched));
+        auto *const widget = static_cast<QWidget *>(watched);
+        // A style sheet may have changed the ground as well.
+        if (event->type() == QEvent::PaletteChange && !widget->testAttribute(Qt::WA_StyleSheet))
+            blackenLightText(widget);
         return false;
     }
 };

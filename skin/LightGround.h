@@ -5,7 +5,8 @@ class QWidget;
 namespace ombrin {
 
 /// Lets \a widget, whose ground is a light colour in every skin, have black text wherever the
-/// palette's text colour is a light one, too; also when the palette changes.
+/// palette's text colour is a light one, too; also when the palette changes. What a style sheet
+/// says counts more.
 void keepTextReadable(QWidget *widget);
 
 } // namespace ombrin

@@ -35,6 +35,9 @@ private Q_SLOTS:
             window.setPalette(palette);
             QCOMPARE(bar.palette().color(QPalette::WindowText), QColor(shown));
         }
+        window.setStyleSheet("QStatusBar { color: yellow; background: navy }"_q);
+        bar.ensurePolished();
+        QCOMPARE(bar.palette().color(QPalette::WindowText), QColor(Qt::yellow));
     }
 
     void messagesAndWidgetsLieOverTheGradient()

@@ -4,6 +4,7 @@
 #include "common/ScreenshotJob.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTextStream>
 #include <QtGui/QGuiApplication>
 
@@ -11,9 +12,22 @@ namespace example {
 
 namespace {
 
+/// Whether there are options that a QApplication would take, and it is not there yet.
+bool isForQt()
+{
+    const QRegularExpression option(QStringLiteral(
+            "--?(display|geometry|icon|platform|platformpluginpath|platformtheme|plugin|"
+            "qwindowgeometry|qwindowicon|qwindowtitle|reverse|session|style|stylesheet|title|"
+            "widgetcount)(=.*)?"));
+    return !qobject_cast<QGuiApplication *>(QCoreApplication::instance())
+           && QCoreApplication::arguments().indexOf(option) > 0;
+}
+
 int takeScreenshots(const QString &directory, const QStringList &arguments)
 {
-    ScreenshotJob job(directory, arguments);
+    const QStringList mirrored = {QStringLiteral("-reverse")};
+    ScreenshotJob job(directory,
+                      QGuiApplication::isRightToLeft() ? arguments + mirrored : arguments);
     QObject::connect(&job, &ScreenshotJob::finished, &job, [](bool ok, const QString &message) {
         print(ok ? stdout : stderr, message);
         QCoreApplication::exit(ok ? kExitSuccess : kExitFailure);
@@ -49,6 +63,8 @@ std::optional<int> runWithoutWindows(const CommandLine &commandLine,
         print(stdout, commandLine.message);
         return kExitSuccess;
     case CommandLine::Task::Refuse:
+        if (isForQt())
+            break;
         print(stderr, commandLine.message);
         return kExitWrongArguments;
     case CommandLine::Task::TakeScreenshots:

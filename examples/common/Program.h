@@ -21,8 +21,10 @@ void print(FILE *file, const QString &text);
 void prepareApplication(const QString &name);
 
 /// Does what needs no window, and thus no display, and returns the exit code; nothing where
-/// \a commandLine asks for windows. Needs a QCoreApplication. \a oneDensityArguments are those with
-/// which this program takes the screenshots that \a commandLine wants.
+/// \a commandLine asks for windows. Needs a QCoreApplication; where it is no more than that, Qt's
+/// own options are not refused: only a QApplication takes them out of the arguments.
+/// \a oneDensityArguments are those with which this program takes the screenshots that
+/// \a commandLine wants.
 std::optional<int> runWithoutWindows(const CommandLine &commandLine,
                                      const QStringList &oneDensityArguments);
 

@@ -27,6 +27,14 @@ int show(const CommandLine &commandLine)
     return QCoreApplication::exec();
 }
 
+std::optional<int> runWithoutWindows(CommandLine *commandLine)
+{
+    *commandLine = CommandLine::parse(QCoreApplication::arguments());
+    return example::runWithoutWindows(
+            *commandLine,
+            CommandLine::oneDensityArguments(commandLine->directory, commandLine->page));
+}
+
 int run(int argc, char *argv[])
 {
     example::prepareApplication(QStringLiteral("ombrin_gallery"));
@@ -34,15 +42,13 @@ int run(int argc, char *argv[])
     CommandLine commandLine;
     {
         const QCoreApplication application(argc, argv);
-        commandLine = CommandLine::parse(QCoreApplication::arguments());
-        const std::optional<int> exitCode = example::runWithoutWindows(
-                commandLine,
-                CommandLine::oneDensityArguments(commandLine.directory, commandLine.page));
-        if (exitCode)
+        if (const std::optional<int> exitCode = runWithoutWindows(&commandLine))
             return *exitCode;
     }
 
     const QApplication application(argc, argv);
+    if (const std::optional<int> exitCode = runWithoutWindows(&commandLine))
+        return *exitCode;
     if (commandLine.task == CommandLine::Task::TakeOneDensity)
         example::pinLook();
     ombrin::OmSkin::init(true);

@@ -74,6 +74,13 @@ int chat(const CommandLine &commandLine)
     return QCoreApplication::exec();
 }
 
+std::optional<int> runWithoutWindows(CommandLine *commandLine)
+{
+    const Languages languages{QString()};
+    *commandLine = CommandLine::parse(QCoreApplication::arguments());
+    return example::runWithoutWindows(*commandLine, commandLine->oneDensityArguments());
+}
+
 int run(int argc, char *argv[])
 {
     example::prepareApplication(QStringLiteral("ombrin_messenger"));
@@ -81,15 +88,13 @@ int run(int argc, char *argv[])
     CommandLine commandLine;
     {
         const QCoreApplication application(argc, argv);
-        const Languages languages{QString()};
-        commandLine = CommandLine::parse(QCoreApplication::arguments());
-        const std::optional<int> exitCode =
-                example::runWithoutWindows(commandLine, commandLine.oneDensityArguments());
-        if (exitCode)
+        if (const std::optional<int> exitCode = runWithoutWindows(&commandLine))
             return *exitCode;
     }
 
     const QApplication application(argc, argv);
+    if (const std::optional<int> exitCode = runWithoutWindows(&commandLine))
+        return *exitCode;
     if (commandLine.task == CommandLine::Task::TakeOneDensity)
         example::pinLook();
     ombrin::OmSkin::init(true);

@@ -104,6 +104,7 @@ private Q_SLOTS:
         row("--page", "page");
         row("--screenshots= --list", "--screenshots");
         row("window", "'window'");
+        row("-platform offscreen --shoot", "shoot");
     }
     void wrongArgumentsAreRefusedWithAReason()
     {
@@ -112,6 +113,13 @@ private Q_SLOTS:
         QCOMPARE(outcome.exitCode, 2);
         QVERIFY2(outcome.error.contains(reason), qPrintable(outcome.error));
         QVERIFY(outcome.output.isEmpty());
+    }
+
+    void optionsOfQtAreTaken()
+    {
+        QCOMPARE(runGallery({"--list"_q, "-style"_q, "fusion"_q, "-platform"_q, "offscreen"_q})
+                         .exitCode,
+                 0);
     }
 };
 

@@ -478,6 +478,16 @@ Sein Quelltext ist zum Lesen da: examples/messenger.</translation>
         <translation>Dieses Beispiel kann nicht telefonieren.
 %1: %2</translation>
     </message>
+    <message>
+        <source>Your Picture</source>
+        <translation>Ihr Bild</translation>
+    </message>
+    <message>
+        <source>The picture cannot be stored. Is the disk full?
+Your picture stays as it was.</source>
+        <translation>Das Bild kann nicht gespeichert werden. Ist der Datenträger voll?
+Ihr Bild bleibt, wie es war.</translation>
+    </message>
 </context>
 <context>
     <name>messenger::ContactList</name>

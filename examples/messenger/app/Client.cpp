@@ -150,9 +150,13 @@ void Client::takeAccount(const Account &old, const AccountMission &mission)
         account.picture = old.picture;
     }
     m_session->setAccount(account);
-    m_session->setOwnPicture(mission.picture());
+    const bool isPictureKept = m_session->setOwnPicture(mission.picture());
     if (!old.exists() && m_session->script())
         m_session->script()->greet(account.name);
+    if (!isPictureKept)
+        OmMessageBox::information(parentWindow(), tr("Your Picture"),
+                                  tr("The picture cannot be stored. Is the disk full?\n"
+                                     "Your picture stays as it was."));
 }
 
 // What contact cards and windows ask for

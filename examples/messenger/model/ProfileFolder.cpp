@@ -34,6 +34,11 @@ QString ProfileFolder::stateFile() const
     return QDir(m_path).filePath(QStringLiteral("state.json"));
 }
 
+QString ProfileFolder::draftsFile() const
+{
+    return QDir(m_path).filePath(QStringLiteral("drafts.json"));
+}
+
 QString ProfileFolder::historyFile(const QString &contactId) const
 {
     // Not the bare id, which some systems keep for devices: "nul", "con".

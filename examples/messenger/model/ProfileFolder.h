@@ -26,6 +26,7 @@ public:
 
     QString path() const { return m_path; }
     QString stateFile() const;
+    QString draftsFile() const;
     /// \a contactId must be a contact id.
     QString historyFile(const QString &contactId) const;
     QString pictureFolder() const;

@@ -22,7 +22,6 @@ constexpr int kLargestPortrait = 400 << 10;
 constexpr int kNudgePauseMs = 4000;
 
 const QLatin1String kAccountKey("account");
-const QLatin1String kDraftsKey("drafts");
 
 /// How much of \a text from \a start on goes into one message: never half a character.
 int messageLength(const QString &text, int start)
@@ -44,6 +43,7 @@ Session::Session(const ProfileFolder &folder, const ContactBook &book, QObject *
     : QObject(parent)
     , m_folder(folder)
     , m_state(folder.stateFile())
+    , m_drafts(folder.draftsFile())
     , m_account(Account::fromJson(m_state.value(kAccountKey).toObject()))
     , m_roster(std::make_unique<Roster>(book.contacts(), &m_state))
 {
@@ -226,17 +226,12 @@ void Session::setTyping(const QString &contactId, bool isTyping)
 
 QString Session::draft(const QString &contactId) const
 {
-    return m_state.value(kDraftsKey).toObject().value(contactId).toString();
+    return m_drafts.value(contactId).toString();
 }
 
 void Session::setDraft(const QString &contactId, const QString &text)
 {
-    QJsonObject drafts = m_state.value(kDraftsKey).toObject();
-    if (text.isEmpty())
-        drafts.remove(contactId);
-    else
-        drafts.insert(contactId, text);
-    m_state.setValue(kDraftsKey, drafts);
+    m_drafts.setValue(contactId, text.isEmpty() ? QJsonValue(QJsonValue::Undefined) : text);
 }
 
 // A message that nobody gets must not look as if somebody had it.

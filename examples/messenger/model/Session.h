@@ -92,6 +92,8 @@ private:
 
     const ProfileFolder &m_folder;
     StateFile m_state;
+    // In a file of its own, as it is written while the user types. By the id of the contact.
+    StateFile m_drafts;
     Account m_account;
     std::unique_ptr<Roster> m_roster;
     std::unique_ptr<PeerNetwork> m_network;

@@ -18,7 +18,7 @@ public:
     explicit StateFile(const QString &fileName);
 
     QJsonValue value(const QString &key) const;
-    /// Does nothing if the value is in the file already.
+    /// Does nothing if the value is in the file already. An undefined value takes it out.
     void setValue(const QString &key, const QJsonValue &value);
 
 private:

@@ -28,7 +28,7 @@ namespace {
 constexpr int kShownMessages = 500;
 constexpr int kTypingShownMs = 8000;
 constexpr int kOwnTypingMs = 3000;
-constexpr int kDraftMs = 500;
+constexpr int kDraftMs = 1000;
 constexpr unsigned int kScreenshotDelayMs = 3000;
 
 /// The user's language, else English, else what there is.

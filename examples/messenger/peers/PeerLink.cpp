@@ -10,7 +10,7 @@ namespace {
 constexpr int kGreetingMs = 10000;
 constexpr int kPeriodMs = 10000;
 // People, and programs that speak for them, say less.
-constexpr int kMostLinesInPeriod = 400;
+constexpr int kMostLinesInPeriod = 100;
 constexpr qint64 kMostBytesInPeriod = 8 * kLongestLine;
 constexpr qint64 kReadAtOnce = 64 << 10;
 constexpr qint64 kLargestBacklog = 4 * kLongestLine;
@@ -59,6 +59,12 @@ void PeerLink::close()
     noteClosed();
 }
 
+void PeerLink::turnAway()
+{
+    m_isTurnedAway = true;
+    close();
+}
+
 void PeerLink::noteClosed()
 {
     if (m_isClosed)
@@ -78,12 +84,12 @@ void PeerLink::read()
     const QPointer<PeerLink> guard(this);
     while (!m_isClosed && m_socket->bytesAvailable() > 0) {
         if (!m_reader.feed(m_socket->read(kReadAtOnce))) {
-            close();
+            turnAway();
             return;
         }
         while (const std::optional<QByteArray> line = m_reader.nextLine()) {
             if (isTooMuch(line->size()))
-                close();
+                turnAway();
             else
                 take(*line);
             if (!guard || m_isClosed)
@@ -111,7 +117,7 @@ void PeerLink::take(const QByteArray &line)
         return;
     const bool isHello = message.type == PeerMessage::Type::Hello;
     if (verdict == Verdict::Hostile || isHello == isGreeted()) {
-        close();
+        turnAway();
         return;
     }
     if (isHello) {

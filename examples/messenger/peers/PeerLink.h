@@ -25,6 +25,8 @@ public:
     /// Closes the connection; closed() follows.
     void close();
 
+    /// Whether it has closed because the other side is hostile.
+    bool isTurnedAway() const { return m_isTurnedAway; }
     bool isGreeted() const { return !m_peer.id.isEmpty(); }
     /// What the other side last said of itself.
     const PeerMessage &peer() const { return m_peer; }
@@ -40,6 +42,7 @@ private:
     void read();
     void take(const QByteArray &line);
     bool isTooMuch(qint64 byteCount);
+    void turnAway();
     void noteClosed();
 
     QLocalSocket *m_socket;
@@ -49,6 +52,7 @@ private:
     int m_linesInPeriod = 0;
     qint64 m_bytesInPeriod = 0;
     bool m_isClosed = false;
+    bool m_isTurnedAway = false;
 };
 
 } // namespace messenger

@@ -1,11 +1,15 @@
 #include "peers/PeerNetwork.h"
 
+#include <QtCore/QTimer>
+
 namespace messenger {
 
 namespace {
 
 constexpr int kMostLinks = 32;
 constexpr int kMostPending = 8;
+// Who was turned away would be back at once, and go on as before.
+constexpr int kTurnedAwayMs = 60000;
 
 PeerMessage messageOf(PeerMessage::Type type)
 {
@@ -131,7 +135,7 @@ void PeerNetwork::introduceTo(PeerLink *link) const
 void PeerNetwork::onGreeted(PeerLink *link)
 {
     const QString id = link->peer().id;
-    if (id == m_self.id || m_peers.contains(id)) {
+    if (id == m_self.id || m_peers.contains(id) || m_turnedAway.contains(id)) {
         link->close();
         return;
     }
@@ -151,8 +155,13 @@ void PeerNetwork::onReceived(const PeerLink *link, const PeerMessage &message)
 void PeerNetwork::onClosed(PeerLink *link)
 {
     --m_linkCount;
-    link->deleteLater();
     const QString id = link->peer().id;
+    if (link->isTurnedAway()) {
+        m_turnedAway.insert(id);
+        QTimer::singleShot(kTurnedAwayMs, this, [this, id] { m_turnedAway.remove(id); });
+    }
+    // As long as it is there, its copy is not called again.
+    QTimer::singleShot(link->isTurnedAway() ? kTurnedAwayMs : 0, link, &QObject::deleteLater);
     if (m_peers.value(id) == link) {
         m_peers.remove(id);
         Q_EMIT left(id);

@@ -5,6 +5,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 #include <QtNetwork/QLocalServer>
 
 namespace messenger {
@@ -69,6 +70,8 @@ private:
     QHash<QString, QObject *> m_called;
     // By the id of the account; a peer that greets with an id that is taken is turned away.
     QHash<QString, PeerLink *> m_peers;
+    // Ids of the accounts that are not heard for a while.
+    QSet<QString> m_turnedAway;
     int m_linkCount = 0;
 };
 

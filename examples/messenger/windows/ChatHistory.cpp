@@ -46,6 +46,27 @@ QString timeOf(const Message &message)
     return time.replace(QLatin1Char(' '), QChar(QChar::Nbsp));
 }
 
+/// A table of face, words and time, which is not mirrored by itself.
+QString rowTemplate(bool isRightToLeft)
+{
+    const QString table =
+            QStringLiteral("<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\" "
+                           "style=\"margin-top:%1px\"><tr>");
+    const QString end = QStringLiteral("</tr></table>");
+    if (isRightToLeft)
+        return table
+               + QStringLiteral("<td width=\"%7\" align=\"left\" style=\"color:%6\">%5</td>"
+                                "<td align=\"right\" style=\"padding-left:8px; "
+                                "padding-right:6px\">%3%4</td>"
+                                "<td width=\"38\" align=\"right\">%2</td>")
+               + end;
+    return table
+           + QStringLiteral("<td width=\"38\">%2</td>"
+                            "<td style=\"padding-left:6px; padding-right:8px\">%3%4</td>"
+                            "<td width=\"%7\" align=\"right\" style=\"color:%6\">%5</td>")
+           + end;
+}
+
 /// Keeps a view that shows the end of its document at the end while the document grows.
 class EndKeeper
 {
@@ -165,12 +186,7 @@ void ChatHistory::addRow(const Message &message, bool isContinued)
     const QString time = timeOf(message);
     const int timeWidth = qMax(kTimeWidth, fontMetrics().horizontalAdvance(time) + kTimeMargin);
     const QString row =
-            QStringLiteral(
-                    "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\" "
-                    "style=\"margin-top:%1px\"><tr>"
-                    "<td width=\"38\">%2</td><td style=\"padding-left:6px; "
-                    "padding-right:8px\">%3%4</td>"
-                    "<td width=\"%7\" align=\"right\" style=\"color:%6\">%5</td></tr></table>")
+            rowTemplate(isRightToLeft())
                     .arg(QString::number(isContinued ? 2 : 8), face, name, bodyOf(message),
                          time.toHtmlEscaped(), kQuietColor.name(), QString::number(timeWidth));
     const EndKeeper keeper(verticalScrollBar());

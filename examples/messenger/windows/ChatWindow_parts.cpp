@@ -44,6 +44,7 @@ QWidget *ChatWindow::createConversation()
     lowerColumn->setSpacing(2);
     m_typing = new QLabel;
     m_typing->setTextFormat(Qt::PlainText);
+    beginAtEdge(m_typing);
     m_typing->setFixedHeight(m_typing->fontMetrics().height() + 2);
     lowerColumn->addWidget(m_typing);
     lowerColumn->addWidget(createInputRow(), 1);

@@ -4,6 +4,7 @@
 #include "windows/ContactList.h"
 #include "windows/FilterPanel.h"
 #include "windows/OwnPanel.h"
+#include "windows/PlainText.h"
 #include "windows/WindowMemory.h"
 
 #include <ombrin/OmStatusBar.h>
@@ -52,6 +53,7 @@ MainWindow::MainWindow(Session *session)
     column->addWidget(m_filters);
     column->addWidget(m_contacts, 1);
     setWidget(contents);
+    beginAtEdge(m_count);
     statusBar()->addWidget(m_count, 1);
     statusBar()->setSizeGripEnabled(false);
 

@@ -3,6 +3,8 @@
 #include <ombrin/OmLabel.h>
 #include <ombrin/OmSafeHtml.h>
 
+#include <QtWidgets/QLabel>
+
 namespace messenger {
 
 QString asRichText(const QString &text)
@@ -13,11 +15,18 @@ QString asRichText(const QString &text)
            + QStringLiteral("</qt>");
 }
 
+void beginAtEdge(QLabel *label)
+{
+    const Qt::Alignment edge = label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    label->setAlignment(edge | Qt::AlignAbsolute | Qt::AlignVCenter);
+}
+
 ombrin::OmLabel *plainLabel(const QString &text)
 {
     auto *label = new ombrin::OmLabel(true, nullptr);
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
+    beginAtEdge(label);
     return label;
 }
 

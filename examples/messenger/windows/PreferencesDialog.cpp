@@ -71,6 +71,7 @@ PreferencesDialog::PreferencesDialog(const Preferences &preferences, QWidget *pa
     m_sendsTyping->setChecked(preferences.sendsTyping);
     m_showsBalloons->setChecked(preferences.showsBalloons);
     m_shakes->setChecked(preferences.shakes);
+    setMinimumSize(sizeHint()); // on small screens, too
 }
 
 PreferencesDialog::~PreferencesDialog() = default;

@@ -24,6 +24,7 @@ using ombrin::OmAvatarSmall;
 
 constexpr int kMargin = 12;
 constexpr int kFaceExtent = 78;
+constexpr int kStars = 5;
 constexpr int kStarHeight = 22;
 constexpr int kLineHeight = 26;
 constexpr int kLabelPole = 108;
@@ -44,9 +45,10 @@ ProfileWindow::ProfileWindow(Session *session, const QString &contactId)
     setAttribute(Qt::WA_DeleteOnClose);
     m_view->setMinimumLineHeight(kLineHeight);
     m_view->setFrameShape(QFrame::StyledPanel);
-    m_view->poles().append(kLabelPole, true);
-    m_view->poles().append(kValuePole, true);
-    m_view->poles().append(kActionPole, false);
+    const bool isLeft = !isRightToLeft();
+    m_view->poles().append(kLabelPole, isLeft);
+    m_view->poles().append(kValuePole, isLeft);
+    m_view->poles().append(kActionPole, !isLeft);
 
     auto *contents = new QWidget;
     auto *column = new QVBoxLayout(contents);
@@ -61,6 +63,7 @@ ProfileWindow::ProfileWindow(Session *session, const QString &contactId)
             refresh(contact);
     });
     refresh(session->roster().contact(contactId));
+    m_view->setFocus();
     addClosingKeys(this);
 }
 
@@ -80,7 +83,7 @@ QWidget *ProfileWindow::createHead()
     m_presence = new QLabel;
     m_rating = new ombrin::OmRatingLabel;
     m_rating->setFocusPolicy(Qt::StrongFocus);
-    m_rating->setFixedHeight(kStarHeight);
+    m_rating->setFixedSize(kStars * (kStarHeight - 1) + 1, kStarHeight);
     m_rating->setAccessibleName(tr("Your rating"));
     m_rating->setToolTip(tr("What you think of this contact. Nobody else sees it."));
     connect(m_rating, &ombrin::OmRatingLabel::ratingChanged, this,
@@ -148,27 +151,32 @@ void ProfileWindow::fillView(const Contact &contact)
     m_view->blockRefresh(false);
 }
 
+void ProfileWindow::addLabel(int row, const QString &label)
+{
+    auto *item = new OmScribbledZebraItemText(LabelColumn, row, isRightToLeft(), label, nullptr);
+    item->setBrush(kLabelColor);
+    m_view->items() << item;
+}
+
 void ProfileWindow::addText(int row, const QString &label, const QString &value)
 {
-    auto *labelItem = new OmScribbledZebraItemText(LabelColumn, row, false, label, nullptr);
-    labelItem->setBrush(kLabelColor);
-    m_view->items() << labelItem
-                    << new OmScribbledZebraItemText(ValueColumn, row, true, value, nullptr);
+    addLabel(row, label);
+    m_view->items() << new OmScribbledZebraItemText(ValueColumn, row, !isRightToLeft(), value,
+                                                    nullptr);
 }
 
 void ProfileWindow::addLink(int row, const QString &label, const QString &value,
                             const QString &action, const QString &actionText)
 {
-    auto *labelItem = new OmScribbledZebraItemText(LabelColumn, row, false, label, nullptr);
-    labelItem->setBrush(kLabelColor);
-    m_view->items() << labelItem;
     // Without a link at the end of the line the value is the link.
     const bool isValueLink = actionText.isEmpty();
-    if (!isValueLink)
-        m_view->items() << new OmScribbledZebraItemText(ValueColumn, row, true, value, nullptr);
-    auto *link =
-            new OmScribbledZebraItemLink(isValueLink ? ValueColumn : ActionColumn, row, isValueLink,
-                                         isValueLink ? value : actionText, nullptr);
+    if (isValueLink)
+        addLabel(row, label);
+    else
+        addText(row, label, value);
+    auto *link = new OmScribbledZebraItemLink(isValueLink ? ValueColumn : ActionColumn, row,
+                                              isValueLink != isRightToLeft(),
+                                              isValueLink ? value : actionText, nullptr);
     link->setBrush(palette().link());
     connect(link, &OmScribbledZebraItemLink::signalOnLinkActivated, this,
             [this, action] { Q_EMIT actionId(action, m_contactId); });

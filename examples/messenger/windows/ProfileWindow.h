@@ -37,6 +37,7 @@ private:
     QWidget *createHead();
     void refresh(const Contact &contact);
     void fillView(const Contact &contact);
+    void addLabel(int row, const QString &label);
     void addText(int row, const QString &label, const QString &value);
     void addLink(int row, const QString &label, const QString &value, const QString &action,
                  const QString &actionText);

@@ -2,6 +2,7 @@
 
 #include "model/PictureFiles.h"
 #include "windows/Pictures.h"
+#include "windows/PlainText.h"
 #include "wizard/AccountMission.h"
 
 #include <QtCore/QPointer>
@@ -19,10 +20,11 @@ namespace {
 constexpr int kLongestField = 60;
 constexpr int kFaceExtent = 78;
 
-QLabel *plainLabel()
+QLabel *wrappedLabel()
 {
     auto *label = new QLabel;
     label->setTextFormat(Qt::PlainText);
+    beginAtEdge(label);
     label->setWordWrap(true);
     return label;
 }
@@ -74,7 +76,7 @@ QLineEdit *AccountPage::addField(const QString &name)
 
 void AccountPage::addNote(const QString &text)
 {
-    QLabel *note = plainLabel();
+    QLabel *note = wrappedLabel();
     note->setText(text);
     QPalette palette = note->palette();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Disabled, QPalette::WindowText));
@@ -125,7 +127,7 @@ void NamePage::RefreshPage()
 
 PicturePage::PicturePage()
     : m_face(new QLabel)
-    , m_problem(plainLabel())
+    , m_problem(wrappedLabel())
 {
     setAcceptDrops(true);
     auto *choosing = new QPushButton(tr("C&hoose a picture..."));
@@ -150,7 +152,7 @@ PicturePage::PicturePage()
     column()->addLayout(row);
     addNote(tr("You can also drop a picture here."));
     column()->addWidget(m_problem);
-    column()->addStretch();
+    column()->addStretch(1);
 }
 
 void PicturePage::RefreshPage()
@@ -192,9 +194,9 @@ void PicturePage::dropEvent(QDropEvent *event)
 
 SummaryPage::SummaryPage()
     : m_face(new QLabel)
-    , m_name(plainLabel())
-    , m_server(plainLabel())
-    , m_done(plainLabel())
+    , m_name(wrappedLabel())
+    , m_server(wrappedLabel())
+    , m_done(wrappedLabel())
 {
     QFont bold = m_name->font();
     bold.setBold(true);
@@ -212,7 +214,7 @@ SummaryPage::SummaryPage()
     column()->addLayout(row);
     column()->addSpacing(6);
     column()->addWidget(m_done);
-    column()->addStretch();
+    column()->addStretch(1);
 }
 
 void SummaryPage::RefreshPage()

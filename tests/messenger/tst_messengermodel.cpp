@@ -1,6 +1,6 @@
 // The messenger without its windows: what it reads, and what it makes of what is broken or hostile.
 
-#include "support/TestCase.h"
+#include "support/WidgetEvents.h"
 
 #include "model/ContactBook.h"
 #include "model/ContactFilter.h"
@@ -106,12 +106,11 @@ private Q_SLOTS:
 
     void tornLineCostsNoOtherMessage_data()
     {
-        QTest::addColumn<QByteArray>("damage");
-
-        QTest::newRow("half a line") << json("{'at': '2026-01-01T10:00");
-        QTest::newRow("zeros") << QByteArray(100, '\0');
-        QTest::newRow("no JSON, and an empty line") << QByteArray("\xff\xfe{]\n\n");
-        QTest::newRow("of another kind") << json("{'at': 7, 'from': 'nobody'}");
+        const auto row = columns<QByteArray>("damage");
+        row("half a line", json("{'at': '2026-01-01T10:00"));
+        row("zeros", QByteArray(100, '\0'));
+        row("no JSON, and an empty line", "\xff\xfe{]\n\n");
+        row("of another kind", json("{'at': 7, 'from': 'nobody'}"));
     }
     void tornLineCostsNoOtherMessage()
     {
@@ -240,6 +239,8 @@ private Q_SLOTS:
             Verdict::Hostile);
         row("hello with a path", json("{'type': 'hello', 'version': 1, 'id': '../a', 'name': 'A'}"),
             Verdict::Hostile);
+        row("name in two lines", json("{'type': 'presence', 'name': 'A\\nB'}"),
+            Verdict::Understood);
         row("hello of no version", json("{'type': 'hello', 'id': 'a', 'name': 'A'}"),
             Verdict::Hostile);
         row("picture that is a number", json("{'type': 'picture', 'data': 7}"), Verdict::Hostile);
@@ -253,6 +254,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, line);
         PeerMessage message;
         QTEST(decode(line, &message), "verdict");
+        QCOMPARE(message.name, message.name.simplified());
     }
 
     void linesAreFoundHoweverTheBytesArrive()
@@ -277,15 +279,12 @@ private Q_SLOTS:
     {
         QVERIFY(pictureFromData(QByteArray()).isNull());
         QVERIFY(pictureFromData("<svg xmlns='http://www.w3.org/2000/svg'/>").isNull());
-        QImage large(5000, 10, QImage::Format_RGB32);
-        large.fill(Qt::red);
+        const QImage large = ombrin::test::flatImage(QSize(5000, 10), Qt::red);
         const QByteArray sent = pictureToData(large); // made smaller before it is sent
         QCOMPARE(pictureFromData(sent).width(), 4096);
         QImage noise(900, 900, QImage::Format_RGB32);
-        for (int y = 0; y < noise.height(); ++y) {
-            for (int x = 0; x < noise.width(); ++x)
-                noise.setPixel(x, y, QRandomGenerator::global()->generate());
-        }
+        for (int i = 0; i < 900 * 900; ++i)
+            noise.setPixel(i % 900, i / 900, QRandomGenerator::global()->generate());
         const QByteArray fitting = pictureToData(noise, 100000);
         QVERIFY(!fitting.isEmpty() && fitting.size() <= 100000);
         QVERIFY(!pictureFromData(fitting).isNull());

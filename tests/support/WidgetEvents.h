@@ -40,6 +40,21 @@ inline void dragInside(QWidget *widget, const QPoint &from, const QPoint &to)
     QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 
+/// Drags \a data to \a place in \a widget and drops it there. Returns whether the widget took it.
+inline bool dropOn(QWidget *widget, const QMimeData &data, const QPoint &place = QPoint(5, 5))
+{
+    const auto isTaken = [widget](auto &&event) {
+        event.ignore();
+        QCoreApplication::sendEvent(widget, &event);
+        return event.isAccepted();
+    };
+    const auto action = Qt::CopyAction;
+    const bool enters =
+            isTaken(QDragEnterEvent(place, action, &data, Qt::LeftButton, Qt::NoModifier));
+    isTaken(QDragMoveEvent(place, action, &data, Qt::LeftButton, Qt::NoModifier));
+    return isTaken(QDropEvent(place, action, &data, Qt::LeftButton, Qt::NoModifier)) && enters;
+}
+
 /// The visible window of the class \a Widget, or null.
 template <typename Widget>
 Widget *shown()

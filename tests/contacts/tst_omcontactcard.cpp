@@ -1,4 +1,5 @@
 #include "support/FileDialogUser.h"
+#include "support/MenuUser.h"
 #include "support/TaggedLanguage.h"
 #include "support/WidgetEvents.h"
 
@@ -63,30 +64,22 @@ QColor indication(const OmContactCard &card)
     return image.isNull() ? QColor() : image.pixelColor(8, 8);
 }
 
-// Opens the context menu of \a card, calls \a look with its entries, and closes it if it is still
-// there. Whether a menu came up.
+// Opens the context menu of \a card for \a look. Whether a menu came up.
 bool openMenu(OmContactCard *card, const std::function<void(QMenu *)> &look)
 {
-    bool isOpen = false;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu)
-            return;
-        timer.stop();
-        isOpen = true;
-        look(menu);
-        if (menu)
-            menu->close();
-    });
-    timer.start(5);
-    QMetaObject::invokeMethod(card, "slotContextMenu", Q_ARG(QPoint, QPoint(1, 1)));
-    return isOpen;
+    return useMenu(
+            [card] {
+                QMetaObject::invokeMethod(card, "slotContextMenu", Q_ARG(QPoint, QPoint(1, 1)));
+            },
+            look);
 }
 
 void release(QWidget *widget, Qt::MouseButton button, const QPoint &position)
 {
-    QTest::mouseRelease(widget, button, Qt::NoModifier, position);
+    // Qt Test would warn where the event is left to the parents.
+    QMouseEvent event(QEvent::MouseButtonRelease, position, widget->mapToGlobal(position), button,
+                      Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
 }
 
 } // namespace
@@ -288,12 +281,7 @@ private Q_SLOTS:
         card.setGeneralApp(application(3));
         card.setAvatar(picture(), false);
         QStringList texts;
-        const auto look = [&texts](QMenu *menu) {
-            texts.clear();
-            const QList<QAction *> actions = menu->actions();
-            for (const QAction *entry : actions)
-                texts.append(entry->isSeparator() ? "-"_q : entry->text());
-        };
+        const auto look = [&texts](QMenu *menu) { texts = entriesOf(menu); };
         QVERIFY(openMenu(&card, look));
         const QStringList actions{"Chat with Contact"_q, "Send File"_q};
         QCOMPARE(texts, QStringList({"Save User Picture..."_q, "-"_q}) + actions);
@@ -342,7 +330,7 @@ private Q_SLOTS:
         QVERIFY(card.acceptDrops());
         QSignalSpy dropped(&card, qOverload<const QStringList &>(&OmContactCard::newAvatar));
         QMimeData data;
-        QVERIFY(!drop(&card, &data));
+        QVERIFY(!dropOn(&card, data));
         QVERIFY(dropped.isEmpty());
 
         QList<QUrl> urls{QUrl("http://x/y.png"_q)};
@@ -352,11 +340,11 @@ private Q_SLOTS:
             urls.append(QUrl::fromLocalFile(files.constLast()));
         }
         data.setUrls(urls);
-        QVERIFY(drop(&card, &data));
+        QVERIFY(dropOn(&card, data));
         QCOMPARE(dropped.takeFirst(), QVariantList{files});
 
         data.setImageData(picture().toImage());
-        QVERIFY(drop(&card, &data));
+        QVERIFY(dropOn(&card, data));
         const QString file = QDir::tempPath() + "/omchat.jpg"_q;
         QCOMPARE(dropped.takeFirst(), QVariantList{QStringList{file}});
         QCOMPARE(QImage(file).size(), picture().size());
@@ -429,7 +417,7 @@ private Q_SLOTS:
                 QMimeData data;
                 data.setUrls({QUrl::fromLocalFile("/x"_q)});
                 card->setOwn(true);
-                drop(card, &data);
+                dropOn(card, data);
             });
         row("clicked", &OmContactCard::clicked,
             [](OmContactCard *card) { release(card, Qt::LeftButton, QPoint(90, 5)); });
@@ -490,17 +478,6 @@ private:
         return timers.size() == 1 && timers.constFirst().interval == 5000
                        ? timers.constFirst().timerId
                        : -1;
-    }
-
-    // Whether the card takes the drag; the drop itself it always accepts.
-    static bool drop(OmContactCard *card, const QMimeData *data)
-    {
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(card, &enter);
-        QDropEvent event(QPoint(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
-        event.ignore();
-        QCoreApplication::sendEvent(card, &event);
-        return enter.isAccepted() && event.isAccepted();
     }
 };
 

@@ -12,7 +12,11 @@ namespace {
 
 void click(QWidget *card)
 {
-    QTest::mouseRelease(card, Qt::LeftButton, Qt::NoModifier, QPoint(card->width() - 2, 2));
+    // Qt Test would warn that the card leaves the event to its parents.
+    const QPoint place(card->width() - 2, 2);
+    QMouseEvent event(QEvent::MouseButtonRelease, place, card->mapToGlobal(place), Qt::LeftButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(card, &event);
 }
 
 void settle()

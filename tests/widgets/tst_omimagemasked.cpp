@@ -144,27 +144,21 @@ private Q_SLOTS:
         QCOMPARE(paintedOnNothing(&widget), expected);
     }
 
-    void denseImagesHaveTheirLogicalSize_data()
-    {
-        // shape: of an image whose pixels 21 to 22 are opaque
-        const auto row = columns<qreal, QSize, QRect>("density", "size", "shape");
-        row("1.5", 1.5, {28, 14}, QRect(14, 14, 1, 1).translated(0, -7));
-        row("2", 2.0, {21, 11}, {10, 5, 2, 1});
-        row("3", 3.0, {14, 7}, {7, 3, 1, 1});
-    }
     void denseImagesHaveTheirLogicalSize()
     {
-        QFETCH(qreal, density);
-        QFETCH(QSize, size);
-        QFETCH(QRect, shape);
         QImage image = flat(Qt::transparent, QSize(42, 21));
         image.setPixelColor(21, 11, kNormal);
         image.setPixelColor(22, 11, kNormal);
-        image.setDevicePixelRatio(density);
-        OmImageMaskedWidget widget;
-        widget.setImage(image);
-        QCOMPARE(widget.size(), size);
-        QCOMPARE(widget.mask(), QRegion(shape));
+        const std::tuple<qreal, QSize, QRect> cases[] = {{1.5, {28, 14}, {14, 7, 1, 1}},
+                                                         {2.0, {21, 11}, {10, 5, 2, 1}},
+                                                         {3.0, {14, 7}, {7, 3, 1, 1}}};
+        for (const auto &[density, size, shape] : cases) {
+            image.setDevicePixelRatio(density);
+            OmImageMaskedWidget widget;
+            widget.setImage(image);
+            QCOMPARE(widget.size(), size);
+            QCOMPARE(widget.mask(), QRegion(shape));
+        }
     }
 
     void nullImageLeavesNothing()

@@ -67,11 +67,8 @@ struct Form
     {
         QMimeData data;
         data.setText(text);
-        const QPoint place(QFontMetrics(edit->font()).horizontalAdvance(shownText(*edit)) / 2, 5);
-        const auto send = [&](auto &&event) { QCoreApplication::sendEvent(edit, &event); };
-        send(QDragEnterEvent(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
-        send(QDragMoveEvent(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
-        send(QDropEvent(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
+        const int width = edit->fontMetrics().horizontalAdvance(shownText(*edit));
+        dropOn(edit, data, QPoint(width / 2, 5));
     }
 
     QWidget window;

@@ -29,34 +29,24 @@ class tst_FramePainter : public ombrin::test::TestCase
 private Q_SLOTS:
     void initTestCase() { QVERIFY(ombrin::test::registerPictures(flat_skin::kFile)); }
 
-    void eachPieceFillsItsPlace_data()
-    {
-        const auto row = columns<bool, int>("active", "density");
-        row("active", true, 1);
-        row("inactive, dense", false, 2);
-        row("denser", true, 3);
-    }
-
     void eachPieceFillsItsPlace()
     {
-        QFETCH(bool, active);
-        QFETCH(int, density);
         const std::pair<const char *, QRect> places[] = {
                 {"top_left", {0, 0, 86, 30}},        {"top_center", {86, 0, 226, 30}},
                 {"top_right", {312, 0, 88, 30}},     {"left", {0, 30, 5, 265}},
                 {"right", {395, 30, 5, 265}},        {"bottom_left", {0, 295, 5, 5}},
                 {"bottom_center", {5, 295, 390, 5}}, {"bottom_right", {395, 295, 5, 5}},
         };
-        const QImage image = paintFrame(QSize(400, 300), density, active);
-        QImage expected = flatImage(image.size(), kNothing);
-        QPainter painter(&expected);
-        for (const auto &[name, rect] : places) {
-            painter.fillRect(QRect(rect.topLeft() * density, rect.size() * density),
-                             flat_skin::piece(name, active));
+        for (const auto &[active, density] : {std::pair(true, 1), {false, 2}, {true, 3}}) {
+            const QImage image = paintFrame(QSize(400, 300), density, active);
+            QImage expected = flatImage(image.size(), kNothing);
+            expected.setDevicePixelRatio(density);
+            QPainter painter(&expected);
+            for (const auto &[name, rect] : places)
+                painter.fillRect(rect, flat_skin::piece(name, active));
+            painter.end();
+            QCOMPARE(image, expected);
         }
-        painter.end();
-        expected.setDevicePixelRatio(density);
-        QCOMPARE(image, expected);
     }
 
     void fractionalDensityShowsNoSeamAndNoGap()

@@ -9,24 +9,17 @@ class tst_OmDesktop : public ombrin::test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void centresInTheWorkAreaCountedFromTheOrigin_data()
-    {
-        // leftOver: of the work area around the widget
-        const auto row = columns<QSize, QPoint>("leftOver", "position");
-        row("even", {500, 400}, {250, 200});
-        row("odd", {501, 401}, {250, 200});
-        row("larger than the work area", {-101, -51}, {-50, -25});
-    }
     void centresInTheWorkAreaCountedFromTheOrigin()
     {
-        QFETCH(QSize, leftOver);
-        QFETCH(QPoint, position);
         const QSize area = QGuiApplication::primaryScreen()->availableGeometry().size();
-        QWidget widget;
-        const QSize size = area - leftOver;
-        widget.resize(size);
-        OmDesktop::setCentered(&widget);
-        QCOMPARE(widget.geometry(), QRect(position, size));
+        const std::pair<QSize, QPoint> cases[] = {
+                {{500, 400}, {250, 200}}, {{501, 401}, {250, 200}}, {{-101, -51}, {-50, -25}}};
+        for (const auto &[leftOver, position] : cases) {
+            QWidget widget;
+            widget.resize(area - leftOver);
+            OmDesktop::setCentered(&widget);
+            QCOMPARE(widget.geometry(), QRect(position, area - leftOver));
+        }
     }
 
     void backgroundIsFilledAtOnceInEveryState()

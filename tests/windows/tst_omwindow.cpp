@@ -1,3 +1,4 @@
+#include "support/MenuUser.h"
 #include "support/TaggedLanguage.h"
 #include "support/WidgetEvents.h"
 #include "windows/FlatSkin.h"
@@ -40,9 +41,7 @@ void settle()
 
 QMenu *openMenu(QWidget &window, int y)
 {
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(150, y),
-                            window.mapToGlobal(QPoint(150, y)));
-    QApplication::sendEvent(&window, &event);
+    askForMenu(&window, QPoint(150, y));
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 

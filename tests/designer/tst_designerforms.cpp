@@ -189,56 +189,50 @@ private Q_SLOTS:
         }
     }
 
-    void formsHaveTheRightParts_data()
-    {
-        QTest::addColumn<bool>("compiled");
-        QTest::newRow("loaded") << false;
-        QTest::newRow("compiled") << true;
-    }
     void formsHaveTheRightParts()
     {
-        QFETCH(bool, compiled);
-        const std::unique_ptr<QWidget> form = compiled ? compiledForm() : loadedForm();
-        auto *const window = qobject_cast<ombrin::OmWindow *>(form.get());
-        QVERIFY(window);
-        QCOMPARE(window->windowTitleOnly(), "All widgets"_q);
+        for (const auto &form : {loadedForm(), compiledForm()}) {
+            auto *const window = qobject_cast<ombrin::OmWindow *>(form.get());
+            QVERIFY(window);
+            QCOMPARE(window->windowTitleOnly(), "All widgets"_q);
 
-        const auto widgets = widgetsOfPlugin();
-        for (const auto *const offered : widgets) {
-            const QString simple = offered->name().section("::"_q, -1).mid(2);
-            if (simple == "Window"_q || simple == "Dialog2"_q)
-                continue;
-            const auto *const widget =
-                    form->findChild<QWidget *>(simple.at(0).toLower() + simple.mid(1));
-            QVERIFY2(widget, qPrintable(simple));
-            QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), offered->name());
+            const auto widgets = widgetsOfPlugin();
+            for (const auto *const offered : widgets) {
+                const QString simple = offered->name().section("::"_q, -1).mid(2);
+                if (simple == "Window"_q || simple == "Dialog2"_q)
+                    continue;
+                const auto *const widget =
+                        form->findChild<QWidget *>(simple.at(0).toLower() + simple.mid(1));
+                QVERIFY2(widget, qPrintable(simple));
+                QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), offered->name());
+            }
+
+            auto *const tabs = form->findChild<ombrin::OmTabWidget *>();
+            QCOMPARE(tabs->count(), 2);
+            QCOMPARE(tabs->tabText(1), "Ada"_q);
+            QVERIFY(tabs->widget(0)->findChild<QWidget *>("firstChild"_q));
+            QVERIFY(tabs->widget(1)->findChild<QWidget *>("secondChild"_q));
+            auto *const popup = form->findChild<ombrin::OmTrayPopup *>();
+            QVERIFY(popup->findChild<ombrin::OmLinkButton *>("popupChild"_q));
+            QCOMPARE(form->findChild<ombrin::OmToolBar *>()->actions().size(), 2);
+            QCOMPARE(form->findChild<ombrin::OmSmoothList *>()->item(1)->text(), "Sounds"_q);
+            QVERIFY(!form->findChild<ombrin::OmIconComboBox *>()->itemIcon(0).isNull());
+
+            // The layout keeps its widgets inside the frame, and none upon another.
+            form->resize(900, 900);
+            form->show();
+            QVERIFY(QTest::qWaitForWindowExposed(form.get()));
+            QRegion taken;
+            for (int index = 0; index < form->layout()->count(); ++index) {
+                const QRect place = form->layout()->itemAt(index)->geometry();
+                QVERIFY(form->contentsRect().contains(place) && !taken.intersects(place));
+                taken += place;
+            }
+            QVERIFY(popup->isVisible());
+            form->findChild<ombrin::OmLinkButton *>("linkButton"_q)->setChecked(true);
+            form->findChild<ombrin::OmLinkButton *>("linkButton"_q)->setChecked(false);
+            QVERIFY(!popup->isVisible());
         }
-
-        auto *const tabs = form->findChild<ombrin::OmTabWidget *>();
-        QCOMPARE(tabs->count(), 2);
-        QCOMPARE(tabs->tabText(1), "Ada"_q);
-        QVERIFY(tabs->widget(0)->findChild<QWidget *>("firstChild"_q));
-        QVERIFY(tabs->widget(1)->findChild<QWidget *>("secondChild"_q));
-        auto *const popup = form->findChild<ombrin::OmTrayPopup *>();
-        QVERIFY(popup->findChild<ombrin::OmLinkButton *>("popupChild"_q));
-        QCOMPARE(form->findChild<ombrin::OmToolBar *>()->actions().size(), 2);
-        QCOMPARE(form->findChild<ombrin::OmSmoothList *>()->item(1)->text(), "Sounds"_q);
-        QVERIFY(!form->findChild<ombrin::OmIconComboBox *>()->itemIcon(0).isNull());
-
-        // The layout keeps its widgets inside the frame, and none upon another.
-        form->resize(900, 900);
-        form->show();
-        QVERIFY(QTest::qWaitForWindowExposed(form.get()));
-        QRegion taken;
-        for (int index = 0; index < form->layout()->count(); ++index) {
-            const QRect place = form->layout()->itemAt(index)->geometry();
-            QVERIFY(form->contentsRect().contains(place) && !taken.intersects(place));
-            taken += place;
-        }
-        QVERIFY(popup->isVisible());
-        form->findChild<ombrin::OmLinkButton *>("linkButton"_q)->setChecked(true);
-        form->findChild<ombrin::OmLinkButton *>("linkButton"_q)->setChecked(false);
-        QVERIFY(!popup->isVisible());
     }
 
     void dialogIsAWindow()

@@ -115,15 +115,6 @@ QByteArray helloOf(const QByteArray &id)
     return R"({"type":"hello","version":1,"name":"Eve","id":")" + id + "\"}\n";
 }
 
-void drop(QWidget *target, const QMimeData &data)
-{
-    const QPoint place(9, 9);
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
-    QDropEvent dropping(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &dropping);
-}
-
 /// Says one thing after the other for ever, and notes in a file what it has said.
 int talkUntilKilled(const QString &path)
 {
@@ -415,10 +406,10 @@ private Q_SLOTS:
             garbage.setData("text/uri-list"_q, "\n\xff");
             QMimeData dropped;
             dropped.setImageData(picture);
-            drop(chat, garbage);
-            drop(chat, dropped);
+            ombrin::test::dropOn(chat, garbage);
+            ombrin::test::dropOn(chat, dropped);
             QVERIFY(waitFor([&] { return pictureCount() == 1; }, kPatienceMs));
-            drop(chat->input()->viewport(), dropped);
+            ombrin::test::dropOn(chat->input()->viewport(), dropped);
             QVERIFY(waitFor([&] { return pictureCount() == 2; }, kPatienceMs));
             const QPointer<ChatWindow> open(chat);
             const auto shortcuts = chat->findChildren<QShortcut *>();

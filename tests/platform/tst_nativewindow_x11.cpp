@@ -3,8 +3,6 @@
 
 #include <ombrin/OmDesktop.h>
 
-#include <QtGui/QWindow>
-
 namespace NativeWindow = ombrin::NativeWindow;
 using NativeWindow::Handle;
 using namespace ombrin::test;
@@ -103,9 +101,9 @@ class tst_NativeWindow_x11 : public TestCase
 private Q_SLOTS:
     void stayOnTopReachesTheWindowManager_data()
     {
-        QTest::addColumn<bool>("beforeShow");
-        QTest::newRow("on a window not shown yet") << true;
-        QTest::newRow("on a visible window") << false;
+        const auto row = columns<bool>("beforeShow");
+        row("on a window not shown yet", true);
+        row("on a visible window", false);
     }
     void stayOnTopReachesTheWindowManager()
     {
@@ -213,9 +211,9 @@ private Q_SLOTS:
 
     void broughtToFrontAboveTheActiveWindowOfAnotherClient_data()
     {
-        QTest::addColumn<bool>("wasOnTop");
-        QTest::newRow("plain") << false;
-        QTest::newRow("kept on top before") << true;
+        const auto row = columns<bool>("wasOnTop");
+        row("plain", false);
+        row("kept on top before", true);
     }
     void broughtToFrontAboveTheActiveWindowOfAnotherClient()
     {

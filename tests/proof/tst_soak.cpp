@@ -137,11 +137,7 @@ Cycle wizard()
 // The same one each time, since caches keep what was made of it.
 QPixmap picture()
 {
-    static const QPixmap pixmap = QPixmap::fromImage([] {
-        QImage image(96, 72, QImage::Format_RGB32);
-        image.fill(Qt::darkCyan);
-        return image;
-    }());
+    static const QPixmap pixmap = test::flatPixmap(QSize(96, 72), Qt::darkCyan);
     return pixmap;
 }
 

@@ -1,4 +1,5 @@
 #include "support/FileDialogUser.h"
+#include "support/MenuUser.h"
 #include "support/WidgetEvents.h"
 
 #include <ombrin/OmDir.h>
@@ -86,20 +87,16 @@ private:
     QStringList openMenu(const QPoint &place, const std::function<void(QMenu *)> &use)
     {
         QStringList texts;
-        QTimer::singleShot(0, qApp, [&] {
-            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            QVERIFY(menu);
-            texts = entries(menu);
-            use(menu);
-        });
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
-                                m_browser->viewport()->mapToGlobal(place));
-        QCoreApplication::sendEvent(m_browser->viewport(), &event);
+        useMenu([&] { askForMenu(m_browser->viewport(), place); },
+                [&](QMenu *menu) {
+                    texts = entries(menu);
+                    use(menu);
+                });
         return texts;
     }
     QStringList menuAt(const QPoint &place)
     {
-        return openMenu(place, [](QMenu *menu) { menu->close(); });
+        return openMenu(place, [](QMenu *) {});
     }
     static void choose(QMenu *menu, int entry)
     {
@@ -358,10 +355,7 @@ private Q_SLOTS:
             m_browser->setSaveableImages(onPicture);
             insertPicture(m_received);
             show();
-            openMenu(placeOf(0), [this](QMenu *menu) {
-                delete m_browser;
-                menu->close();
-            });
+            openMenu(placeOf(0), [this](QMenu *) { delete m_browser; });
             QVERIFY(!m_browser);
         }
     }

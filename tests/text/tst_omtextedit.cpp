@@ -1,5 +1,5 @@
+#include "support/MenuUser.h"
 #include "support/SpellingFolder.h"
-#include "support/TestCase.h"
 
 #include <ombrin/OmTextEdit.h>
 #include <ombrin/OmTextEditSyntax.h>
@@ -69,32 +69,12 @@ QStringList misspelt(const QTextDocument *document, const QStringList &words)
 }
 
 // Opens the context menu over \a position of the text and hands it to \a use.
-template <typename Use>
-void openMenu(OmTextEdit *edit, int position, Use use)
+void openMenu(OmTextEdit *edit, int position, const std::function<void(QMenu *)> &use)
 {
     QTextCursor cursor(edit->document());
     cursor.setPosition(position);
-    const QPoint point = edit->cursorRect(cursor).center();
-    bool wasOpen = false;
-    QTimer::singleShot(0, qApp, [&wasOpen, use] {
-        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        wasOpen = menu;
-        use(menu.data());
-        if (menu)
-            menu->close();
-    });
-    QContextMenuEvent event(QContextMenuEvent::Mouse, point, edit->viewport()->mapToGlobal(point));
-    QCoreApplication::sendEvent(edit->viewport(), &event);
-    QVERIFY(wasOpen);
-}
-
-QStringList entries(const QMenu *menu)
-{
-    QStringList texts;
-    const QList<QAction *> actions = menu->actions();
-    for (const QAction *action : actions)
-        texts.append(action->isSeparator() ? "-"_q : action->text());
-    return texts;
+    const QPoint place = edit->cursorRect(cursor).center();
+    QVERIFY(useMenu([&] { askForMenu(edit->viewport(), place); }, use));
 }
 
 void choose(QMenu *menu, const QString &entry)
@@ -286,7 +266,7 @@ private Q_SLOTS:
         QVERIFY(OmSpelling::instance()->prepareSuggestions("helo"_q, 20000));
         openMenu(m_edit.get(), 6, [](QMenu *menu) {
             QCOMPARE(menu->title(), "Spelling"_q);
-            QCOMPARE(entries(menu), QStringList({"hello"_q, "-"_q, "Add to Dictionary"_q}));
+            QCOMPARE(entriesOf(menu), QStringList({"hello"_q, "-"_q, "Add to Dictionary"_q}));
             choose(menu, "hello"_q);
         });
         QCOMPARE(m_edit->toPlainText(), "cat hello world"_q);
@@ -296,7 +276,7 @@ private Q_SLOTS:
         OmSpelling::instance()->replaceWord("helo"_q, "x&y"_q);
         QVERIFY(OmSpelling::instance()->prepareSuggestions("helo"_q, 20000));
         openMenu(m_edit.get(), 6, [](QMenu *menu) {
-            QCOMPARE(entries(menu).first(), "x&&y"_q);
+            QCOMPARE(entriesOf(menu).first(), "x&&y"_q);
             choose(menu, "x&&y"_q);
         });
         QCOMPARE(m_edit->toPlainText(), "cat x&y world"_q);
@@ -309,7 +289,7 @@ private Q_SLOTS:
         openMenu(m_edit.get(), 2, [](QMenu *menu) { QVERIFY(menu->title().isEmpty()); });
         QVERIFY(OmSpelling::instance()->prepareSuggestions("zzkqv"_q, 20000));
         openMenu(m_edit.get(), 8, [](QMenu *menu) {
-            QCOMPARE(entries(menu).first(), "No Suggestions Found"_q);
+            QCOMPARE(entriesOf(menu).first(), "No Suggestions Found"_q);
             choose(menu, "No Suggestions Found"_q);
         });
         QCOMPARE(m_edit->toPlainText(), "hello zzkqv "_q);
@@ -335,13 +315,13 @@ private Q_SLOTS:
         m_edit->setPlainText("zz"_q);
         WordListBackend::hold().lock();
         openMenu(m_edit.get(), 1, [](QMenu *menu) {
-            QCOMPARE(entries(menu).size(), 3);
+            QCOMPARE(entriesOf(menu).size(), 3);
             QVERIFY(!menu->actions().first()->isEnabled());
             WordListBackend::hold().unlock();
-            QTRY_COMPARE_WITH_TIMEOUT(entries(menu).first(), "z0"_q, 20000);
+            QTRY_COMPARE_WITH_TIMEOUT(entriesOf(menu).first(), "z0"_q, 20000);
             // No more than the screen holds.
             QVERIFY(menu->screen()->availableGeometry().contains(menu->geometry()));
-            QVERIFY(entries(menu).size() < 200);
+            QVERIFY(entriesOf(menu).size() < 200);
         });
         m_edit->setDict(QString());
         ombrin::setSpellingBackendFactory(factory);

@@ -80,7 +80,7 @@ void ServerPage::RefreshPage()
 }
 
 SignInPage::SignInPage()
-    : m_name(addField(tr("&Name:")))
+    : m_name(addField(tr("N&ame:")))
     , m_password(addField(tr("Pass&word:")))
     , m_problem(addProblem())
 {

@@ -84,7 +84,7 @@
 <context>
     <name>NamePage</name>
     <message>
-        <source>&amp;Name:</source>
+        <source>N&amp;ame:</source>
         <translation>&amp;Name:</translation>
     </message>
     <message>

@@ -107,7 +107,7 @@ void ServerPage::RefreshPage()
 // Name
 
 NamePage::NamePage()
-    : m_name(addField(tr("&Name:")))
+    : m_name(addField(tr("N&ame:")))
 {
     addNote(tr("Your contacts see this on your card."));
     column()->addStretch();

@@ -196,12 +196,15 @@ private Q_SLOTS:
         QVERIFY(!m_spelling->prepareSuggestions("sxx"_q));
         WordListBackend::hold().unlock();
 
-        // What is asked for goes before what was begun in advance.
+        // What is asked for goes before what is only likely to be, but for a word already begun.
         QTRY_VERIFY_WITH_TIMEOUT(ready.contains({"sxx"_q}), 20000);
         const QList<QVariantList> before = ready.mid(0, ready.indexOf({"sxx"_q}));
-        for (const QVariantList &told : before)
-            QVERIFY(!told.first().toString().startsWith("nxx"_q));
-        QVERIFY(m_spelling->prepareSuggestions("bxx"_q, 5000));
+        const auto inAdvance =
+                std::count_if(before.begin(), before.end(), [](const QVariantList &told) {
+                    return told.first().toString().startsWith("nxx"_q);
+                });
+        QVERIFY(inAdvance <= 1);
+        QVERIFY(m_spelling->prepareSuggestions("bxx"_q, 20000));
         QCOMPARE(m_spelling->suggestionList("bxx"_q), QStringList("Berlin"_q));
     }
 

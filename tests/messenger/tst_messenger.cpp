@@ -466,6 +466,23 @@ private Q_SLOTS:
         }
     }
 
+    void largePicturesAreShownSmoothly()
+    {
+        User user("ada"_q);
+        QImage stripes = ombrin::test::flatImage(QSize(560, 440), Qt::white);
+        for (int pixel = 0; pixel < 560 * 440; pixel += 2)
+            stripes.setPixel(pixel % 560, pixel / 560, qRgb(0, 0, 0));
+        user.session().sendPicture("anna"_q, stripes);
+        const QString name = user.session().messages("anna"_q, 9).constFirst().text;
+        const QUrl address = QUrl::fromLocalFile(user.session().pictureFile(name));
+        const ChatHistory history(&user.session(), "anna"_q);
+        const QVariant shown = history.document()->resource(QTextDocument::ImageResource, address);
+        const QImage image = shown.value<QPixmap>().toImage();
+        QCOMPARE(image.size(), QSize(280, 220));
+        const int gray = qGray(image.pixel(100, 100));
+        QVERIFY2(gray > 100 && gray < 155, qPrintable(QString::number(gray)));
+    }
+
     void contactsAreChosenByKey()
     {
         User user("ada"_q);

@@ -11,6 +11,7 @@
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
 namespace messenger {
@@ -65,6 +66,13 @@ QString rowTemplate(bool isRightToLeft)
                             "<td style=\"padding-left:6px; padding-right:8px\">%3%4</td>"
                             "<td width=\"%7\" align=\"right\" style=\"color:%6\">%5</td>")
            + end;
+}
+
+QSize shownSize(const QSize &size)
+{
+    return size.boundedTo(kLargestPicture) == size
+                   ? size
+                   : size.scaled(kLargestPicture, Qt::KeepAspectRatio);
 }
 
 /// Keeps a view that shows the end of its document at the end while the document grows.
@@ -212,14 +220,25 @@ QString ChatHistory::bodyOf(const Message &message) const
 QString ChatHistory::pictureOf(const QString &name) const
 {
     const QString fileName = m_session->pictureFile(name);
-    QSize size = QImageReader(fileName).size();
+    const QSize size = shownSize(QImageReader(fileName).size());
     if (size.isEmpty())
         return tr("(a picture that is no longer there)").toHtmlEscaped();
-    if (size.boundedTo(kLargestPicture) != size)
-        size.scale(kLargestPicture, Qt::KeepAspectRatio);
     return QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%3\">")
             .arg(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()),
                  QString::number(size.width()), QString::number(size.height()));
+}
+
+// Made smaller once and smoothly: the document would do it with each paint, and roughly.
+QVariant ChatHistory::loadResource(int type, const QUrl &name)
+{
+    const QVariant resource = OmTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource)
+        return resource;
+    const auto picture = resource.value<QPixmap>();
+    const QSize size = shownSize(picture.size()) * qApp->devicePixelRatio();
+    return size.width() < picture.width()
+                   ? picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                   : picture;
 }
 
 // Whoever reads the end goes on reading the end.

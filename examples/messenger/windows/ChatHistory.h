@@ -26,6 +26,7 @@ public:
     void refreshFaces();
 
 protected:
+    QVariant loadResource(int type, const QUrl &name) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -64,7 +64,8 @@ FilterPanel::FilterPanel(const ContactFilter &filter, const QStringList &groups,
             &FilterPanel::onPresenceChanged);
     connect(m_groups, &OmCheckBoxAssortmentView::signalOnItemCheckChanged, this,
             &FilterPanel::onGroupChanged);
-    setUnfolded(false);
+    // Who misses a contact sees at once why.
+    setUnfolded(!filter.hiddenPresences.isEmpty() || !filter.hiddenGroups.isEmpty());
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -70,6 +70,8 @@ COmWizard_Standard::~COmWizard_Standard() = default;
 void COmWizard_Standard::InitializeWidgets()
 {
     m_header = new QWidget(this);
+    // At once: what is set after a widget was polished is lost when the style sheet changes.
+    ombrin::setWhiteBackground(m_header);
     m_pageArea = new QWidget(this);
     m_pageArea->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_buttonArea = new QWidget(this);
@@ -84,7 +86,6 @@ void COmWizard_Standard::InitializeWidgets()
     createPageArea();
     createButtons();
     createHeader();
-    ombrin::setWhiteBackground(m_header);
     ombrin::setWhiteBackground(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     connectButtons();

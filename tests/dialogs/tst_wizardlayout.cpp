@@ -123,6 +123,18 @@ private Q_SLOTS:
         }
     }
 
+    void headerStaysWhiteWhenTheStyleSheetChanges()
+    {
+        const Pages pages(1);
+        Mission mission(pages);
+        qApp->setStyleSheet("QToolTip { color: red }"_q);
+        COmWizard_Standard wizard;
+        wizard.Set_Mission(&mission);
+        QVERIFY(activate(&wizard));
+        qApp->setStyleSheet(QString());
+        QCOMPARE(header(&wizard)->palette().color(QPalette::Window), QColor(Qt::white));
+    }
+
     void fixedSizeAndHiddenHeaderAreKept()
     {
         for (const bool beforeTheMission : {true, false}) {

@@ -416,7 +416,7 @@ private Q_SLOTS:
     void textIsReadableWithADarkPalette()
     {
         const QPalette before = QApplication::palette();
-        for (const bool dark : {false, true}) {
+        for (const bool dark : {false, true, false, true}) {
             QPalette palette = before;
             const QColor text = dark ? QColor(230, 230, 230) : QColor(31, 35, 39);
             palette.setColor(QPalette::WindowText, text);
@@ -427,7 +427,12 @@ private Q_SLOTS:
                      dark ? QColor(Qt::black) : text);
             for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
                 QCOMPARE(onlyTip()->palette().color(group, QPalette::Window), kGround);
+            if (dark) // with a style sheet, under which labels inherit nothing
+                qApp->setStyleSheet("QToolTip { color: red }"_q);
         }
+        qApp->setStyleSheet(QString());
+        QCOMPARE(labelWith(onlyTip(), kMessage)->palette().color(QPalette::WindowText),
+                 QColor(Qt::black));
         QApplication::setPalette(before);
     }
 

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/SpellingFolder.h"
 #include "support/TestCase.h"
 
@@ -261,21 +262,16 @@ private Q_SLOTS:
         QTemporaryDir folder;
         const QString path = folder.filePath("personal.txt"_q);
         const QByteArray strange = "\xEF\xBB\xBFgood\r\n\r\n\xFF\xFEz\nlast";
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(strange);
-        file.close();
+        writeFile(path, strange);
         PersonalWords words(folder.path());
         QVERIFY(words.contains("good"_q, true) && words.contains("last"_q, true));
         words.addWord("new"_q);
         words.addWord("good"_q);
         words.wordFile()->save();
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("\xFF\xFEz\nlast\nnew\ngood\n"));
-        file.close();
+        QCOMPARE(contentsOf(path), QByteArray("\xFF\xFEz\nlast\nnew\ngood\n"));
 
         // What cannot be read is not overwritten; the words last until the program ends.
-        QVERIFY(file.remove());
+        QVERIFY(QFile::remove(path));
         QVERIFY(QDir(folder.path()).mkdir("personal.txt"_q));
         PersonalWords unreadable(folder.path());
         QCOMPARE(unreadable.words(), QStringList());

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include <QtDesigner/QDesignerComponents>
@@ -160,9 +161,8 @@ private Q_SLOTS:
     void formsAreSavedAsTheyWere()
     {
         Editor editor;
-        QFile file(QCoreApplication::applicationDirPath() + "/testdata/allwidgets.ui"_q);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString contents = QString::fromUtf8(file.readAll());
+        const QString contents = QString::fromUtf8(ombrin::test::contentsOf(
+                QCoreApplication::applicationDirPath() + "/testdata/allwidgets.ui"_q));
         auto *const form = editor.open(contents);
         QVERIFY(form);
         auto *const window = qobject_cast<ombrin::OmWindow *>(form->mainContainer());

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "ui_allwidgets.h"
@@ -88,9 +89,8 @@ private Q_SLOTS:
                 "QSyntax|QProxy|OmScribbledZebraItem)(Q|Om|COmWizard_)\\w+"_q);
         QDirIterator headers(QStringLiteral(OMBRIN_HEADERS), {"*.h"_q});
         while (headers.hasNext()) {
-            QFile header(headers.next());
-            QVERIFY(header.open(QIODevice::ReadOnly));
-            const QRegularExpressionMatch found = widget.match(QString::fromUtf8(header.readAll()));
+            const auto found =
+                    widget.match(QString::fromUtf8(ombrin::test::contentsOf(headers.next())));
             if (found.hasMatch() && !notPlaced.contains(found.captured(1)))
                 expected.append(found.captured(1));
         }

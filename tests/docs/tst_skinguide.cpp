@@ -1,4 +1,5 @@
 #include "SourceFolder.h"
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include <ombrin/OmSkin.h>
@@ -9,9 +10,8 @@ using Sizes = QMap<QString, QString>;
 
 QStringList guideLines()
 {
-    QFile guide(QStringLiteral(OMBRIN_SOURCE_DIR "/docs/writing-a-skin.md"));
-    guide.open(QIODevice::ReadOnly);
-    return QString::fromUtf8(guide.readAll()).split(QLatin1Char('\n'));
+    const QString guide = QStringLiteral(OMBRIN_SOURCE_DIR "/docs/writing-a-skin.md");
+    return QString::fromUtf8(ombrin::test::contentsOf(guide)).split(QLatin1Char('\n'));
 }
 
 // "a_{b,c}" as "a_b" and "a_c".

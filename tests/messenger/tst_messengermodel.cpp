@@ -1,5 +1,6 @@
 // The messenger without its windows: what it reads, and what it makes of what is broken or hostile.
 
+#include "support/Files.h"
 #include "support/WidgetEvents.h"
 
 #include "model/ContactBook.h"
@@ -23,9 +24,7 @@ QByteArray json(QByteArray text)
 QString writeFile(const QTemporaryDir &folder, const QByteArray &contents)
 {
     const QString name = folder.filePath("file"_q);
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        return QString();
+    ombrin::test::writeFile(name, contents);
     return name;
 }
 

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "skin/ResourceFile.h"
@@ -38,12 +39,6 @@ QByteArray paletteFile(const QVector<int> &groups)
 QString testData(const char *name)
 {
     return QCoreApplication::applicationDirPath() + "/testdata/"_q + QLatin1String(name);
-}
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // What the probe reports, but for what \a keys name.
@@ -217,9 +212,7 @@ private Q_SLOTS:
         QDir(m_folder.filePath("skins"_q)).removeRecursively();
         for (const QString &place : places) {
             QVERIFY(QDir(m_folder.path()).mkpath(place + "/default"_q));
-            QFile file(m_folder.filePath(place + "/default/default.css"_q));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(place.toUtf8()) > 0);
-            file.close();
+            writeFile(m_folder.filePath(place + "/default/default.css"_q), place.toUtf8());
             const QJsonObject findings = runAndSeeLast(steps);
             QCOMPARE(findings.value("folder"_q).toString(), m_folder.filePath(place));
             QCOMPARE(findings.value("styleSheet"_q).toString(), place);
@@ -328,8 +321,7 @@ private:
 
     void write(const char *name, const QByteArray &bytes) const
     {
-        QFile file(m_folder.filePath("skins/"_q + QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        writeFile(m_folder.filePath("skins/"_q + QLatin1String(name)), bytes);
     }
 
     void makeFolder(const char *name) const

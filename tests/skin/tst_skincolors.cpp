@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include <algorithm>
@@ -83,9 +84,8 @@ private Q_SLOTS:
 
     void styleSheetIsValid()
     {
-        QFile file(skinFolder() + "/default/default.css"_q);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString styleSheet = QString::fromUtf8(file.readAll());
+        const QString styleSheet = QString::fromUtf8(
+                ombrin::test::contentsOf(skinFolder() + "/default/default.css"_q));
         QVERIFY(styleSheet.contains("QToolTip"_q));
 
         // Qt warns about a sheet that it cannot parse when the first widget is polished with it.

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/WidgetEvents.h"
 
 #include "skin/SkinPixmap.h"
@@ -71,7 +72,7 @@ private Q_SLOTS:
         const QString names[] = {"icon"_q, "icon@2x"_q, "icon@3x"_q};
         for (int density = 1; density <= 3; ++density) {
             if (present.contains(QString::number(density)))
-                QVERIFY(!write(names[density - 1], variantFile(density)).isEmpty());
+                write(names[density - 1], variantFile(density));
         }
         const QPixmap pixmap = skinPixmap(path(names[0]), screen);
         QCOMPARE(pixmap.isNull(), expected == 0);
@@ -199,9 +200,8 @@ private:
     QString write(const QString &name, const QByteArray &bytes) const
     {
         QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? path(name)
-                                                                                    : QString();
+        writeFile(path(name), bytes);
+        return path(name);
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;

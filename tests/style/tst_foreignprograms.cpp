@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 #include "support/XUser.h"
 
@@ -113,12 +114,10 @@ private:
     QString translation() const
     {
         const QString path = m_home.filePath("hello.ts"_q);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
-            qWarning("cannot write %s", qPrintable(path));
-        file.write("<!DOCTYPE TS><TS version='2.1' language='de'><context><name>Greetings</name>"
-                   "<message><source>Hello</source><translation>Hallo</translation></message>"
-                   "</context></TS>");
+        ombrin::test::writeFile(
+                path, "<!DOCTYPE TS><TS version='2.1' language='de'><context><name>Greetings</name>"
+                      "<message><source>Hello</source><translation>Hallo</translation></message>"
+                      "</context></TS>");
         return path;
     }
 
@@ -126,9 +125,7 @@ private:
     QString helpCollection() const
     {
         const auto write = [this](const char *name, const QByteArray &text) {
-            QFile file(m_home.filePath(QLatin1String(name)));
-            if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-                qWarning("cannot write %s", name);
+            ombrin::test::writeFile(m_home.filePath(QLatin1String(name)), text);
         };
         write("page.html", "<html><head><title>Hello</title></head>"
                            "<body bgcolor='#2468ac'>Hello</body></html>");

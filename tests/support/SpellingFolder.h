@@ -1,11 +1,10 @@
 #pragma once
 
 #include "core/SpellingBackend.h"
-#include "support/Text.h"
+#include "support/Files.h"
 
 #include <ombrin/OmSpelling.h>
 
-#include <QtCore/QFile>
 #include <QtCore/QMutex>
 #include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
@@ -19,9 +18,8 @@ class WordListBackend : public SpellingBackend
 public:
     explicit WordListBackend(const SpellingFiles &files)
     {
-        QFile file(files.words);
-        if (file.open(QIODevice::ReadOnly))
-            m_words = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')).mid(1);
+        const QString list = QString::fromUtf8(contentsOf(files.words));
+        m_words = list.split(QLatin1Char('\n')).mid(1);
         m_words.removeAll(QString());
     }
 
@@ -66,9 +64,7 @@ public:
 
     void write(const QString &name, const QByteArray &contents) const
     {
-        QFile file(filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-            qFatal("%s cannot be written.", qPrintable(file.fileName()));
+        writeFile(filePath(name), contents);
     }
 
     /// \a words as they are to stand in the file.

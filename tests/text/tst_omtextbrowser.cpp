@@ -1,4 +1,5 @@
 #include "support/FileDialogUser.h"
+#include "support/Files.h"
 #include "support/MenuUser.h"
 #include "support/WidgetEvents.h"
 
@@ -30,12 +31,6 @@ QByteArray hugePicture()
     return picture("bmp").replace(18, 8, extent + extent);
 }
 
-void write(const QString &path, const QByteArray &data)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
-}
-
 QStringList entries(const QMenu *menu)
 {
     QStringList texts;
@@ -57,7 +52,7 @@ protected:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_received = m_folder->filePath("a smile&y#1.png"_q);
-        write(m_received, picture());
+        writeFile(m_received, picture());
         ombrin::OmSettings::instance().setFile(m_folder->filePath("settings.ini"_q));
         QDir(ombrin::OmDir::smileysPath(false)).removeRecursively();
         m_browser = new OmTextBrowser;
@@ -232,9 +227,7 @@ private Q_SLOTS:
 #else
         const quint16 checksum = qChecksum(data.constData(), static_cast<uint>(data.size()));
 #endif
-        QFile smiley(smileys.filePath(QString::number(checksum)));
-        QVERIFY(smiley.open(QIODevice::ReadOnly));
-        QCOMPARE(smiley.readAll(), data);
+        QCOMPARE(contentsOf(smileys.filePath(QString::number(checksum))), data);
     }
 
     void picturesAreSavedAsJpeg()
@@ -301,12 +294,12 @@ private Q_SLOTS:
         if (kind == "pipe"_q)
             QCOMPARE(QProcess::execute("mkfifo"_q, {path}), 0);
         else
-            write(path, kind == "huge"_q         ? hugePicture()
-                        : kind == "no picture"_q ? QByteArray("GIF89a but no more")
-                        : kind == "drawing"_q
-                                ? QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>")
-                        : kind == "empty"_q ? QByteArray()
-                                            : picture());
+            writeFile(path, kind == "huge"_q         ? hugePicture()
+                            : kind == "no picture"_q ? QByteArray("GIF89a but no more")
+                            : kind == "drawing"_q
+                                    ? QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>")
+                            : kind == "empty"_q ? QByteArray()
+                                                : picture());
         if (kind == "large file"_q) // which takes no room on the disk
             QVERIFY(QFile(path).resize(1024 * 1024 * 1024));
         const QString source = sources.value(kind, path);

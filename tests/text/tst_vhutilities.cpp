@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include <ombrin/vhutilities.h>
@@ -147,9 +148,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString path = folder.filePath("file"_q);
         QVERIFY(CreateEmptyFile(path));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
-        file.close();
+        ombrin::test::writeFile(path, "old");
         QVERIFY(CreateEmptyFile(path));
         QCOMPARE(QFileInfo(path).size(), 0);
 

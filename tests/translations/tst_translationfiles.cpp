@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 namespace {
@@ -13,13 +14,10 @@ using Messages = QMap<QStringList, Message>;
 
 Messages readFile(const QString &name)
 {
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        return Messages();
     Messages found;
     QStringList key({QString(), QString(), QString()});
     Message message;
-    QXmlStreamReader xml(&file);
+    QXmlStreamReader xml(ombrin::test::contentsOf(name));
     while (!xml.atEnd()) {
         const auto token = xml.readNext();
         if (token == QXmlStreamReader::EndElement && xml.name() == "message"_q) {
@@ -185,9 +183,7 @@ private Q_SLOTS:
                 // Examples on a form that is being designed, as a form's own texts are.
                 if (name.endsWith("/SampleContents.cpp"_q))
                     continue;
-                QFile file(name);
-                QVERIFY(file.open(QIODevice::ReadOnly));
-                QString source = QString::fromUtf8(file.readAll());
+                QString source = QString::fromUtf8(ombrin::test::contentsOf(name));
                 source.remove(QRegularExpression("//[^\\n]*"_q));
                 for (auto found = showing.globalMatch(source); found.hasNext(); ++calls) {
                     QString shown = argumentsAt(source.mid(found.next().capturedEnd()));

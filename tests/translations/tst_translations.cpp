@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include <ombrin/COmWizard_Standard.h>
@@ -74,13 +75,12 @@ private Q_SLOTS:
         const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
                           + "/ombrin/translations"_q);
         QVERIFY(folder.mkpath("."_q));
-        QFile file(folder.filePath("ombringui_sw.qm"_q));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no translation") > 0);
-        file.close();
+        const QString file = folder.filePath("ombringui_sw.qm"_q);
+        ombrin::test::writeFile(file, "no translation");
         QVERIFY(OmTranslation::load(QLocale(QLocale::German)));
         QVERIFY(!OmTranslation::load(QLocale(QLocale::Swahili)));
         QCOMPARE(yesInThisLanguage(), "&Ja"_q);
-        QVERIFY(file.remove());
+        QVERIFY(QFile::remove(file));
     }
 
     void openWidgetsChangeTheirLanguage()

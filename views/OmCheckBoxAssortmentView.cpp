@@ -35,6 +35,13 @@ void place(QWidget *widget, const QRect &wanted)
         widget->setGeometry(geometry);
 }
 
+void whiten(QWidget *widget, QPalette::ColorRole role)
+{
+    QPalette palette = widget->palette();
+    palette.setBrush(role, QBrush(Qt::white));
+    widget->setPalette(palette);
+}
+
 void showOrHide(QWidget *widget, bool visible)
 {
     if (widget->isHidden() == visible)
@@ -191,14 +198,15 @@ void OmCheckBoxAssortmentView::createFrame()
     m_frame = new QFrame(this);
     m_frame->setFrameShape(QFrame::StyledPanel);
     m_frame->setFrameShadow(QFrame::Plain);
-    QPalette palette = m_frame->palette();
-    palette.setBrush(m_frame->backgroundRole(), QBrush(Qt::white));
-    m_frame->setPalette(palette);
+    whiten(m_frame, m_frame->backgroundRole());
     m_frame->setAutoFillBackground(true);
 
     m_listWidget = new QListWidget(m_frame);
     m_listWidget->setFrameShape(QFrame::NoFrame);
     m_listWidget->setSpacing(1);
+    // Under a style sheet the one does not inherit from the other.
+    whiten(m_listWidget, QPalette::Base);
+    whiten(m_listWidget->viewport(), QPalette::Base);
 }
 
 // Everything that changes ends here.

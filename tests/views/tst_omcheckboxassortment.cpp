@@ -78,14 +78,21 @@ private Q_SLOTS:
 
     void colorsSurviveStyleSheets()
     {
+        const QPalette before = QApplication::palette();
+        QPalette dark = before;
+        dark.setColor(QPalette::Base, Qt::black);
+        QApplication::setPalette(dark);
         qApp->setStyleSheet("QToolTip { color: blue }"_q);
         add("A", true, Qt::red);
         QWidget window;
         m_view->setParent(&window);
         window.show();
         QCOMPARE(checkBox(0)->palette().color(QPalette::WindowText), QColor(Qt::red));
+        QCOMPARE(rows()->viewport()->palette().color(QPalette::Base), QColor(Qt::white));
         qApp->setStyleSheet(QString());
         QCOMPARE(checkBox(0)->palette().color(QPalette::WindowText), QColor(Qt::red));
+        QCOMPARE(rows()->viewport()->palette().color(QPalette::Base), QColor(Qt::white));
+        QApplication::setPalette(before);
     }
 
     void clicksAndValuesAreTold()

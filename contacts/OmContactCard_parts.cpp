@@ -38,13 +38,32 @@ Layout *createTightLayout()
     return layout;
 }
 
-// The text may come from other people.
-OmLabel *createTextLabel(QWidget *parent)
+/// A text that may come from other people. It begins at the picture, whichever way it runs.
+class CardText : public OmLabel
 {
-    auto *label = new OmLabel(true, parent);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
+public:
+    explicit CardText(QWidget *parent)
+        : OmLabel(true, parent)
+    {
+        setTextFormat(Qt::PlainText);
+        beginAtPicture();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        OmLabel::changeEvent(event);
+        if (event->type() == QEvent::LayoutDirectionChange)
+            beginAtPicture();
+    }
+
+private:
+    void beginAtPicture()
+    {
+        const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+        setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
+    }
+};
 
 bool breaksLine(QChar c)
 {
@@ -102,8 +121,8 @@ void OmContactCard::createFace()
 
 QLayout *OmContactCard::createTextColumn()
 {
-    m_aliasLabel = createTextLabel(this);
-    m_statusLabel = createTextLabel(this);
+    m_aliasLabel = new CardText(this);
+    m_statusLabel = new CardText(this);
     m_indicatorLabel = new QLabel(this);
     m_indicatorLabel->setFixedSize(kIndicatorSize);
     m_toolRow = createTightLayout<QHBoxLayout>();

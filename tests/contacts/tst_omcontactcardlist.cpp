@@ -235,6 +235,8 @@ private Q_SLOTS:
         list.setLayoutDirection(Qt::RightToLeft);
         settle();
         QCOMPARE(avatar->geometry(), mirrored);
+        for (const OmLabel *label : card->findChildren<OmLabel *>())
+            QVERIFY(label->text().isEmpty() || label->alignment().testFlag(Qt::AlignRight));
     }
 
     void surroundingsStayAlone()

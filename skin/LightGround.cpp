@@ -20,14 +20,12 @@ bool hasColorOfApplication(const QWidget *widget)
     return textColor(widget->palette()) == textColor(QApplication::palette(widget));
 }
 
-void blackenLightText(QWidget *widget)
+void blackenText(QWidget *widget)
 {
     QPalette palette = widget->palette();
-    if (qGray(textColor(palette).rgb()) <= kLightestText)
-        return;
-    palette.setColor(QPalette::WindowText, Qt::black);
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, Qt::darkGray);
-    widget->setPalette(palette);
+    blackenLightText(&palette, QPalette::WindowText);
+    if (textColor(palette) != textColor(widget->palette()))
+        widget->setPalette(palette);
 }
 
 class TextKeeper : public QObject
@@ -36,7 +34,7 @@ public:
     explicit TextKeeper(QWidget *widget)
         : QObject(widget)
     {
-        blackenLightText(widget);
+        blackenText(widget);
         widget->installEventFilter(this);
         const auto labels = widget->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
         for (QLabel *label : labels)
@@ -81,11 +79,19 @@ private:
         if (isLabel && widget->parent() != parent())
             widget->removeEventFilter(this);
         else if (mayInherit || hasColorOfApplication(widget))
-            blackenLightText(widget);
+            blackenText(widget);
     }
 };
 
 } // namespace
+
+void blackenLightText(QPalette *palette, QPalette::ColorRole role)
+{
+    if (qGray(palette->color(QPalette::Active, role).rgb()) <= kLightestText)
+        return;
+    palette->setColor(role, Qt::black);
+    palette->setColor(QPalette::Disabled, role, Qt::darkGray);
+}
 
 void keepTextReadable(QWidget *widget)
 {

@@ -1,5 +1,6 @@
 #include <ombrin/OmStyle2.h>
 
+#include "skin/LightGround.h"
 #include "skin/OmStyle2_p.h"
 
 #include <QtGui/QPainter>
@@ -147,6 +148,13 @@ void OmStyle2::drawControl(ControlElement element, const QStyleOption *option, Q
         // A tool box asks for nothing more, and its captions must be seen.
         if (isA(widget, "QToolBox"))
             proxy()->drawControl(CE_ToolBoxTabLabel, option, painter, widget);
+        break;
+    case CE_ToolBoxTabLabel:
+        if (const auto *tab = qstyleoption_cast<const QStyleOptionToolBox *>(option)) {
+            QStyleOptionToolBox legible(*tab); // on a ground that is light in every skin
+            blackenLightText(&legible.palette, QPalette::ButtonText);
+            QProxyStyle::drawControl(element, &legible, painter, widget);
+        }
         break;
     case CE_ToolBoxTabShape:
         // What a style sheet on top asks for in place of the whole tab.

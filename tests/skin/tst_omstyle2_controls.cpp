@@ -159,6 +159,13 @@ private Q_SLOTS:
                     kGround);
             QCOMPARE(drawn(QStyle::CE_ToolBoxTab, tab), expected);
             QCOMPARE(drawn(QStyle::CE_ToolBoxTabShape, tab), expected); // under a style sheet
+
+            tab.palette.setColor(QPalette::ButtonText, Qt::black);
+            const QImage caption = drawn(QStyle::CE_ToolBoxTabLabel, tab);
+            tab.palette.setColor(QPalette::ButtonText, Qt::white); // as in a dark skin
+            QCOMPARE(drawn(QStyle::CE_ToolBoxTabLabel, tab), caption);
+            tab.text.clear();
+            QVERIFY(drawn(QStyle::CE_ToolBoxTabLabel, tab) != caption);
         }
     }
 

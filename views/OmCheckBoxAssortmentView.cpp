@@ -9,6 +9,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QListWidget>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <iterator>
@@ -299,6 +300,8 @@ void OmCheckBoxAssortmentView::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         nameButtons();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        resizeWidget();
     // The frame hears of another style after the view.
     if (event->type() == QEvent::StyleChange)
         QMetaObject::invokeMethod(this, &OmCheckBoxAssortmentView::resizeWidget,
@@ -309,10 +312,18 @@ void OmCheckBoxAssortmentView::resizeWidget()
 {
     const int addWidth = m_isAddButtonVisible ? kHeaderHeight : 0;
     const int buttonsLeft = width() - kHeaderHeight;
-    place(m_header, QRect(0, 0, width(), kHeaderHeight));
-    place(m_retractButton, QRect(buttonsLeft, 0, kHeaderHeight, kHeaderHeight));
-    place(m_addButton, QRect(buttonsLeft - addWidth, 0, addWidth, kHeaderHeight));
-    place(m_label, QRect(kLabelLeft, 0, width() - kBesideLabel - addWidth, kHeaderHeight));
+    const QRect header(0, 0, width(), kHeaderHeight);
+    const auto placeInHeader = [&](QWidget *widget, int left, int partWidth) {
+        place(widget, QStyle::visualRect(layoutDirection(), header,
+                                         QRect(left, 0, partWidth, kHeaderHeight)));
+    };
+    place(m_header, header);
+    placeInHeader(m_retractButton, buttonsLeft, kHeaderHeight);
+    placeInHeader(m_addButton, buttonsLeft - addWidth, addWidth);
+    placeInHeader(m_label, kLabelLeft, width() - kBesideLabel - addWidth);
+    // The caption begins at the edge, whichever way it runs.
+    m_label->setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)
+                          | Qt::AlignAbsolute | Qt::AlignVCenter);
     place(m_frame, QRect(0, kHeaderHeight, width(), m_isRetracted ? 0 : height() - kHeaderHeight));
     const int beside = kListMargin + m_frame->frameWidth();
     place(m_listWidget,

@@ -177,6 +177,9 @@ private Q_SLOTS:
         QCOMPARE(frame->geometry(), QRect(0, 24, 200, 126));
         const int beside = 5 + frame->frameWidth();
         QCOMPARE(rows()->geometry(), QRect(5, 5, 200 - beside, 126 - beside));
+        m_view->setLayoutDirection(Qt::RightToLeft);
+        QCOMPARE(label->geometry(), QRect(56, 0, 136, 24));
+        QCOMPARE(button(1)->geometry(), QRect(0, 0, 24, 24));
         m_view->setStyleSheet("QFrame { border: 6px solid red }"_q);
         QTRY_COMPARE_WITH_TIMEOUT(rows()->size(), QSize(200 - 11, 126 - 11), 20000);
         m_view->setStyleSheet(QString());

@@ -104,7 +104,7 @@ private Q_SLOTS:
         row("--page", "page");
         row("--screenshots= --list", "--screenshots");
         row("window", "'window'");
-        row("-platform offscreen --shoot", "shoot");
+        row("-style fusion --shoot", "shoot");
     }
     void wrongArgumentsAreRefusedWithAReason()
     {
@@ -117,9 +117,7 @@ private Q_SLOTS:
 
     void optionsOfQtAreTaken()
     {
-        QCOMPARE(runGallery({"--list"_q, "-style"_q, "fusion"_q, "-platform"_q, "offscreen"_q})
-                         .exitCode,
-                 0);
+        QCOMPARE(runGallery({"--list"_q, "-style"_q, "fusion"_q, "-reverse"_q}).exitCode, 0);
     }
 };
 

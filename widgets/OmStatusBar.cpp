@@ -27,6 +27,9 @@ QLinearGradient backgroundFor(const QRect &rect)
 OmStatusBar::OmStatusBar(QWidget *parent)
     : QStatusBar(parent)
 {
+    // Its base class has polished itself already. Polished anew when it is shown, it would lose
+    // what palette and font it is given until then, if there is a style sheet.
+    ensurePolished();
     keepTextReadable(this);
 }
 

@@ -40,6 +40,22 @@ private Q_SLOTS:
         QCOMPARE(bar.palette().color(QPalette::WindowText), QColor(Qt::yellow));
     }
 
+    void paletteAndFontAreKeptUnderAStyleSheet()
+    {
+        qApp->setStyleSheet("QToolTip { color: blue }"_q);
+        const auto restore = qScopeGuard([] { qApp->setStyleSheet(QString()); });
+        OmStatusBar bar;
+        QPalette palette = bar.palette();
+        palette.setColor(QPalette::WindowText, Qt::red);
+        bar.setPalette(palette);
+        QFont font = bar.font();
+        font.setPixelSize(30);
+        bar.setFont(font);
+        bar.show();
+        QCOMPARE(bar.palette().color(QPalette::WindowText), QColor(Qt::red));
+        QCOMPARE(bar.font().pixelSize(), 30);
+    }
+
     void messagesAndWidgetsLieOverTheGradient()
     {
         OmStatusBar bar;

@@ -238,7 +238,7 @@ QVariant ChatHistory::loadResource(int type, const QUrl &name)
     const QSize size = shownSize(picture.size()) * qApp->devicePixelRatio();
     return size.width() < picture.width()
                    ? picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                   : picture;
+                   : resource;
 }
 
 // Whoever reads the end goes on reading the end.

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using ombrin::DesktopPicture;
 using ombrin::OmImageMaskedButton;
@@ -82,13 +83,16 @@ OmScreenShooter_Private::OmScreenShooter_Private(unsigned int delay, bool showNo
     connect(qApp, &QCoreApplication::aboutToQuit, this, &OmScreenShooter_Private::reportFailure);
     if (showNowButton)
         this->showNowButton();
+    // First: nothing is to happen while a window is being shown.
+    if (delay > 0)
+        showNextNumber();
     if (!m_waitsForButton) {
         constexpr auto kLongest = static_cast<unsigned int>(std::numeric_limits<int>::max());
         callLater(static_cast<int>(std::min(delay, kLongest)), this,
                   &OmScreenShooter_Private::slotOnDelayFinished);
     }
     if (delay > 0)
-        slotOnDelayProgress();
+        callLater(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
 }
 
 OmScreenShooter_Private::~OmScreenShooter_Private()
@@ -118,19 +122,28 @@ void OmScreenShooter_Private::showNowButton()
 
 void OmScreenShooter_Private::slotOnDelayProgress()
 {
-    if (m_triggered)
-        return;
-    // Showing a window can run the event loop, in which the delay may end.
-    callLater(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
+    if (!m_triggered && showNextNumber())
+        callLater(kSecond, this, &OmScreenShooter_Private::slotOnDelayProgress);
+}
+
+// Whether the request is there and still counts. Showing a window can run the event loop, in which
+// the delay may end. The image must not be deleted then, which is why nobody knows it yet.
+bool OmScreenShooter_Private::showNextNumber()
+{
     m_remainingSeconds = std::max(m_remainingSeconds - 1, 0);
-    const QPointer<OmImageMaskedWidget> previous = m_countdownImage;
-    m_countdownImage = new OmImageMaskedWidget(nullptr, kWindowFlags);
-    m_countdownImage->setImage(ombrin::skinImage(countdownImage(m_remainingSeconds)));
-    placeInTheMiddle(m_countdownImage, -m_countdownImage->height() - kMiddleDistance);
-    m_countdownImage->setWindowOpacity(kCountdownOpacity);
-    m_countdownImage->show();
+    const QPointer<OmImageMaskedWidget> image = new OmImageMaskedWidget(nullptr, kWindowFlags);
+    image->setImage(ombrin::skinImage(countdownImage(m_remainingSeconds)));
+    placeInTheMiddle(image, -image->height() - kMiddleDistance);
+    image->setWindowOpacity(kCountdownOpacity);
+    const QPointer<OmScreenShooter_Private> guard(this);
+    image->show();
+    if (!guard || m_triggered) {
+        removeFromScreen(image);
+        return false;
+    }
     // After the new one is there, so that the number never flickers away.
-    removeFromScreen(previous);
+    removeFromScreen(std::exchange(m_countdownImage, image));
+    return true;
 }
 
 void OmScreenShooter_Private::hideWidgets()

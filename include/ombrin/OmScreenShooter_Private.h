@@ -57,6 +57,7 @@ private:
     friend class OmScreenShooter_FullscreenCutter;
 
     void showNowButton();
+    bool showNextNumber();
     void hideWidgets();
     void trigger();
     void usePicture(const ombrin::DesktopPicture &picture);

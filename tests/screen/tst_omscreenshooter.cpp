@@ -129,6 +129,25 @@ private Q_SLOTS:
         QVERIFY(!countdown());
     }
 
+    void delayMayEndWhileTheCountdownIsBeingShown()
+    {
+        // As window systems do that let events through while they show a window.
+        class SlowToShow : public QObject
+        {
+            bool eventFilter(QObject *shown, QEvent *event) override
+            {
+                if (event->type() == QEvent::Show && qobject_cast<OmImageMaskedWidget *>(shown)) {
+                    qApp->removeEventFilter(this);
+                    QTest::qWait(1200);
+                }
+                return false;
+            }
+        } slowToShow;
+        shoot(false, 1500);
+        qApp->installEventFilter(&slowToShow); // when the next number is shown
+        QTRY_COMPARE_WITH_TIMEOUT(m_reports, QStringList("shot"_q), 20000);
+    }
+
     void everyRequestReportsOnce_data()
     {
         // act: once the button or the cutter is there, which may be null
